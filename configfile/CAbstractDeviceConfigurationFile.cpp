@@ -1,0 +1,335 @@
+#include "configfile/CAbstractDeviceConfigurationFile.h"
+
+#include "vocabulary/NVornXmlTags.h"
+#include "vocabulary/TextTables.h"
+
+#include <QDomDocument>
+
+using namespace NVornXmlTags;
+
+namespace {
+
+template <typename Value>
+QMap<QString, Value> valuesByText(const TextTables::Table<Value> &table)
+{
+    QMap<QString, Value> values;
+    for (const TextTables::SRow<Value> &row : table) {
+        values.insert(row.text, row.value);
+    }
+    return values;
+}
+
+/** @p parent if it is an element of the given kind already, else a new one at its end. */
+QDomElement entryIn(QDomElement parent, const QString &tag)
+{
+    if (parent.tagName() == tag || parent.tagName() == TAG_FILE) {
+        return parent;
+    }
+    return parent.appendChild(parent.ownerDocument().createElement(tag)).toElement();
+}
+
+bool isFilled(const QDomElement &element, const QString &tag)
+{
+    return element.tagName() == tag && element.hasChildNodes();
+}
+
+/** The first child element named @p tag for which @p matches holds; null if there is none. */
+template <typename Predicate>
+QDomElement findChild(const QDomElement &parent, const QString &tag, Predicate matches)
+{
+    QDomElement child = parent.firstChildElement(tag);
+    while (!child.isNull() && !matches(child)) {
+        child = child.nextSiblingElement(tag);
+    }
+    return child;
+}
+
+} // namespace
+
+CAbstractDeviceConfigurationFile::CAbstractDeviceConfigurationFile(ICLogfile *logfile)
+    : ICDeviceConfigurationFile(logfile),
+      m_paramFileTypes(valuesByText(TextTables::paramFileTypes())),
+      m_deviceClasses(valuesByText(TextTables::deviceClasses()))
+{
+}
+
+CAbstractDeviceConfigurationFile::~CAbstractDeviceConfigurationFile() = default;
+
+QDomElement
+CAbstractDeviceConfigurationFile::findDeviceElement(const QDomElement &element) const
+{
+    return existingDomElement(TAG_DEVICE, element);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findConfigElement(const QDomElement &element) const
+{
+    const QDomElement device = element.isNull() ? findDeviceElement() : element;
+    return device.firstChildElement(TAG_CONFIG);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findElementInConfigElement(const QString &tag,
+                                                             const QDomElement &element) const
+{
+    const bool isConfig = element.tagName() == TAG_CONFIG;
+    return (isConfig ? element : findConfigElement(element)).firstChildElement(tag);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findParamFilesElement(const QDomElement &element) const
+{
+    return (element.isNull() ? findConfigElement() : element).firstChildElement(TAG_PARAMETERFILES);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findFilesElement(const QDomElement &element) const
+{
+    return (element.isNull() ? findConfigElement() : element).firstChildElement(TAG_FILES);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findPluginsElement(const QDomElement &element) const
+{
+    return (element.isNull() ? findConfigElement() : element).firstChildElement(TAG_PLUGINS);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findDescriptionElement(const QDomElement &element) const
+{
+    return existingDomElement(TAG_DESCRIPTION, element);
+}
+
+QDomElement CAbstractDeviceConfigurationFile::findOpcUAElement(const QDomElement &element) const
+{
+    return findElementInConfigElement(TAG_OPCUA, element);
+}
+
+QDomElement
+CAbstractDeviceConfigurationFile::findEtherCatMasterElement(const QDomElement &element) const
+{
+    return findElementInConfigElement(TAG_ETHERCATMASTER, element);
+}
+
+QDomElement CAbstractDeviceConfigurationFile::deviceDomElement()
+{
+    return domElement(TAG_DEVICE, QDomElement());
+}
+
+QDomElement CAbstractDeviceConfigurationFile::configDomElement(QDomElement device)
+{
+    const QDomElement parent = device.isNull() ? deviceDomElement() : device;
+    return domElement(TAG_CONFIG, parent);
+}
+
+QDomElement CAbstractDeviceConfigurationFile::paramFilesDomElement(QDomElement element)
+{
+    const QDomElement parent = element.isNull() ? configDomElement(element) : element;
+    return domElement(TAG_PARAMETERFILES, parent);
+}
+
+QDomElement CAbstractDeviceConfigurationFile::pluginsDomElement(QDomElement element)
+{
+    const QDomElement parent = element.isNull() ? configDomElement(element) : element;
+    return domElement(TAG_PLUGINS, parent);
+}
+
+void CAbstractDeviceConfigurationFile::appendFileElement(const CFileElement &file,
+                                                         QDomElement parent)
+{
+    if (parent.isNull()) {
+        return;
+    }
+    const QDomElement entry = entryIn(parent, TAG_FILE);
+    setNodeValue(TAG_NAME, file.fileName(), entry);
+    setNodeValue(TAG_COMMENT, file.comment(), entry);
+    setNodeValue(TAG_DEVICE_DIR, file.devicePath(), entry);
+    setNodeValue(TAG_PROJECT_DIR, file.projectPath(), entry);
+}
+
+void CAbstractDeviceConfigurationFile::insertFileElement(const CFileElement &file,
+                                                         QDomElement parent)
+{
+    if (file.isNull()) {
+        return;
+    }
+    const QDomElement present = findChild(parent, TAG_FILE, [&](const QDomElement &entry) {
+        CFileElement candidate;
+        fileElement(candidate, entry);
+        return candidate == file;
+    });
+    appendFileElement(file, present.isNull() ? parent : present);
+}
+
+void CAbstractDeviceConfigurationFile::fileElement(CFileElement &file,
+                                                   const QDomElement &element) const
+{
+    file.clear();
+    if (isFilled(element, TAG_FILE)) {
+        file.setFileName(getNodeValue(TAG_NAME, element));
+        file.setComment(getNodeValue(TAG_COMMENT, element));
+        file.setDevicePath(getNodeValue(TAG_DEVICE_DIR, element));
+        file.setProjectPath(getNodeValue(TAG_PROJECT_DIR, element));
+    }
+}
+
+void CAbstractDeviceConfigurationFile::fileElements(QList<CFileElement> &files,
+                                                    const QDomElement &element) const
+{
+    files.clear();
+    for (QDomElement entry = element.firstChildElement(TAG_FILE); !entry.isNull();
+         entry = entry.nextSiblingElement(TAG_FILE)) {
+        CFileElement file;
+        fileElement(file, entry);
+        if (!file.isNull()) {
+            files.append(file);
+        }
+    }
+}
+
+void CAbstractDeviceConfigurationFile::insertPluginElement(const CPluginElement &plugin,
+                                                           QDomElement parent)
+{
+    const QDomElement present = findChild(parent, TAG_PLUGIN, [&](const QDomElement &entry) {
+        return getNodeValue(TAG_NAME, entry) == plugin.name();
+    });
+    appendPluginElement(plugin, present.isNull() ? parent : present);
+}
+
+void CAbstractDeviceConfigurationFile::pluginElement(CPluginElement &plugin,
+                                                     const QDomElement &element) const
+{
+    plugin.clear();
+    if (isFilled(element, TAG_PLUGIN)) {
+        plugin.setName(getNodeValue(TAG_NAME, element));
+        plugin.setVersion(getNodeValue(TAG_VERSION, element));
+        bool ok = false;
+        const int priority = getNodeValue(TAG_PRIORITY, element).toInt(&ok);
+        if (ok) {
+            plugin.setPriority(priority);
+        }
+    }
+}
+
+void CAbstractDeviceConfigurationFile::appendParamFileElement(const CParamFileElement &file,
+                                                              QDomElement parent)
+{
+    if (!file.isValid() || parent.isNull()) {
+        return;
+    }
+    QDomElement entry = entryIn(parent, TAG_FILE);
+    entry.setAttribute(ATTR_TYPE, typeToStr(file.type()));
+    setNodeValue(TAG_NAME, file.name(), entry);
+    setNodeValue(TAG_COMMENT, file.comment(), entry);
+}
+
+void CAbstractDeviceConfigurationFile::insertParamFileElement(const CParamFileElement &file,
+                                                              QDomElement parent)
+{
+    const QDomElement present = findChild(parent, TAG_FILE, [&](const QDomElement &entry) {
+        return getNodeValue(TAG_NAME, entry) == file.name();
+    });
+    appendParamFileElement(file, present.isNull() ? parent : present);
+}
+
+void CAbstractDeviceConfigurationFile::paramFileElement(CParamFileElement &file,
+                                                        const QDomElement &element) const
+{
+    file.clear();
+    if (isFilled(element, TAG_FILE)) {
+        file.setType(strToType(element.attribute(ATTR_TYPE)));
+        file.setName(getNodeValue(TAG_NAME, element));
+        file.setComment(getNodeValue(TAG_COMMENT, element));
+    }
+}
+
+QString CAbstractDeviceConfigurationFile::typeToStr(NvrnGlobal::EParamFileType type) const
+{
+    return TextTables::text(TextTables::paramFileTypes(), type);
+}
+
+NvrnGlobal::EParamFileType CAbstractDeviceConfigurationFile::strToType(const QString &text) const
+{
+    return m_paramFileTypes.value(text, NvrnGlobal::PARAM_FILE_UNDEFINED);
+}
+
+QString
+CAbstractDeviceConfigurationFile::deviceClassToStr(NDeviceConf::EDeviceClass deviceClass) const
+{
+    return TextTables::text(TextTables::deviceClasses(), deviceClass);
+}
+
+NDeviceConf::EDeviceClass
+CAbstractDeviceConfigurationFile::strToDeviceClass(const QString &text) const
+{
+    return m_deviceClasses.value(text, NDeviceConf::DEVICE_CLASS_UNDEFINED);
+}
+
+void CAbstractDeviceConfigurationFile::appendFileString(const QString &fileName,
+                                                        QDomElement parent)
+{
+    if (!parent.isNull()) {
+        setNodeValue(TAG_NAME, fileName, entryIn(parent, TAG_FILE));
+    }
+}
+
+void CAbstractDeviceConfigurationFile::fileStrings(QStringList &fileNames,
+                                                   const QDomElement &element) const
+{
+    fileNames.clear();
+    for (QDomElement entry = element.firstChildElement(TAG_FILE); !entry.isNull();
+         entry = entry.nextSiblingElement(TAG_FILE)) {
+        QString fileName;
+        fileString(fileName, entry);
+        fileNames.append(fileName);
+    }
+}
+
+void CAbstractDeviceConfigurationFile::appendPluginElement(const CPluginElement &plugin,
+                                                           QDomElement parent)
+{
+    if (parent.isNull()) {
+        return;
+    }
+    const QDomElement entry = entryIn(parent, TAG_PLUGIN);
+    setNodeValue(TAG_NAME, plugin.name(), entry);
+    setNodeValue(TAG_VERSION, plugin.version(), entry);
+    setNodeValue(TAG_PRIORITY, QString::number(plugin.priority()), entry);
+}
+
+void CAbstractDeviceConfigurationFile::setFileElements(const QList<CFileElement> &files,
+                                                       const QString &tag, QDomElement parent)
+{
+    const QDomElement list = parent.ownerDocument().createElement(tag);
+    for (const CFileElement &file : files) {
+        appendFileElement(file, list);
+    }
+    replaceChildElement(list, parent);
+}
+
+void CAbstractDeviceConfigurationFile::setFileStringList(const QStringList &fileNames,
+                                                         const QString &tag, QDomElement parent)
+{
+    const QDomElement list = parent.ownerDocument().createElement(tag);
+    for (const QString &fileName : fileNames) {
+        appendFileString(fileName, list);
+    }
+    replaceChildElement(list, parent);
+}
+
+void CAbstractDeviceConfigurationFile::fileString(QString &fileName,
+                                                  const QDomElement &element) const
+{
+    fileName = isFilled(element, TAG_FILE) ? getNodeValue(TAG_NAME, element) : QString();
+}
+
+void CAbstractDeviceConfigurationFile::replaceChildElement(const QDomElement &element,
+                                                           QDomElement parent)
+{
+    const QDomElement present = parent.firstChildElement(element.tagName());
+    if (present.isNull()) {
+        parent.appendChild(element);
+    } else {
+        parent.replaceChild(element, present);
+    }
+}

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "elements/CDeviceBaseElement.h"
+#include "vocabulary/NvrnGlobal.h"
+#include "vocabulary/VrnDeviceCoreExport.h"
+
+#include <QString>
+#include <QStringList>
+
+/**
+ * The directory layout of a device; the one place that knows where something lies on it.
+ *
+ * There are two trees. The sm tree holds the log files, the configuration directory and one
+ * directory for each device configuration with its sub-devices. The opt tree holds the installed
+ * software: plug-ins, a configuration area, and for each device configuration its autostart,
+ * binary and configuration directories.
+ *
+ * Static operations take the name of the configuration, and of a sub-device its number; their
+ * const twins take the name from the device that the object holds a copy of. Directories are
+ * absolute and end in a separator. For an empty configuration name the directory of the
+ * configuration is empty, and everything below it is only its own last part: check the name first.
+ *
+ * Nothing here touches a disk. Static operations may be used from any thread, an object by one
+ * thread at a time.
+ */
+class VRNDEVICECORE_EXPORT CDeviceFileSystem
+{
+public:
+    explicit CDeviceFileSystem(const CDeviceBaseElement &device);
+    virtual ~CDeviceFileSystem();
+
+    // The sm tree
+
+    static QString smPath();
+    static QString smConfPath();
+    static QString smLogPath();
+    static QString smConfigurationsPath();
+    static QString smDevicePath(const QString &name);
+    QString smDevicePath() const;
+    static QString smDeviceConfPath(const QString &name);
+    QString smDeviceConfPath() const;
+    static QString smRelDeviceParamPath();
+    static QString smDeviceParamPath(const QString &name);
+    QString smDeviceParamPath() const;
+    static QString smSubDevicesPath(const QString &name);
+    QString smSubDevicesPath() const;
+    static QString smRelSubDevicePath(int n);
+    static QString smSubDevicePath(const QString &name, int n);
+    QString smSubDevicePath(int n) const;
+    static QString smSubDeviceFirmwarePath(const QString &name, int n);
+    QString smSubDeviceFirmwarePath(int n) const;
+    static QString smSubDeviceLogicPath(const QString &name, int n);
+    QString smSubDeviceLogicPath(int n) const;
+    static QString smRelSubDeviceParamPath(int n);
+    static QString smSubDeviceParamPath(const QString &name, int n);
+    QString smSubDeviceParamPath(int n) const;
+
+    // The opt tree
+
+    static QString optSMPath();
+    static QString optSMEtcConfPath();
+    static QString optSMPluginsBasePath();
+    static QString optSMPluginsPath();
+    static QString optSMConfigurationsPath();
+    static QString optSMDevicePath(const QString &name);
+    QString optSMDevicePath() const;
+    static QString optSMDeviceAutostartPath(const QString &name);
+    QString optSMDeviceAutostartPath() const;
+    static QString optSMDeviceBinPath(const QString &name);
+    QString optSMDeviceBinPath() const;
+    static QString optSMDeviceConfPath(const QString &name);
+    QString optSMDeviceConfPath() const;
+
+    // Where each kind of file is kept
+
+    static QString stdObjectDictionaryPath(const QString &name);
+    QString stdObjectDictionaryPath() const;
+    static QString stdFaultTextFilePath(const QString &name);
+    QString stdFaultTextFilePath() const;
+    /**
+     * The configuration area of the opt tree for the data bases of device, firmware, logic and
+     * option modules, which all configurations share; else the configuration's own parameters.
+     */
+    static QString stdParamFilePath(NvrnGlobal::EParamFileType type, const QString &name);
+    QString stdParamFilePath(NvrnGlobal::EParamFileType type) const;
+    static QString stdFpgaPath();
+    static QString stdPluginPath();
+    static QString stdOpcUaFilePath(const QString &name);
+    QString stdOpcUaFilePath() const;
+    static QString stdEtherCatMasterFilePath(const QString &name);
+    QString stdEtherCatMasterFilePath() const;
+
+    /**
+     * Every directory of a configuration in the sm tree, parents first; for each sub-device its
+     * own directory, firmware, logic and parameters. Empty when the name is empty.
+     */
+    static QStringList smPathList(const QString &name, unsigned int subDeviceCount);
+    /** As above, for the held device and as many sub-devices as it has; empty when it is null. */
+    QStringList smPathList() const;
+    /** Every directory of a configuration in the opt tree; empty when the name is empty. */
+    static QStringList optSMPathList(const QString &name);
+    /** As above, for the held device; empty when it is null. */
+    QStringList optSMPathList() const;
+
+    /**
+     * Where a project keeps what lies at @p path on the device: a path that begins with the name
+     * of @p device.
+     *
+     * A path that holds the name of the device's configuration loses that name and the directory
+     * of the configurations; it must lie in one of the maker's directories, and the device must
+     * not be null. Any other path must lie in the opt tree. Runs of separators become one.
+     * @return empty for a path that lies nowhere on the device; an empty configuration name counts
+     *         as not found in the path
+     */
+    static QString toRelativeProjectPath(const QString &path, const CDeviceBaseElement &device);
+    /** As above, for the held device. */
+    QString toRelativeProjectPath(const QString &path) const;
+
+private:
+    CDeviceBaseElement m_device;
+};

@@ -1,0 +1,265 @@
+#include "imported/CXmlAbstractVornFile.h"
+
+#include "imported/CDomDoc.h"
+#include "imported/CMessageBoardHelper.h"
+#include "imported/xml/CIndentingXmlWriter.h"
+#include "imported/xml/CStreamXmlReader.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+namespace {
+
+const QLatin1String VersionAttribute("version");
+const QLatin1String HeadTag("Head");
+const QLatin1String AuthorTag("Author");
+const QLatin1String DateTag("Date");
+const QLatin1String CommentTag("Comment");
+
+bool isXmlName(const QString &text)
+{
+    static const QRegularExpression name(QStringLiteral("\\A[\\pL_:][\\pL\\pN_:.-]*\\z"));
+    return name.match(text).hasMatch();
+}
+
+} // namespace
+
+class CXmlAbstractVornFilePrivate
+{
+    Q_DECLARE_TR_FUNCTIONS(CXmlAbstractVornFile)
+
+public:
+    CXmlAbstractVornFilePrivate(CXmlAbstractVornFile *file, ICLogfile *log)
+        : q(file), logfile(log)
+    {
+    }
+
+    /** Posts and hands out an error. @return false, so that callers can return the result */
+    bool fail(const QString &origin, const QString &reason, QString &errorText) const
+    {
+        errorText = origin.isEmpty() ? reason : QStringLiteral("%1: %2").arg(origin, reason);
+        CMessageBoardHelper::setDebugCritical(errorText, logfile);
+        return false;
+    }
+
+    bool load(const QByteArray &bytes, const QString &origin, const QString &documentType,
+              const QString &requiredVersion, QString &errorText)
+    {
+        QDomDocument loaded;
+        SXmlError error;
+        if (!reader->read(bytes, loaded, error)) {
+            QString place = QStringLiteral("%1:%2").arg(error.line).arg(error.column);
+            if (!origin.isEmpty()) {
+                place.prepend(origin + QLatin1Char(':'));
+            }
+            return fail(place, error.reason, errorText);
+        }
+        QDomElement root = loaded.documentElement();
+        if (root.tagName() != documentType) {
+            return fail(origin,
+                        tr("The document type is '%1', but '%2' is required.")
+                            .arg(root.tagName(), documentType),
+                        errorText);
+        }
+        const QString version = root.attribute(VersionAttribute);
+        if (version != requiredVersion) {
+            if (!q->handleVersionError(requiredVersion, version)) {
+                // Posted by the handler, which knows how its users call the document.
+                errorText = tr("The version is '%1', but '%2' is required.")
+                                .arg(version, requiredVersion);
+                return false;
+            }
+            root.setAttribute(VersionAttribute, requiredVersion);
+        }
+        document = loaded;
+        return true;
+    }
+
+    bool toBytes(const QString &origin, const QString &rootName, QByteArray &bytes,
+                 QString &errorText) const
+    {
+        if (document.documentElement().isNull()) {
+            return fail(origin, tr("There is no document to save."), errorText);
+        }
+        if (!isXmlName(rootName)) {
+            return fail(origin, tr("'%1' cannot be a document type.").arg(rootName), errorText);
+        }
+        QString reason;
+        return writer->write(document, rootName, bytes, reason) || fail(origin, reason, errorText);
+    }
+
+    CXmlAbstractVornFile *const q;
+    ICLogfile *const logfile;
+    QDomDocument document;
+    QFileDevice::Permissions permissions;
+    const std::unique_ptr<const IXmlReader> reader = std::make_unique<CStreamXmlReader>();
+    const std::unique_ptr<const IXmlWriter> writer = std::make_unique<CIndentingXmlWriter>();
+};
+
+CXmlAbstractVornFile::CXmlAbstractVornFile(ICLogfile *logfile)
+    : d(std::make_unique<CXmlAbstractVornFilePrivate>(this, logfile))
+{
+}
+
+CXmlAbstractVornFile::~CXmlAbstractVornFile() = default;
+
+bool CXmlAbstractVornFile::open(const QString &path, const QString &documentType,
+                                const QString &requiredVersion, QString &errorText)
+{
+    d->document = QDomDocument();
+    const QString nativePath = QDir::toNativeSeparators(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return d->fail(nativePath, file.errorString(), errorText);
+    }
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return d->fail(nativePath, file.errorString(), errorText);
+    }
+    return d->load(bytes, nativePath, documentType, requiredVersion, errorText);
+}
+
+bool CXmlAbstractVornFile::open(const QByteArray &buffer, const QString &documentType,
+                                const QString &requiredVersion, QString &errorText)
+{
+    d->document = QDomDocument();
+    return d->load(buffer, QString(), documentType, requiredVersion, errorText);
+}
+
+QFileDevice::Permissions CXmlAbstractVornFile::permissions() const
+{
+    return d->permissions;
+}
+
+void CXmlAbstractVornFile::setPermissions(QFileDevice::Permissions permissions)
+{
+    d->permissions = permissions;
+}
+
+bool CXmlAbstractVornFile::save(const QString &path, QString &errorText)
+{
+    return save(path, d->document.documentElement().tagName(), errorText);
+}
+
+bool CXmlAbstractVornFile::save(const QString &path, const QString &documentName,
+                                QString &errorText)
+{
+    const QString nativePath = QDir::toNativeSeparators(path);
+    QByteArray bytes;
+    if (!d->toBytes(nativePath, documentName, bytes, errorText)) {
+        return false;
+    }
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
+        && (!d->permissions || file.setPermissions(d->permissions)) && file.commit();
+    return written || d->fail(nativePath, file.errorString(), errorText);
+}
+
+bool CXmlAbstractVornFile::save(QByteArray &buffer, QString &errorText)
+{
+    return d->toBytes(QString(), d->document.documentElement().tagName(), buffer, errorText);
+}
+
+CXMLMetaData CXmlAbstractVornFile::metaData() const
+{
+    return metaData(d->document.documentElement(), nullptr);
+}
+
+void CXmlAbstractVornFile::setMetaData(const CXMLMetaData &metaData)
+{
+    setMetaData(metaData, d->document.documentElement());
+}
+
+QDomElement CXmlAbstractVornFile::domElement(const QString &tag, QDomElement parent)
+{
+    return CDomDoc::child(tag, parent.isNull() ? d->document.documentElement() : parent);
+}
+
+QDomElement CXmlAbstractVornFile::existingDomElement(const QString &tag, QDomElement parent) const
+{
+    return CDomDoc::existingChild(tag, parent.isNull() ? d->document.documentElement() : parent);
+}
+
+CXMLMetaData CXmlAbstractVornFile::metaData(const QDomElement &element, bool *ok) const
+{
+    const QDomElement head = existingDomElement(HeadTag, element);
+    if (ok != nullptr) {
+        *ok = !head.isNull();
+    }
+    CXMLMetaData result;
+    if (!head.isNull()) {
+        result.setAuthor(getNodeValue(AuthorTag, head));
+        result.setDate(QDate::fromString(getNodeValue(DateTag, head), Qt::ISODate));
+        result.setComment(getNodeValue(CommentTag, head));
+    }
+    return result;
+}
+
+void CXmlAbstractVornFile::setMetaData(const CXMLMetaData &metaData, QDomElement element)
+{
+    QDomElement parent = element.isNull() ? d->document.documentElement() : element;
+    if (parent.isNull()) {
+        return;
+    }
+    QDomElement head = existingDomElement(HeadTag, parent);
+    if (head.isNull()) {
+        head = parent.ownerDocument().createElement(HeadTag);
+        parent.insertBefore(head, parent.firstChild());
+    }
+    setNodeValue(AuthorTag, metaData.author(), head);
+    setNodeValue(DateTag, metaData.date().toString(Qt::ISODate), head);
+    setNodeValue(CommentTag, metaData.comment(), head);
+}
+
+ICLogfile *CXmlAbstractVornFile::logfile() const
+{
+    return d->logfile;
+}
+
+QDomDocument CXmlAbstractVornFile::domDocument() const
+{
+    return d->document;
+}
+
+bool CXmlAbstractVornFile::createNewDocument(const QString &documentType, const QString &version)
+{
+    d->document = QDomDocument();
+    if (!isXmlName(documentType)) {
+        return false;
+    }
+    QDomDocument created;
+    QDomElement root = created.createElement(documentType);
+    root.setAttribute(VersionAttribute, version);
+    created.appendChild(root);
+    d->document = created;
+    return true;
+}
+
+void CXmlAbstractVornFile::setNodeValue(const QString &tag, const QString &value,
+                                        const QDomElement &parent)
+{
+    setNodeValue(domElement(tag, parent), value);
+}
+
+void CXmlAbstractVornFile::setNodeValue(const QDomElement &element, const QString &value)
+{
+    CDomDoc::setText(value, element);
+}
+
+void CXmlAbstractVornFile::setNodeValue(const QDomElement &element, int value)
+{
+    setNodeValue(element, QString::number(value));
+}
+
+QString CXmlAbstractVornFile::getNodeValue(const QString &tag, const QDomElement &parent) const
+{
+    return getNodeValue(existingDomElement(tag, parent));
+}
+
+QString CXmlAbstractVornFile::getNodeValue(const QDomElement &element) const
+{
+    return CDomDoc::text(element);
+}
