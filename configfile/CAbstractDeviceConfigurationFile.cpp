@@ -55,14 +55,12 @@ CAbstractDeviceConfigurationFile::CAbstractDeviceConfigurationFile(ICLogfile *lo
 
 CAbstractDeviceConfigurationFile::~CAbstractDeviceConfigurationFile() = default;
 
-QDomElement
-CAbstractDeviceConfigurationFile::findDeviceElement(const QDomElement &element) const
+QDomElement CAbstractDeviceConfigurationFile::findDeviceElement(const QDomElement &element) const
 {
     return existingDomElement(TAG_DEVICE, element);
 }
 
-QDomElement
-CAbstractDeviceConfigurationFile::findConfigElement(const QDomElement &element) const
+QDomElement CAbstractDeviceConfigurationFile::findConfigElement(const QDomElement &element) const
 {
     const QDomElement device = element.isNull() ? findDeviceElement() : element;
     return device.firstChildElement(TAG_CONFIG);
@@ -82,14 +80,12 @@ CAbstractDeviceConfigurationFile::findParamFilesElement(const QDomElement &eleme
     return (element.isNull() ? findConfigElement() : element).firstChildElement(TAG_PARAMETERFILES);
 }
 
-QDomElement
-CAbstractDeviceConfigurationFile::findFilesElement(const QDomElement &element) const
+QDomElement CAbstractDeviceConfigurationFile::findFilesElement(const QDomElement &element) const
 {
     return (element.isNull() ? findConfigElement() : element).firstChildElement(TAG_FILES);
 }
 
-QDomElement
-CAbstractDeviceConfigurationFile::findPluginsElement(const QDomElement &element) const
+QDomElement CAbstractDeviceConfigurationFile::findPluginsElement(const QDomElement &element) const
 {
     return (element.isNull() ? findConfigElement() : element).firstChildElement(TAG_PLUGINS);
 }
@@ -265,8 +261,7 @@ CAbstractDeviceConfigurationFile::strToDeviceClass(const QString &text) const
     return m_deviceClasses.value(text, NDeviceConf::DEVICE_CLASS_UNDEFINED);
 }
 
-void CAbstractDeviceConfigurationFile::appendFileString(const QString &fileName,
-                                                        QDomElement parent)
+void CAbstractDeviceConfigurationFile::appendFileString(const QString &fileName, QDomElement parent)
 {
     if (!parent.isNull()) {
         setNodeValue(TAG_NAME, fileName, entryIn(parent, TAG_FILE));

@@ -65,7 +65,8 @@ public:
     /** Reads the names of all "File" children of @p element, in document order. */
     virtual void fileStrings(QStringList &fileNames, const QDomElement &element) const;
 
-    /** Appends a "Plugin" to @p parent, or fills @p parent if it is a "Plugin" or a "File" itself. */
+    /** Appends a "Plugin" to @p parent, or fills @p parent if it is a "Plugin" or a "File" itself.
+     */
     virtual void appendPluginElement(const CPluginElement &plugin, QDomElement parent);
 
     /** Builds a list element named @p tag and puts it in place of the one in @p parent. */

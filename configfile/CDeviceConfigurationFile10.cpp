@@ -35,10 +35,9 @@ CDeviceConfigurationFile10::~CDeviceConfigurationFile10() = default;
 bool CDeviceConfigurationFile10::handleVersionError(const QString &required,
                                                     const QString &existing)
 {
-    return warnOfVersion(
-        required, existing,
-        translated("The configuration file was created with a previous version"),
-        translated("The configuration file was created with a later version"));
+    return warnOfVersion(required, existing,
+                         translated("The configuration file was created with a previous version"),
+                         translated("The configuration file was created with a later version"));
 }
 
 bool CDeviceConfigurationFile10::createNewDocument()
@@ -388,8 +387,7 @@ bool CDeviceConfigurationFile10::setActiveFpgaFile(const QString &fileName)
     } else {
         list.removeChild(active);
     }
-    while (remove(findSame())) {
-    }
+    while (remove(findSame())) { }
     list.insertBefore(active, list.firstChildElement(TAG_FILE));
     appendFileString(fileName, active);
     return true;

@@ -75,14 +75,13 @@ CDeviceConfigurationFileBase::~CDeviceConfigurationFileBase() = default;
 bool CDeviceConfigurationFileBase::handleVersionError(const QString &required,
                                                       const QString &existing)
 {
-    return warnOfVersion(
-        required, existing,
-        QCoreApplication::translate(
-            "CDeviceConfigurationFile",
-            "The device configuration file was created with a previous version"),
-        QCoreApplication::translate(
-            "CDeviceConfigurationFile",
-            "The device configuration file was created with a later version"));
+    return warnOfVersion(required, existing,
+                         QCoreApplication::translate(
+                             "CDeviceConfigurationFile",
+                             "The device configuration file was created with a previous version"),
+                         QCoreApplication::translate(
+                             "CDeviceConfigurationFile",
+                             "The device configuration file was created with a later version"));
 }
 
 bool CDeviceConfigurationFileBase::warnOfVersion(const QString &required, const QString &existing,
@@ -139,8 +138,8 @@ void CDeviceConfigurationFileBase::descriptionElement(CDescriptionElement &descr
 QDomElement CDeviceConfigurationFileBase::createSubDeviceDomElement(QDomElement device)
 {
     QDomElement element = device.ownerDocument().createElement(TAG_SUB_DEVICE);
-    element.setAttribute(ATTR_TYPE, TextTables::text(TextTables::subDeviceTypes(),
-                                                     NvrnDeviceCore::ELEMENT_UNKNOWN));
+    element.setAttribute(
+        ATTR_TYPE, TextTables::text(TextTables::subDeviceTypes(), NvrnDeviceCore::ELEMENT_UNKNOWN));
     device.appendChild(element);
     return element;
 }
@@ -270,8 +269,7 @@ void CDeviceConfigurationFileBase::configElement(CDeviceElement &device,
     pluginElementList(plugins, config.firstChildElement(TAG_PLUGINS));
     device.setPlugins(plugins);
 
-    device.setExecutionPlugin(
-        getNodeValue(config.firstChildElement(TAG_EXECUTIONPLUGIN)));
+    device.setExecutionPlugin(getNodeValue(config.firstChildElement(TAG_EXECUTIONPLUGIN)));
 }
 
 void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &subDevices,
@@ -316,11 +314,10 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
     }
 }
 
-CSubDeviceElement
-CDeviceConfigurationFileBase::subDeviceElement(const QDomElement &element) const
+CSubDeviceElement CDeviceConfigurationFileBase::subDeviceElement(const QDomElement &element) const
 {
-    const QString kd2 = TextTables::text(TextTables::subDeviceTypes(),
-                                         NvrnDeviceCore::ELEMENT_KD2_SUB_DEVICE);
+    const QString kd2 =
+        TextTables::text(TextTables::subDeviceTypes(), NvrnDeviceCore::ELEMENT_KD2_SUB_DEVICE);
     if (element.attribute(ATTR_TYPE) == kd2) {
         CSubDeviceKD2Element subDevice;
         readSubDevice(subDevice, element);

@@ -51,8 +51,7 @@ public:
     virtual void paramFileElementList(QList<CParamFileElement> &files,
                                       const QDomElement &element) const;
     /** Builds "ParameterFiles" anew in the "Config" @p config; invalid files are left out. */
-    virtual void setParamFileElementList(const QList<CParamFileElement> &files,
-                                         QDomElement config);
+    virtual void setParamFileElementList(const QList<CParamFileElement> &files, QDomElement config);
     /** Reads all "Plugin" elements below the "Plugins" @p element. */
     virtual void pluginElementList(QList<CPluginElement> &plugins,
                                    const QDomElement &element) const;

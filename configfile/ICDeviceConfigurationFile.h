@@ -164,8 +164,7 @@ public:
     /** The child "Config" of the device @p element. */
     virtual QDomElement findConfigElement(const QDomElement &element = QDomElement()) const = 0;
     /** The child "ParameterFiles" of the configuration block @p element. */
-    virtual QDomElement
-    findParamFilesElement(const QDomElement &element = QDomElement()) const = 0;
+    virtual QDomElement findParamFilesElement(const QDomElement &element = QDomElement()) const = 0;
     /** The child "Files" of the configuration block @p element. */
     virtual QDomElement findFilesElement(const QDomElement &element = QDomElement()) const = 0;
     /** The child "Plugins" of the configuration block @p element. */

@@ -134,8 +134,7 @@ private:
 
     friend VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
                                                         const CBaseElement &element);
-    friend VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream,
-                                                        CBaseElement &element);
+    friend VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CBaseElement &element);
 };
 
 /**

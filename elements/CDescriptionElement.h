@@ -72,5 +72,4 @@ private:
 /** Stream form: name, comment, version (QString), creation date, revision date (QDate). */
 VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
                                              const CDescriptionElement &description);
-VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream,
-                                             CDescriptionElement &description);
+VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CDescriptionElement &description);

@@ -232,8 +232,8 @@ bool CDeviceBaseElement::isParameterHardwareIdCompatible(const CDeviceHardwareId
                                                          NvrnGlobal::EParamFileType type) const
 {
     const CDeviceHardwareId &own = this->hardwareId();
-    const bool sameProduct = hardwareId.prefix() == own.prefix()
-        && hardwareId.name() == own.name() && hardwareId.platform() == own.platform();
+    const bool sameProduct = hardwareId.prefix() == own.prefix() && hardwareId.name() == own.name()
+        && hardwareId.platform() == own.platform();
     const bool tiedToHardwareState = type == NvrnGlobal::PARAM_FILE_FIRMWARE_DATABASE
         || type == NvrnGlobal::PARAM_FILE_LOGIC_DATABASE;
     return sameProduct && (!tiedToHardwareState || hardwareId == own);
@@ -375,7 +375,8 @@ void CDeviceBaseElement::fitSubDevice(CSubDeviceElement &subDevice, unsigned cha
 
 CFileElement CDeviceBaseElement::configurationFile() const
 {
-    return fileAt(NvrFileNames::DEVICE_CONFIG_FILENAME, CDeviceFileSystem(*this).smDeviceConfPath());
+    return fileAt(NvrFileNames::DEVICE_CONFIG_FILENAME,
+                  CDeviceFileSystem(*this).smDeviceConfPath());
 }
 
 CFileElement CDeviceBaseElement::fileAt(const QString &fileName, const QString &devicePath) const
@@ -387,8 +388,7 @@ CFileElement CDeviceBaseElement::fileAt(const QString &fileName, const QString &
     return file;
 }
 
-QList<CFileElement>
-CDeviceBaseElement::allFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const
+QList<CFileElement> CDeviceBaseElement::allFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const
 {
     using namespace NvrnDeviceCore;
     FileCollector collector;
@@ -466,8 +466,7 @@ bool CDeviceBaseElement::removeOption(const QString &option)
     return index >= 0 && removeIndex<QString>(d->options, index);
 }
 
-QList<CFileElement>
-CDeviceBaseElement::fpgaFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const
+QList<CFileElement> CDeviceBaseElement::fpgaFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const
 {
     QList<CFileElement> files;
     if (kinds.testFlag(NvrnDeviceCore::DEVICE_FILE_FPGA)) {
@@ -542,8 +541,7 @@ QList<CParamFileElement> CDeviceBaseElement::parameterFiles() const
     return d->parameterFiles;
 }
 
-QList<CParamFileElement>
-CDeviceBaseElement::parameterFiles(NvrnGlobal::EParamFileType type) const
+QList<CParamFileElement> CDeviceBaseElement::parameterFiles(NvrnGlobal::EParamFileType type) const
 {
     QList<CParamFileElement> files;
     for (const CParamFileElement &file : d->parameterFiles) {
@@ -564,8 +562,7 @@ CDeviceBaseElement::parameterFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) co
     return collector.files();
 }
 
-QList<CFileElement>
-CDeviceBaseElement::parameterFileElements(NvrnGlobal::EParamFileType type) const
+QList<CFileElement> CDeviceBaseElement::parameterFileElements(NvrnGlobal::EParamFileType type) const
 {
     FileCollector collector;
     for (const CParamFileElement &file : parameterFiles(type)) {

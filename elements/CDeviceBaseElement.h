@@ -320,6 +320,5 @@ private:
  * host address; port (16 bit); preferred position (signed 32 bit); the map of sub-devices by drive
  * number (8 bit), without empty containers, which have no stream form. Reading does not check.
  */
-VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
-                                             const CDeviceBaseElement &device);
+VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream, const CDeviceBaseElement &device);
 VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CDeviceBaseElement &device);

@@ -76,8 +76,7 @@ private:
 
     friend VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
                                                         const CFileElement &file);
-    friend VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream,
-                                                        CFileElement &file);
+    friend VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CFileElement &file);
 };
 
 /**

@@ -172,8 +172,7 @@ bool CParamFileElement::isValid() const
 
 bool CParamFileElement::isNull() const
 {
-    return d->type == NvrnGlobal::PARAM_FILE_UNDEFINED && d->name.isEmpty()
-        && d->comment.isEmpty();
+    return d->type == NvrnGlobal::PARAM_FILE_UNDEFINED && d->name.isEmpty() && d->comment.isEmpty();
 }
 
 void CParamFileElement::clear()

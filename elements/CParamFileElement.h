@@ -78,7 +78,8 @@ public:
      */
     bool isValid() const;
 
-    /** Whether type, name and comment are as by default; drive number and directories may differ. */
+    /** Whether type, name and comment are as by default; drive number and directories may differ.
+     */
     bool isNull() const;
     void clear();
 

@@ -24,7 +24,8 @@ public:
 CSubDeviceBaseElement::CSubDeviceBaseElement() : d(new CSubDeviceBaseElementData) { }
 CSubDeviceBaseElement::CSubDeviceBaseElement(const CSubDeviceBaseElement &other) = default;
 CSubDeviceBaseElement::~CSubDeviceBaseElement() = default;
-CSubDeviceBaseElement &CSubDeviceBaseElement::operator=(const CSubDeviceBaseElement &other) = default;
+CSubDeviceBaseElement &
+CSubDeviceBaseElement::operator=(const CSubDeviceBaseElement &other) = default;
 
 bool CSubDeviceBaseElement::isNull() const
 {

@@ -85,5 +85,4 @@ private:
  */
 VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
                                              const CSubDeviceBaseElement &subDevice);
-VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream,
-                                             CSubDeviceBaseElement &subDevice);
+VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CSubDeviceBaseElement &subDevice);

@@ -67,7 +67,8 @@ public:
     virtual void setHardwareId(const CDeviceHardwareId &hardwareId);
     virtual void setHardwareId(const QString &hardwareId);
 
-    /** 0 for an empty container, which is also the number of a first drive: check isNull() first. */
+    /** 0 for an empty container, which is also the number of a first drive: check isNull() first.
+     */
     virtual quint8 driveId() const;
     virtual void setDriveId(unsigned char driveId);
 

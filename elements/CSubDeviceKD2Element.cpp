@@ -128,7 +128,8 @@ bool CSubDeviceKD2Element::operator!=(const CSubDeviceKD2Element &other) const
 
 QDataStream &operator<<(QDataStream &stream, const CSubDeviceKD2Element &subDevice)
 {
-    return FieldList::write(stream << static_cast<const CSubDeviceBaseElement &>(subDevice), subDevice.d);
+    return FieldList::write(stream << static_cast<const CSubDeviceBaseElement &>(subDevice),
+                            subDevice.d);
 }
 
 QDataStream &operator>>(QDataStream &stream, CSubDeviceKD2Element &subDevice)

@@ -59,5 +59,4 @@ private:
 /** Stream form: that of CSubDeviceBaseElement, then firmware, logic and parameter file. */
 VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
                                              const CSubDeviceKD2Element &subDevice);
-VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream,
-                                             CSubDeviceKD2Element &subDevice);
+VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CSubDeviceKD2Element &subDevice);

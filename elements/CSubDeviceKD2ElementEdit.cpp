@@ -3,7 +3,8 @@
 CSubDeviceKD2ElementEdit::CSubDeviceKD2ElementEdit() = default;
 CSubDeviceKD2ElementEdit::CSubDeviceKD2ElementEdit(const CSubDeviceKD2ElementEdit &other) = default;
 CSubDeviceKD2ElementEdit::~CSubDeviceKD2ElementEdit() = default;
-CSubDeviceKD2ElementEdit &CSubDeviceKD2ElementEdit::operator=(const CSubDeviceKD2ElementEdit &other) = default;
+CSubDeviceKD2ElementEdit &
+CSubDeviceKD2ElementEdit::operator=(const CSubDeviceKD2ElementEdit &other) = default;
 
 CSubDeviceKD2ElementEdit::CSubDeviceKD2ElementEdit(const CSubDeviceKD2Element &original)
     : CSubDeviceKD2Element(original), m_original(original)

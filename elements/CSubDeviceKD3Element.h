@@ -25,5 +25,4 @@ public:
 /** Stream form: that of CSubDeviceBaseElement. */
 VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream,
                                              const CSubDeviceKD3Element &subDevice);
-VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream,
-                                             CSubDeviceKD3Element &subDevice);
+VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CSubDeviceKD3Element &subDevice);

@@ -3,7 +3,8 @@
 CSubDeviceKD3ElementEdit::CSubDeviceKD3ElementEdit() = default;
 CSubDeviceKD3ElementEdit::CSubDeviceKD3ElementEdit(const CSubDeviceKD3ElementEdit &other) = default;
 CSubDeviceKD3ElementEdit::~CSubDeviceKD3ElementEdit() = default;
-CSubDeviceKD3ElementEdit &CSubDeviceKD3ElementEdit::operator=(const CSubDeviceKD3ElementEdit &other) = default;
+CSubDeviceKD3ElementEdit &
+CSubDeviceKD3ElementEdit::operator=(const CSubDeviceKD3ElementEdit &other) = default;
 
 CSubDeviceKD3ElementEdit::CSubDeviceKD3ElementEdit(const CSubDeviceKD3Element &original)
     : CSubDeviceKD3Element(original), m_original(original)

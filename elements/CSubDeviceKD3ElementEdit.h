@@ -4,8 +4,8 @@
 
 /**
  * A KD3 sub-device while it is being edited. The object itself is the working copy, with every
- * accessor of CSubDeviceKD3Element; beside it stands the sub-device as it was, until the changes are
- * applied or reverted.
+ * accessor of CSubDeviceKD3Element; beside it stands the sub-device as it was, until the changes
+ * are applied or reverted.
  */
 class VRNDEVICECORE_EXPORT CSubDeviceKD3ElementEdit : public CSubDeviceKD3Element
 {

@@ -50,8 +50,8 @@ QString DeviceRenaming::projectPath(const QString &path) const
                                                QRegExp::escape(m_oldName), m_newName);
 }
 
-ConfigurationRenaming::ConfigurationRenaming(const CBaseElement &element,
-                                             const QString &deviceName, const QString &newName)
+ConfigurationRenaming::ConfigurationRenaming(const CBaseElement &element, const QString &deviceName,
+                                             const QString &newName)
     : m_element(element), m_deviceName(deviceName), m_oldName(element.configurationName()),
       m_newName(newName)
 {

@@ -4,7 +4,8 @@
 
 #include <QtGlobal>
 
-/** A device as it stands in a list of devices; of it, only the kind of its address is needed here. */
+/** A device as it stands in a list of devices; of it, only the kind of its address is needed here.
+ */
 class VRNCORE_EXPORT CDeviceItem
 {
 public:

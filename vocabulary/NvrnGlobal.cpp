@@ -37,18 +37,17 @@ const QString RESULT_ENTRY_FAILED = QStringLiteral("[ FAILED ]");
 #define IPV6_GROUP "[0-9a-fA-F]{1,4}"
 
 const QString MAC_PATTERN = QStringLiteral("^(" HEX_PAIR ":){5}" HEX_PAIR "$");
-const QString MAC_INPUT_PATTERN =
-    QStringLiteral("(" HEX_PAIR ":){5}" HEX_PAIR "|(" HEX_PAIR "-){5}" HEX_PAIR "|(" HEX_PAIR "){6}");
+const QString MAC_INPUT_PATTERN = QStringLiteral("(" HEX_PAIR ":){5}" HEX_PAIR "|(" HEX_PAIR
+                                                 "-){5}" HEX_PAIR "|(" HEX_PAIR "){6}");
 const QString IPV4_PATTERN = QStringLiteral("^" IPV4_ADDRESS "$");
 const QString IPV4_INPUT_PATTERN = QStringLiteral("\\s*" IPV4_ADDRESS "\\s*");
 
-const QString IPV4_SUBNET_PATTERN = QStringLiteral(
-    "^("
-    "(255\\.){3}" MASK_PARTIAL "|"
-    "(255\\.){2}" MASK_PARTIAL "\\." MASK_ZERO "|"
-    "255\\." MASK_PARTIAL "(\\." MASK_ZERO "){2}|"
-    MASK_PARTIAL "(\\." MASK_ZERO "){3}"
-    ")$");
+const QString IPV4_SUBNET_PATTERN = QStringLiteral("^("
+                                                   "(255\\.){3}" MASK_PARTIAL "|"
+                                                   "(255\\.){2}" MASK_PARTIAL "\\." MASK_ZERO "|"
+                                                   "255\\." MASK_PARTIAL "(\\." MASK_ZERO
+                                                   "){2}|" MASK_PARTIAL "(\\." MASK_ZERO "){3}"
+                                                   ")$");
 
 // One alternative per place of the "::"; the tail of each may end in an IPv4 address, which stands
 // for two groups.

@@ -75,8 +75,8 @@ private:
                 m_reader.processingInstructionData().toString()));
             break;
         case QXmlStreamReader::EntityReference:
-            m_reader.raiseError(tr("The entity '%1' is not declared.")
-                                    .arg(m_reader.name().toString()));
+            m_reader.raiseError(
+                tr("The entity '%1' is not declared.").arg(m_reader.name().toString()));
             break;
         default:
             break;
@@ -162,8 +162,7 @@ private:
 
 } // namespace
 
-bool CStreamXmlReader::read(const QByteArray &bytes, QDomDocument &document,
-                            SXmlError &error) const
+bool CStreamXmlReader::read(const QByteArray &bytes, QDomDocument &document, SXmlError &error) const
 {
     return Builder(bytes).build(document, error);
 }

@@ -31,8 +31,7 @@ class CXmlAbstractVornFilePrivate
     Q_DECLARE_TR_FUNCTIONS(CXmlAbstractVornFile)
 
 public:
-    CXmlAbstractVornFilePrivate(CXmlAbstractVornFile *file, ICLogfile *log)
-        : q(file), logfile(log)
+    CXmlAbstractVornFilePrivate(CXmlAbstractVornFile *file, ICLogfile *log) : q(file), logfile(log)
     {
     }
 
@@ -67,8 +66,8 @@ public:
         if (version != requiredVersion) {
             if (!q->handleVersionError(requiredVersion, version)) {
                 // Posted by the handler, which knows how its users call the document.
-                errorText = tr("The version is '%1', but '%2' is required.")
-                                .arg(version, requiredVersion);
+                errorText =
+                    tr("The version is '%1', but '%2' is required.").arg(version, requiredVersion);
                 return false;
             }
             root.setAttribute(VersionAttribute, requiredVersion);

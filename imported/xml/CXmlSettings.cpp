@@ -22,16 +22,11 @@ struct TypeName {
 };
 
 const TypeName TypeNames[] = {
-    {QMetaType::SChar, QLatin1String("INT8")},
-    {QMetaType::Short, QLatin1String("INT16")},
-    {QMetaType::Int, QLatin1String("INT32")},
-    {QMetaType::LongLong, QLatin1String("INT64")},
-    {QMetaType::UChar, QLatin1String("UINT8")},
-    {QMetaType::UShort, QLatin1String("UINT16")},
-    {QMetaType::UInt, QLatin1String("UINT32")},
-    {QMetaType::ULongLong, QLatin1String("UINT64")},
-    {QMetaType::QString, QLatin1String("STRING")},
-    {QMetaType::Bool, QLatin1String("BOOLEAN")},
+    {QMetaType::SChar, QLatin1String("INT8")},     {QMetaType::Short, QLatin1String("INT16")},
+    {QMetaType::Int, QLatin1String("INT32")},      {QMetaType::LongLong, QLatin1String("INT64")},
+    {QMetaType::UChar, QLatin1String("UINT8")},    {QMetaType::UShort, QLatin1String("UINT16")},
+    {QMetaType::UInt, QLatin1String("UINT32")},    {QMetaType::ULongLong, QLatin1String("UINT64")},
+    {QMetaType::QString, QLatin1String("STRING")}, {QMetaType::Bool, QLatin1String("BOOLEAN")},
     {QMetaType::Double, QLatin1String("REAL64")},
 };
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "configfile/CDeviceConfigurationFile10.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+/** The JSON forms of what a configuration holds. Keys are in lower camel case. */
+QJsonObject toJson(const CFileElement &file);
+QJsonObject toJson(const CSubDeviceElement &subDevice);
+/** The description and the device of an open configuration file. */
+QJsonObject toJson(const CDeviceConfigurationFile10 &file);
+
+/** The text by which documents and users name the kind of a sub-device. */
+QString subDeviceTypeName(const CSubDeviceElement &subDevice);

@@ -1,0 +1,90 @@
+#include "configfile/CDeviceConfigurationFile10.h"
+#include "tools/Command.h"
+#include "tools/ConfigurationJson.h"
+#include "tools/Output.h"
+
+namespace {
+
+const QString TypeOption = QStringLiteral("type");
+const QString NameOption = QStringLiteral("name");
+const QString IdOption = QStringLiteral("id");
+
+const quint8 NextFree = 255;
+
+/** A new drive of the type named @p type; an empty container for any other text. */
+CSubDeviceElement newDrive(const QString &type)
+{
+    for (const CSubDeviceElement &drive :
+         {CSubDeviceElement(CSubDeviceKD2Element()), CSubDeviceElement(CSubDeviceKD3Element())}) {
+        if (subDeviceTypeName(drive) == type) {
+            return drive;
+        }
+    }
+    return CSubDeviceElement();
+}
+
+int run(const SCommand &command, const QStringList &arguments)
+{
+    CommandLine line(command);
+    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to change."));
+    line.addOption(TypeOption, QStringLiteral("Series of the drive: KD2_drive or KD3_drive."),
+                   QStringLiteral("TYPE"));
+    line.addOption(NameOption,
+                   QStringLiteral("Name of the drive; by default made from its drive number."),
+                   QStringLiteral("NAME"));
+    line.addOption(IdOption, QStringLiteral("Drive number 0 to 254; by default the next free one."),
+                   QStringLiteral("NUMBER"));
+    line.addExample(QStringLiteral("DeviceConfiguration.3deco --type KD3_drive --name Gripper"));
+    if (!line.parse(arguments)) {
+        return line.exitCode();
+    }
+    CSubDeviceElement drive = newDrive(line.value(TypeOption));
+    if (drive.type() == NvrnDeviceCore::ELEMENT_UNKNOWN) {
+        return line.badUsage(QStringLiteral("--type must be KD2_drive or KD3_drive."));
+    }
+    bool isNumber = true;
+    const uint id = line.isSet(IdOption) ? line.value(IdOption).toUInt(&isNumber) : NextFree;
+    if (!isNumber || id > NextFree || (id == NextFree && line.isSet(IdOption))) {
+        return line.badUsage(QStringLiteral("--id must be a number from 0 to 254."));
+    }
+
+    const QString path = line.argument(0);
+    CDeviceConfigurationFile10 file(nullptr);
+    if (!file.open(path)) {
+        return EXIT_UNREADABLE_INPUT;
+    }
+    CDeviceElement device;
+    if (!file.configuration(device)) {
+        printError(QStringLiteral("%1: The configuration has no device.").arg(path));
+        return EXIT_UNREADABLE_INPUT;
+    }
+    const auto wanted = static_cast<quint8>(id);
+    if (wanted != NextFree && device.subDevice(wanted).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
+        printError(QStringLiteral("%1: The drive number %2 is in use.").arg(path).arg(id));
+        return EXIT_NOT_DONE;
+    }
+    drive.setName(line.value(NameOption));
+    const quint8 used = device.insertSubDevice(drive, wanted);
+    // Only the new drive is written: the rest of the document stays as it is.
+    file.appendSubDeviceElement(drive, file.deviceDomElement());
+    if (!file.save(path)) {
+        return EXIT_NOT_DONE;
+    }
+
+    if (!file.open(path) || !file.configuration(device)) {
+        return EXIT_UNREADABLE_INPUT;
+    }
+    const CSubDeviceElement added = device.subDevice(used);
+    Output out;
+    if (line.wantsJson()) {
+        out.print(toJson(added));
+    } else {
+        out.stream() << "Added drive " << used << ": " << added.name() << ", "
+                     << subDeviceTypeName(added) << '\n';
+    }
+    return out.finish();
+}
+
+const CommandRegistration Registration("add-drive", "Add a drive to the device.", run);
+
+} // namespace
