@@ -32,6 +32,8 @@ function(vrn_library target build_definition)
         SOVERSION ${VRN_SOVERSION}
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
+        # The libraries find each other wherever they are installed together.
+        INSTALL_RPATH "$ORIGIN"
     )
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_compile_definitions(${target} PRIVATE ${build_definition})

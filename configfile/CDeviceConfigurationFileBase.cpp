@@ -345,7 +345,7 @@ void CDeviceConfigurationFileBase::readSubDevice(SubDevice &subDevice,
 CDeviceHardwareId CDeviceConfigurationFileBase::hardwareIdIn(const QDomElement &element) const
 {
     const QString text = getNodeValue(TAG_HARDWAREID, element);
-    const CDeviceHardwareId id(text);
+    CDeviceHardwareId id(text);
     if (id.isNull() && !text.isEmpty()) {
         CMessageBoardHelper::setDebugWarning(
             translated("The hardware identity '%1' of '%2' cannot be read.")

@@ -36,21 +36,26 @@ const QString RESULT_ENTRY_FAILED = QStringLiteral("[ FAILED ]");
 #define MASK_PARTIAL "(255|254|252|248|240|224|192|128|" MASK_ZERO ")"
 #define IPV6_GROUP "[0-9a-fA-F]{1,4}"
 
+// One alternative a line is easier to check than what the formatter makes of it.
+// clang-format off
 const QString MAC_PATTERN = QStringLiteral("^(" HEX_PAIR ":){5}" HEX_PAIR "$");
-const QString MAC_INPUT_PATTERN = QStringLiteral("(" HEX_PAIR ":){5}" HEX_PAIR "|(" HEX_PAIR
-                                                 "-){5}" HEX_PAIR "|(" HEX_PAIR "){6}");
+const QString MAC_INPUT_PATTERN = QStringLiteral(
+    "(" HEX_PAIR ":){5}" HEX_PAIR "|"
+    "(" HEX_PAIR "-){5}" HEX_PAIR "|"
+    "(" HEX_PAIR "){6}");
 const QString IPV4_PATTERN = QStringLiteral("^" IPV4_ADDRESS "$");
 const QString IPV4_INPUT_PATTERN = QStringLiteral("\\s*" IPV4_ADDRESS "\\s*");
 
-const QString IPV4_SUBNET_PATTERN = QStringLiteral("^("
-                                                   "(255\\.){3}" MASK_PARTIAL "|"
-                                                   "(255\\.){2}" MASK_PARTIAL "\\." MASK_ZERO "|"
-                                                   "255\\." MASK_PARTIAL "(\\." MASK_ZERO
-                                                   "){2}|" MASK_PARTIAL "(\\." MASK_ZERO "){3}"
-                                                   ")$");
+const QString IPV4_SUBNET_PATTERN = QStringLiteral(
+    "^("
+    "(255\\.){3}" MASK_PARTIAL "|"
+    "(255\\.){2}" MASK_PARTIAL "\\." MASK_ZERO "|"
+    "255\\." MASK_PARTIAL "(\\." MASK_ZERO "){2}|"
+    MASK_PARTIAL "(\\." MASK_ZERO "){3}"
+    ")$");
 
-// One alternative per place of the "::"; the tail of each may end in an IPv4 address, which stands
-// for two groups.
+// Each alternative has the "::" at another place; its tail may end in an IPv4 address, which
+// stands for two groups.
 const QString IPV6_PATTERN = QStringLiteral(
     "^("
     "(" IPV6_GROUP ":){7}(" IPV6_GROUP "|:)|"
@@ -62,6 +67,7 @@ const QString IPV6_PATTERN = QStringLiteral(
     "(" IPV6_GROUP ":){1}((:" IPV6_GROUP "){0,4}:" IPV4_ADDRESS "|(:" IPV6_GROUP "){1,6}|:)|"
     ":((:" IPV6_GROUP "){0,5}:" IPV4_ADDRESS "|(:" IPV6_GROUP "){1,7}|:)"
     ")$");
+// clang-format on
 
 #undef HEX_PAIR
 #undef IPV4_OCTET

@@ -1,0 +1,104 @@
+# shellcheck shell=bash
+# Sourced by the other scripts: the package lists, and how to install, log and fail.
+
+set -euo pipefail
+umask 022
+export PATH=$PATH:/usr/sbin:/sbin # chroot and debootstrap
+export LC_ALL=C.UTF-8 # messages and sort orders are the same on every machine
+
+source_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+log_dir=$source_dir/build/logs
+# shellcheck disable=SC2034 # used by the sourcing scripts
+jobs=$(nproc)
+
+# One list per purpose. The tests need tzdata because they also run in foreign time zones.
+# shellcheck disable=SC2034
+{
+    build_packages=(g++ cmake ninja-build qtbase5-dev pkg-config python3-minimal)
+    test_packages=("${build_packages[@]}" git tzdata)
+    format_packages=(git clang-format-14)
+    sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)
+    tidy_packages=("${test_packages[@]}" clang-tidy-14)
+    chroot_packages=(debootstrap git util-linux)
+    shell_packages=(git shellcheck)
+}
+
+note() { printf '%s\n' "$*"; }
+
+die()
+{
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+# Prints the comment block at the top of the calling script.
+usage() { sed -n '2,/^$/s/^# \{0,1\}//p' "$0"; }
+
+as_root()
+{
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        die "'$*' needs root, and there is no sudo"
+    fi
+}
+
+# Prints those of the packages that are not installed; --admindir=DIR looks into another system.
+missing_packages()
+{
+    local admindir=--admindir=/var/lib/dpkg package
+    case ${1-} in --admindir=*) admindir=$1 && shift ;; esac
+    for package; do
+        # The status is asked for because a removed package still has an entry.
+        [ "$(dpkg-query "$admindir" -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] \
+            || printf '%s\n' "$package"
+    done
+}
+
+# ensure_packages REASON PACKAGE...
+ensure_packages()
+{
+    local reason=$1 missing
+    shift
+    if ! command -v dpkg-query >/dev/null; then
+        note "not a Debian system: $reason needs what Debian calls $*" >&2
+        return 0
+    fi
+    mapfile -t missing < <(missing_packages "$@")
+    [ "${#missing[@]}" -gt 0 ] || return 0
+    note "installing for $reason: ${missing[*]}"
+    # One list that cannot be fetched matters only if the installation fails for it.
+    logged update as_root apt-get update || true
+    logged install as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install --yes --no-install-recommends "${missing[@]}"
+}
+
+# logged NAME COMMAND...: keeps the output in build/logs/NAME.log and shows it only on failure.
+logged()
+{
+    local log=$log_dir/$1.log status=0
+    shift
+    mkdir -p "$log_dir"
+    ("$@") >"$log" 2>&1 </dev/null || status=$? # a subshell, for a command may be a function that dies
+    [ "$status" -eq 0 ] && return
+    note "failed: $*"
+    tail -n 300 "$log"
+    note "(exit code $status; the whole log is in ${log#"$source_dir"/})"
+    return "$status"
+}
+
+# work_tree_files PATTERN...: the files as a commit of everything would have them, each ended by NUL.
+# safe.directory: a CI checkout often belongs to another user than the one who builds.
+work_tree_files()
+{
+    local file
+    git -c safe.directory="$source_dir" -C "$source_dir" \
+        ls-files -z --cached --others --exclude-standard -- "$@" \
+        | while IFS= read -r -d '' file; do
+            if [ -e "$source_dir/$file" ] || [ -L "$source_dir/$file" ]; then
+                printf '%s\0' "$file"
+            fi
+        done
+}
