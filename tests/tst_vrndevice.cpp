@@ -1,0 +1,375 @@
+#include "configfile/CDeviceConfigurationFile10.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+struct SResult {
+    int exitCode = -1;
+    QString output;
+    QString errors;
+
+    QJsonObject json() const { return QJsonDocument::fromJson(output.toUtf8()).object(); }
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+const QString ExampleDirectory = QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line");
+const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
+
+} // namespace
+
+/** The tool as its users call it: arguments in, output, diagnostics and exit code out. */
+class tst_VrnDevice : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void usage_data();
+    void usage();
+    void helpOfEveryCommand();
+    void newCreatesAConfiguration();
+    void newKeepsAnExistingFile();
+    void newReportsWhatCannotBeWritten();
+    void showPrintsATree();
+    void showPrintsJson();
+    void addDriveTakesTheNextFreeNumber();
+    void addDriveWithNumberAndName();
+    void addDriveRefusesANumberInUse();
+    void addDriveKeepsTheRestOfTheDocument();
+    void placeListsEveryFile();
+    void unreadableInput_data();
+    void unreadableInput();
+    void exampleIsComplete();
+
+private:
+    SResult run(const QStringList &arguments) const;
+    QString path() const { return m_directory->filePath(FileName); }
+    void copyExample();
+
+    QScopedPointer<QTemporaryDir> m_directory;
+};
+
+void tst_VrnDevice::init()
+{
+    m_directory.reset(new QTemporaryDir);
+    QVERIFY(m_directory->isValid());
+}
+
+SResult tst_VrnDevice::run(const QStringList &arguments) const
+{
+    QProcess process;
+    process.setWorkingDirectory(m_directory->path());
+    process.start(QStringLiteral(VRN_TOOL), arguments);
+    SResult result;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+        result.exitCode = process.exitCode();
+    }
+    result.output = QString::fromUtf8(process.readAllStandardOutput());
+    result.errors = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+void tst_VrnDevice::copyExample()
+{
+    QVERIFY(QFile::copy(ExampleDirectory + QLatin1Char('/') + FileName, path()));
+    QVERIFY(QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void tst_VrnDevice::usage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("errors");
+
+    const auto row = [](const char *name, const char *arguments, int exitCode, const char *output,
+                        const char *errors) {
+        QTest::newRow(name) << QString::fromLatin1(arguments).split(QLatin1Char(' '),
+                                                                    Qt::SkipEmptyParts)
+                            << exitCode << QString::fromLatin1(output)
+                            << QString::fromLatin1(errors);
+    };
+    row("nothing", "", 2, "", "No command given");
+    row("help", "--help", 0, "add-drive", "");
+    row("version", "--version", 0, "vrndevice 1.0.0\n", "");
+    row("unknown command", "shwo x", 2, "", "There is no command 'shwo'");
+    row("unknown option", "show x --jsn", 2, "", "jsn");
+    row("argument missing", "show", 2, "", "1 argument(s) expected, 0 given");
+    row("argument too many", "show a b", 2, "", "1 argument(s) expected, 2 given");
+    row("class missing", "new x --name N", 2, "", "--class must be kc2 or kd3");
+    row("class in capitals", "new x --class KD3 --name N", 2, "", "--class must be");
+    row("class Undefined", "new x --class Undefined --name N", 2, "", "--class must be");
+    row("name missing", "new x --class kd3", 2, "", "--name is missing");
+    row("drive type missing", "add-drive x", 2, "", "--type must be");
+    row("drive type in lower case", "add-drive x --type kd3_drive", 2, "", "--type must be");
+    row("unknown drive", "add-drive x --type UNKNOWN_drive", 2, "", "--type must be");
+    row("number too high", "add-drive x --type KD3_drive --id 255", 2, "", "0 to 254");
+    row("number below 0", "add-drive x --type KD3_drive --id=-1", 2, "", "0 to 254");
+    row("no number", "add-drive x --type KD3_drive --id first", 2, "", "0 to 254");
+}
+
+void tst_VrnDevice::usage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, output);
+    QFETCH(QString, errors);
+    const SResult result = run(arguments);
+    QCOMPARE(result.exitCode, exitCode);
+    QVERIFY2(result.output.contains(output), qPrintable(result.output));
+    QVERIFY2(result.errors.contains(errors), qPrintable(result.errors));
+    QCOMPARE(result.output.isEmpty(), output.isEmpty());
+    QCOMPARE(result.errors.isEmpty(), errors.isEmpty());
+    QVERIFY(QDir(m_directory->path()).isEmpty());
+}
+
+void tst_VrnDevice::helpOfEveryCommand()
+{
+    for (const char *name : {"add-drive", "new", "place", "show"}) {
+        const QString command = QString::fromLatin1(name);
+        const SResult result = run({command, QStringLiteral("--help")});
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY(result.output.startsWith(QStringLiteral("Usage: vrndevice %1 ").arg(command)));
+        QVERIFY(result.output.contains(QStringLiteral("Example:\n  vrndevice ") + command));
+        QVERIFY(result.output.contains(QStringLiteral("--json")));
+    }
+}
+
+void tst_VrnDevice::newCreatesAConfiguration()
+{
+    const SResult result =
+        run({QStringLiteral("new"), path(), QStringLiteral("--class"), QStringLiteral("kc2"),
+             QStringLiteral("--name"), QStringLiteral("Hügel")});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.errors.isEmpty());
+
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(path()));
+    QVERIFY(file.configuration(device));
+    QCOMPARE(device.name(), QStringLiteral("Hügel"));
+    QCOMPARE(device.deviceClass(), NDeviceConf::DEVICE_CLASS_KC2);
+    QCOMPARE(file.description().name(), QStringLiteral("Hügel"));
+}
+
+void tst_VrnDevice::newKeepsAnExistingFile()
+{
+    copyExample();
+    const QByteArray before = contentOf(path());
+    const SResult result = run(
+        {QStringLiteral("new"), path(), QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.errors.contains(QStringLiteral("exists already")));
+    QCOMPARE(contentOf(path()), before);
+}
+
+void tst_VrnDevice::newReportsWhatCannotBeWritten()
+{
+    const SResult result = run({QStringLiteral("new"), QStringLiteral("missing/x.3deco"),
+                                QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.errors.startsWith(QStringLiteral("vrndevice: error: missing/x.3deco: ")));
+    QVERIFY(result.output.isEmpty());
+}
+
+void tst_VrnDevice::showPrintsATree()
+{
+    copyExample();
+    const SResult result = run({QStringLiteral("show"), path()});
+    QCOMPARE(result.exitCode, 0);
+    for (const char *line :
+         {"└─ Device PackagingLine, class kd3 (Folding box line 4, hall B)\n",
+          "   │  ├─ UnitParams, VornDeviceDatabase (Unit data of the controller)\n",
+          "   ├─ OPC UA, enabled\n", "   │  └─ motion 2\n", "      ├─ 0: Infeed, KD3_drive\n",
+          "      └─ 2: Gluer, KD2_drive (Old drive, kept from line 2)\n",
+          "         ├─ Firmware: kd2_fw_4_7.bin\n"}) {
+        QVERIFY2(result.output.contains(QString::fromUtf8(line)), line);
+    }
+}
+
+void tst_VrnDevice::showPrintsJson()
+{
+    copyExample();
+    const SResult result = run({QStringLiteral("show"), QStringLiteral("--json"), path()});
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject device = result.json().value(QStringLiteral("device")).toObject();
+    QCOMPARE(device.value(QStringLiteral("class")).toString(), QStringLiteral("kd3"));
+    const QJsonArray drives = device.value(QStringLiteral("subDevices")).toArray();
+    QCOMPARE(drives.size(), 3);
+    const QJsonObject old = drives.at(2).toObject();
+    QCOMPARE(old.value(QStringLiteral("type")).toString(), QStringLiteral("KD2_drive"));
+    QCOMPARE(old.value(QStringLiteral("files")).toArray().size(), 4);
+}
+
+void tst_VrnDevice::addDriveTakesTheNextFreeNumber()
+{
+    copyExample();
+    const SResult result =
+        run({QStringLiteral("add-drive"), path(), QStringLiteral("--type=KD3_drive")});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, QStringLiteral("Added drive 3: DRIVE-3, KD3_drive\n"));
+
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(path()));
+    QVERIFY(file.configuration(device));
+    QCOMPARE(device.subDeviceCount(), 4);
+    QCOMPARE(device.subDevice(3).name(), QStringLiteral("DRIVE-3"));
+    QVERIFY(device.subDevice(3).isKD3());
+}
+
+void tst_VrnDevice::addDriveWithNumberAndName()
+{
+    copyExample();
+    const SResult result =
+        run({QStringLiteral("add-drive"), path(), QStringLiteral("--type=KD2_drive"),
+             QStringLiteral("--id=9"), QStringLiteral("--name=Gripper"), QStringLiteral("--json")});
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject drive = result.json();
+    QCOMPARE(drive.value(QStringLiteral("driveId")).toInt(), 9);
+    QCOMPARE(drive.value(QStringLiteral("name")).toString(), QStringLiteral("Gripper"));
+    QCOMPARE(drive.value(QStringLiteral("type")).toString(), QStringLiteral("KD2_drive"));
+}
+
+void tst_VrnDevice::addDriveRefusesANumberInUse()
+{
+    copyExample();
+    const QByteArray before = contentOf(path());
+    const SResult result = run({QStringLiteral("add-drive"), path(),
+                                QStringLiteral("--type=KD3_drive"), QStringLiteral("--id=1")});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.errors.contains(QStringLiteral("The drive number 1 is in use.")));
+    QCOMPARE(contentOf(path()), before);
+}
+
+void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
+{
+    copyExample();
+    QByteArray content = contentOf(path());
+    const QByteArray foreign = "  <Foreign by=\"hand\">kept</Foreign>\n  <!--kept, too-->\n";
+    QVERIFY(content.contains(" <Device>\n"));
+    content.replace(" <Device>\n", " <Device>\n" + foreign);
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+
+    QCOMPARE(
+        run({QStringLiteral("add-drive"), path(), QStringLiteral("--type=KD3_drive")}).exitCode, 0);
+    const QByteArray added = "  <SubDevice type=\"KD3_drive\">\n"
+                             "   <HardwareId>KD3:KD3 Controller 8A:3:2:1</HardwareId>\n"
+                             "   <Name>DRIVE-3</Name>\n"
+                             "   <Comment/>\n"
+                             "   <DriveNo>3</DriveNo>\n"
+                             "   <BusId>0</BusId>\n"
+                             "  </SubDevice>\n";
+    content.replace(" </Device>\n", added + " </Device>\n");
+    QCOMPARE(contentOf(path()), content);
+}
+
+void tst_VrnDevice::placeListsEveryFile()
+{
+    copyExample();
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(path()));
+    QVERIFY(file.configuration(device));
+
+    const SResult text = run({QStringLiteral("place"), path()});
+    QCOMPARE(text.exitCode, 0);
+    const SResult json = run({QStringLiteral("place"), path(), QStringLiteral("--json")});
+    QCOMPARE(json.exitCode, 0);
+    const QJsonArray placed = json.json().value(QStringLiteral("files")).toArray();
+
+    const QList<CFileElement> files = device.allFiles();
+    QCOMPARE(files.size(), 28);
+    QCOMPARE(placed.size(), files.size() + 1);
+    QCOMPARE(text.output.count(QLatin1Char('\n')), placed.size() + 1);
+    for (const CFileElement &expected : files) {
+        QVERIFY(text.output.contains(expected.fileName()));
+        const auto isExpected = [&expected](const QJsonValue &value) {
+            const QJsonObject object = value.toObject();
+            return object.value(QStringLiteral("name")).toString() == expected.fileName()
+                && object.value(QStringLiteral("deviceDir")).toString() == expected.devicePath()
+                && object.value(QStringLiteral("projectDir")).toString() == expected.projectPath();
+        };
+        QVERIFY2(std::any_of(placed.begin(), placed.end(), isExpected),
+                 qPrintable(expected.fileName()));
+    }
+    QCOMPARE(placed.first().toObject().value(QStringLiteral("deviceDir")).toString(),
+             QStringLiteral("/velkor/configurations/STD/conf/"));
+}
+
+void tst_VrnDevice::unreadableInput_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("errors");
+    for (const char *command : {"show", "place", "add-drive --type=KD3_drive"}) {
+        const QString name = QString::fromLatin1(command);
+        QTest::addRow("missing, %s", command) << name << QByteArray() << QStringLiteral("No such");
+        QTest::addRow("broken, %s", command)
+            << name << QByteArray("<VornDeviceConfig version=\"1.0\">\n<Device>\n</Devise>\n")
+            << QStringLiteral(".3deco:3:");
+        QTest::addRow("other document, %s", command)
+            << name << QByteArray("<VornParameters version=\"1.0\"/>")
+            << QStringLiteral("'VornParameters'");
+    }
+    for (const char *command : {"place", "add-drive --type=KD3_drive"}) {
+        QTest::addRow("no device, %s", command)
+            << QString::fromLatin1(command) << QByteArray("<VornDeviceConfig version=\"1.0\"/>")
+            << QStringLiteral("has no device");
+    }
+}
+
+void tst_VrnDevice::unreadableInput()
+{
+    QFETCH(QString, command);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, errors);
+    if (!content.isEmpty()) {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    const SResult result = run(command.split(QLatin1Char(' ')) << path());
+    QCOMPARE(result.exitCode, 3);
+    QVERIFY(result.output.isEmpty());
+    QVERIFY2(result.errors.contains(errors), qPrintable(result.errors));
+    QCOMPARE(contentOf(path()), content);
+}
+
+void tst_VrnDevice::exampleIsComplete()
+{
+    const QDir project(ExampleDirectory);
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(project.filePath(FileName)));
+    QVERIFY(file.configuration(device));
+    for (const CFileElement &placed : device.allFiles()) {
+        QVERIFY2(QFile::exists(project.filePath(placed.projectFilePath())),
+                 qPrintable(placed.projectFilePath()));
+    }
+    // The example is in the form in which the library writes it.
+    QByteArray saved;
+    QString error;
+    QVERIFY(file.save(saved, error));
+    QCOMPARE(saved, contentOf(project.filePath(FileName)));
+}
+
+QTEST_GUILESS_MAIN(tst_VrnDevice)
+#include "tst_vrndevice.moc"
