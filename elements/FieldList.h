@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDataStream>
+#include <QList>
 #include <QSharedDataPointer>
+#include <QStringList>
 
 #include <tuple>
 
@@ -39,11 +41,49 @@ QDataStream &write(QDataStream &stream, const QSharedDataPointer<Data> &data)
     return stream;
 }
 
-/** Detaches and overwrites the fields in place, without checks. */
+template <typename Field>
+void readField(QDataStream &stream, Field &field)
+{
+    stream >> field;
+}
+
+/**
+ * Qt's own operator takes the count for granted and reserves memory for it; a few broken bytes
+ * could ask for all there is. As there, a list that cannot be read to its end is left empty.
+ */
+template <typename List>
+void readList(QDataStream &stream, List &list)
+{
+    list.clear();
+    quint32 count = 0;
+    stream >> count;
+    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        typename List::value_type item;
+        stream >> item;
+        list.append(item);
+    }
+    if (stream.status() != QDataStream::Ok) {
+        list.clear();
+    }
+}
+
+template <typename Item>
+void readField(QDataStream &stream, QList<Item> &list)
+{
+    readList(stream, list);
+}
+
+inline void readField(QDataStream &stream, QStringList &list)
+{
+    readList(stream, list);
+}
+
+/** Detaches and overwrites the fields in place, whatever the stream's status becomes. */
 template <typename Data>
 QDataStream &read(QDataStream &stream, QSharedDataPointer<Data> &data)
 {
-    std::apply([&stream](auto &...field) { (stream >> ... >> field); }, Data::fields(*data));
+    std::apply([&stream](auto &...field) { (readField(stream, field), ...); },
+               Data::fields(*data));
     return stream;
 }
 
