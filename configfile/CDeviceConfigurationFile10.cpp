@@ -12,10 +12,11 @@ using namespace NVornXmlTags;
 
 namespace {
 
-QString translated(const char *text)
+/** The texts of this class, under the context in which they are translated. */
+class Texts
 {
-    return QCoreApplication::translate("CDeviceConfigurationFile10", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile10)
+};
 
 /** Removes an element from its parent; false for a null one. */
 bool remove(const QDomElement &element)
@@ -36,8 +37,8 @@ bool CDeviceConfigurationFile10::handleVersionError(const QString &required,
                                                     const QString &existing)
 {
     return warnOfVersion(required, existing,
-                         translated("The configuration file was created with a previous version"),
-                         translated("The configuration file was created with a later version"));
+                         Texts::tr("The configuration file was created with a previous version"),
+                         Texts::tr("The configuration file was created with a later version"));
 }
 
 bool CDeviceConfigurationFile10::createNewDocument()
@@ -65,7 +66,7 @@ bool CDeviceConfigurationFile10::open(const QString &path)
     }
     if (!opened) {
         CMessageBoardHelper::setDebugCritical(
-            translated("The device configuration file could not be opened: %1")
+            Texts::tr("The device configuration file could not be opened: %1")
                 .arg(QDir::toNativeSeparators(path)),
             logfile());
     }
@@ -94,19 +95,19 @@ bool CDeviceConfigurationFile10::load(const QByteArray &buffer)
     }
     if (!loaded) {
         CMessageBoardHelper::setDebugCritical(
-            translated("The device configuration file buffer could not be loaded."), logfile());
+            Texts::tr("The device configuration file buffer could not be loaded."), logfile());
     }
     return finishOpening(loaded);
 }
 
 bool CDeviceConfigurationFile10::finishOpening(bool opened)
 {
-    if (opened) {
-        setCurrentFileVersion(requiredFileVersion());
-    } else {
+    if (!opened) {
         dropDocument();
         setOpenResult(NvrnGlobal::FILE_RESULT_FAILURE);
         setCurrentFileVersion(QString());
+    } else if (openResult() == NvrnGlobal::FILE_RESULT_SUCCESS) {
+        setCurrentFileVersion(requiredFileVersion());
     }
     return opened;
 }
@@ -204,7 +205,7 @@ CFileElement CDeviceConfigurationFile10::checkedProjectPath(const CFileElement &
         return file;
     }
     CMessageBoardHelper::setDebugWarning(
-        translated("The project path of '%1' is invalid and will be removed.").arg(file.fileName()),
+        Texts::tr("The project path of '%1' is invalid and will be removed.").arg(file.fileName()),
         logfile());
     CFileElement checked = file;
     checked.setProjectPath(QString());

@@ -17,10 +17,11 @@ namespace {
 const QLatin1Char OptionSeparator(' ');
 const int DriveNumbers = 256;
 
-QString translated(const char *text)
+/** The texts of this class, under the context in which they are translated. */
+class Texts
 {
-    return QCoreApplication::translate("CDeviceConfigurationFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile)
+};
 
 /** Gives each sub-device a drive number of its own, whatever the document says. */
 class DriveNumberKeeper
@@ -75,13 +76,10 @@ CDeviceConfigurationFileBase::~CDeviceConfigurationFileBase() = default;
 bool CDeviceConfigurationFileBase::handleVersionError(const QString &required,
                                                       const QString &existing)
 {
-    return warnOfVersion(required, existing,
-                         QCoreApplication::translate(
-                             "CDeviceConfigurationFile",
-                             "The device configuration file was created with a previous version"),
-                         QCoreApplication::translate(
-                             "CDeviceConfigurationFile",
-                             "The device configuration file was created with a later version"));
+    return warnOfVersion(
+        required, existing,
+        Texts::tr("The device configuration file was created with a previous version"),
+        Texts::tr("The device configuration file was created with a later version"));
 }
 
 bool CDeviceConfigurationFileBase::warnOfVersion(const QString &required, const QString &existing,
@@ -297,14 +295,14 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
         if (id < 0) {
             withoutPlace.prepend(index);
             CMessageBoardHelper::setDebugWarning(
-                translated("The sub-device '%1' is left out: all drive numbers are used.")
+                Texts::tr("The sub-device '%1' is left out: all drive numbers are used.")
                     .arg(subDevice.name()),
                 logfile());
             continue;
         }
         subDevice.setDriveId(static_cast<quint8>(id));
         CMessageBoardHelper::setDebugWarning(
-            translated("The sub-device '%1' has no drive number of its own and gets %2.")
+            Texts::tr("The sub-device '%1' has no drive number of its own and gets %2.")
                 .arg(subDevice.name())
                 .arg(id),
             logfile());
@@ -348,7 +346,7 @@ CDeviceHardwareId CDeviceConfigurationFileBase::hardwareIdIn(const QDomElement &
     CDeviceHardwareId id(text);
     if (id.isNull() && !text.isEmpty()) {
         CMessageBoardHelper::setDebugWarning(
-            translated("The hardware identity '%1' of '%2' cannot be read.")
+            Texts::tr("The hardware identity '%1' of '%2' cannot be read.")
                 .arg(text, getNodeValue(TAG_NAME, element)),
             logfile());
     }

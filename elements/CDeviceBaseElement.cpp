@@ -347,8 +347,7 @@ quint8 CDeviceBaseElement::insertSubDevice(CSubDeviceElement &subDevice, unsigne
     if (id == NoDriveId && !m_subDevices.contains(NoDriveId)) {
         id = nextFreeDriveID();
     }
-    subDevice.setHardwareId(hardwareIdStr());
-    fitSubDevice(subDevice, id);
+    fitSubDevice(subDevice, id, hardwareIdStr());
     m_subDevices.insert(id, subDevice);
     return id;
 }
@@ -359,11 +358,13 @@ quint8 CDeviceBaseElement::insertSubDevice(const CSubDeviceElement &subDevice, u
     return insertSubDevice(copy, id);
 }
 
-void CDeviceBaseElement::fitSubDevice(CSubDeviceElement &subDevice, unsigned char id) const
+void CDeviceBaseElement::fitSubDevice(CSubDeviceElement &subDevice, unsigned char id,
+                                      const QString &hardwareId) const
 {
     subDevice.setDriveId(id);
     subDevice.setDeviceSerial(serial());
     subDevice.setDeviceName(name());
+    subDevice.setHardwareId(hardwareId);
     subDevice.setConfigurationName(configurationName());
     if (subDevice.name().isEmpty()) {
         const QString pattern = deviceClass() == NDeviceConf::DEVICE_CLASS_KC2
@@ -752,10 +753,8 @@ void CDeviceBaseElement::setSubDevices(const QList<CSubDeviceElement> &subDevice
         if (sub.type() == NvrnDeviceCore::ELEMENT_UNKNOWN) {
             continue;
         }
-        if (sub.hardwareId().isNull()) {
-            sub.setHardwareId(hardwareIdStr());
-        }
-        fitSubDevice(sub, sub.driveId());
+        const QString own = sub.hardwareIdStr();
+        fitSubDevice(sub, sub.driveId(), own.isEmpty() ? hardwareIdStr() : own);
         m_subDevices.insert(sub.driveId(), sub);
     }
 }

@@ -301,7 +301,8 @@ private:
     void changeSubDevices(Change change);
     template <typename Change>
     void changeFiles(Change change);
-    void fitSubDevice(CSubDeviceElement &subDevice, unsigned char id) const;
+    void fitSubDevice(CSubDeviceElement &subDevice, unsigned char id,
+                      const QString &hardwareId) const;
     CFileElement fileAt(const QString &fileName, const QString &devicePath) const;
 
     QSharedDataPointer<CDeviceBaseElementData> d;

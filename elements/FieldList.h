@@ -82,8 +82,7 @@ inline void readField(QDataStream &stream, QStringList &list)
 template <typename Data>
 QDataStream &read(QDataStream &stream, QSharedDataPointer<Data> &data)
 {
-    std::apply([&stream](auto &...field) { (readField(stream, field), ...); },
-               Data::fields(*data));
+    std::apply([&stream](auto &...field) { (readField(stream, field), ...); }, Data::fields(*data));
     return stream;
 }
 

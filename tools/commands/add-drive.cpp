@@ -1,6 +1,6 @@
-#include "configfile/CDeviceConfigurationFile10.h"
 #include "tools/Command.h"
 #include "tools/ConfigurationJson.h"
+#include "tools/Input.h"
 #include "tools/Output.h"
 
 namespace {
@@ -50,12 +50,8 @@ int run(const SCommand &command, const QStringList &arguments)
 
     const QString path = line.argument(0);
     CDeviceConfigurationFile10 file(nullptr);
-    if (!file.open(path)) {
-        return EXIT_UNREADABLE_INPUT;
-    }
     CDeviceElement device;
-    if (!file.configuration(device)) {
-        printError(QStringLiteral("%1: The configuration has no device.").arg(path));
+    if (!readDevice(path, file, device)) {
         return EXIT_UNREADABLE_INPUT;
     }
     const auto wanted = static_cast<quint8>(id);
@@ -71,7 +67,7 @@ int run(const SCommand &command, const QStringList &arguments)
         return EXIT_NOT_DONE;
     }
 
-    if (!file.open(path) || !file.configuration(device)) {
+    if (!readDevice(path, file, device)) {
         return EXIT_UNREADABLE_INPUT;
     }
     const CSubDeviceElement added = device.subDevice(used);

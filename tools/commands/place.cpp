@@ -1,6 +1,6 @@
-#include "configfile/CDeviceConfigurationFile10.h"
 #include "tools/Command.h"
 #include "tools/ConfigurationJson.h"
+#include "tools/Input.h"
 #include "tools/Output.h"
 
 namespace {
@@ -73,12 +73,8 @@ int run(const SCommand &command, const QStringList &arguments)
         return line.exitCode();
     }
     CDeviceConfigurationFile10 file(nullptr);
-    if (!file.open(line.argument(0))) {
-        return EXIT_UNREADABLE_INPUT;
-    }
     CDeviceElement device;
-    if (!file.configuration(device)) {
-        printError(QStringLiteral("%1: The configuration has no device.").arg(line.argument(0)));
+    if (!readDevice(line.argument(0), file, device)) {
         return EXIT_UNREADABLE_INPUT;
     }
     const QList<SPlacedFile> files = placedFiles(device);

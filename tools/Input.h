@@ -1,0 +1,11 @@
+#pragma once
+
+#include "configfile/CDeviceConfigurationFile10.h"
+
+#include <QString>
+
+/**
+ * Opens the configuration @p path and reads its device.
+ * @return false when that fails, also because there is no device; the reason has been printed
+ */
+bool readDevice(const QString &path, CDeviceConfigurationFile10 &file, CDeviceElement &device);
