@@ -1,5 +1,7 @@
 #include "imported/xml/CIndentingXmlWriter.h"
 
+#include "imported/xml/XmlText.h"
+
 #include <QCoreApplication>
 #include <QMap>
 
@@ -52,11 +54,19 @@ private:
         }
         m_text += QLatin1String("<!DOCTYPE ") + m_rootName;
         if (!type.publicId().isEmpty()) {
-            m_text += QStringLiteral(" PUBLIC \"%1\" \"%2\"").arg(type.publicId(), type.systemId());
+            m_text += QLatin1String(" PUBLIC ") + quoted(type.publicId()) + QLatin1Char(' ')
+                + quoted(type.systemId());
         } else if (!type.systemId().isEmpty()) {
-            m_text += QStringLiteral(" SYSTEM \"%1\"").arg(type.systemId());
+            m_text += QLatin1String(" SYSTEM ") + quoted(type.systemId());
         }
         m_text += QLatin1String(">\n");
+    }
+
+    /** In a document type nothing can be escaped; a text holds at most one kind of quotes. */
+    static QString quoted(const QString &text)
+    {
+        const QChar quote = QLatin1Char(text.contains(QLatin1Char('"')) ? '\'' : '"');
+        return quote + text + quote;
     }
 
     void writeElement(const QDomElement &element, const QString &name, int depth)
@@ -68,8 +78,11 @@ private:
             return;
         }
         m_text += QLatin1Char('>');
-        const bool indented = !hasText(element);
+        const bool indented = !XmlText::holdsText(element);
         for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (indented && node.isText()) {
+                continue;
+            }
             if (indented) {
                 startLine(depth + 1);
             }
@@ -87,16 +100,6 @@ private:
             startLine(depth);
         }
         m_text += QLatin1String("</") + name + QLatin1Char('>');
-    }
-
-    static bool hasText(const QDomElement &element)
-    {
-        for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            if (node.isText() || node.isCDATASection()) {
-                return true;
-            }
-        }
-        return false;
     }
 
     void startLine(int depth)
@@ -129,6 +132,9 @@ private:
             }
             m_text += QLatin1String("<!--") + value + QLatin1String("-->");
         } else if (node.isProcessingInstruction()) {
+            if (value.contains(QLatin1String("?>"))) {
+                fail(tr("A processing instruction holds '?>', which XML cannot carry."));
+            }
             m_text += QLatin1String("<?") + node.nodeName();
             if (!value.isEmpty()) {
                 m_text += QLatin1Char(' ') + value;

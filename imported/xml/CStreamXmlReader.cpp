@@ -1,5 +1,7 @@
 #include "imported/xml/CStreamXmlReader.h"
 
+#include "imported/xml/XmlText.h"
+
 #include <QCoreApplication>
 #include <QDomImplementation>
 #include <QXmlStreamReader>
@@ -9,15 +11,14 @@ namespace {
 // QDom destroys its trees recursively: without a bound a small file could exhaust the stack.
 const int MaximumDepth = 256;
 
-/** Drops the blank text between the child elements of @p element. */
 void dropLayout(QDomElement &element)
 {
-    if (element.firstChildElement().isNull()) {
+    if (XmlText::holdsText(element)) {
         return;
     }
     for (QDomNode node = element.firstChild(); !node.isNull();) {
         const QDomNode next = node.nextSibling();
-        if (node.isText() && !node.isCDATASection() && node.nodeValue().trimmed().isEmpty()) {
+        if (node.isText()) {
             element.removeChild(node);
         }
         node = next;
