@@ -29,8 +29,8 @@ public:
     /** An empty container. */
     CSubDeviceElement();
     // Not explicit: a sub-device of either series is meant to pass for a container.
-    CSubDeviceElement(const CSubDeviceKD2Element &subDevice); // NOLINT(google-explicit-constructor)
-    CSubDeviceElement(const CSubDeviceKD3Element &subDevice); // NOLINT(google-explicit-constructor)
+    CSubDeviceElement(const CSubDeviceKD2Element &subDevice);
+    CSubDeviceElement(const CSubDeviceKD3Element &subDevice);
     CSubDeviceElement(const CSubDeviceElement &other);
     virtual ~CSubDeviceElement();
 
