@@ -70,8 +70,10 @@ QDomElement
 CAbstractDeviceConfigurationFile::findElementInConfigElement(const QString &tag,
                                                              const QDomElement &element) const
 {
-    const bool isConfig = element.tagName() == TAG_CONFIG;
-    return (isConfig ? element : findConfigElement(element)).firstChildElement(tag);
+    const QDomElement config =
+        element.tagName() == TAG_CONFIG ? element : findConfigElement(element);
+    // For QDom an empty name is any name, here it is none.
+    return tag.isEmpty() ? QDomElement() : config.firstChildElement(tag);
 }
 
 QDomElement
@@ -321,6 +323,9 @@ void CAbstractDeviceConfigurationFile::fileString(QString &fileName,
 void CAbstractDeviceConfigurationFile::replaceChildElement(const QDomElement &element,
                                                            QDomElement parent)
 {
+    if (parent.isNull()) {
+        return;
+    }
     const QDomElement present = parent.firstChildElement(element.tagName());
     if (present.isNull()) {
         parent.appendChild(element);

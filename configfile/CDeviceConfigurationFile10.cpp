@@ -310,11 +310,17 @@ QDomElement CDeviceConfigurationFile10::findFile(const QDomElement &list, Matche
 QDomElement CDeviceConfigurationFile10::findParamFile(const QString &name,
                                                       NvrnGlobal::EParamFileType type) const
 {
-    return findFile(findParamFilesElement(), [&](const QDomElement &entry) {
+    // At any depth below the list, as the list is read.
+    const QDomNodeList entries = findParamFilesElement().elementsByTagName(TAG_FILE);
+    for (int i = 0; i < entries.size(); ++i) {
+        const QDomElement entry = entries.at(i).toElement();
         CParamFileElement file;
         paramFileElement(file, entry);
-        return file.name() == name && file.type() == type && file.isValid();
-    });
+        if (file.name() == name && file.type() == type && file.isValid()) {
+            return entry;
+        }
+    }
+    return QDomElement();
 }
 
 QDomElement CDeviceConfigurationFile10::findAdditionalFile(const CFileElement &file) const

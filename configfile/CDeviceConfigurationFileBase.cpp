@@ -303,8 +303,7 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
         subDevice.setDriveId(static_cast<quint8>(id));
         CMessageBoardHelper::setDebugWarning(
             Texts::tr("The sub-device '%1' has no drive number of its own and gets %2.")
-                .arg(subDevice.name())
-                .arg(id),
+                .arg(subDevice.name(), QString::number(id)),
             logfile());
     }
     for (const int index : withoutPlace) {

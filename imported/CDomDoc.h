@@ -16,12 +16,15 @@ class VRNXML_EXPORT CDomDoc
 public:
     CDomDoc() = delete;
 
-    /** The first child element of @p parent named exactly @p tag; null if there is none. */
+    /**
+     * The first child element of @p parent named exactly @p tag; null if there is none, and for an
+     * empty tag.
+     */
     static QDomElement existingChild(const QString &tag, const QDomElement &parent);
 
     /**
      * The first child element of @p parent named exactly @p tag, appended when there is none; null
-     * when @p parent is null.
+     * when @p parent is null or @p tag is empty.
      */
     static QDomElement child(const QString &tag, QDomElement parent);
 

@@ -4,13 +4,14 @@
 
 QDomElement CDomDoc::existingChild(const QString &tag, const QDomElement &parent)
 {
-    return parent.firstChildElement(tag);
+    // QDom takes an empty name for any.
+    return tag.isEmpty() ? QDomElement() : parent.firstChildElement(tag);
 }
 
 QDomElement CDomDoc::child(const QString &tag, QDomElement parent)
 {
     QDomElement element = existingChild(tag, parent);
-    if (element.isNull() && !parent.isNull()) {
+    if (element.isNull() && !parent.isNull() && !tag.isEmpty()) {
         element = parent.ownerDocument().createElement(tag);
         parent.appendChild(element);
     }

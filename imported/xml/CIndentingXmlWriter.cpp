@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QMap>
+#include <QSet>
 
 namespace {
 
@@ -71,6 +72,7 @@ private:
 
     void writeElement(const QDomElement &element, const QString &name, int depth)
     {
+        checkName(name);
         m_text += QLatin1Char('<') + name;
         writeAttributes(element);
         if (!element.hasChildNodes()) {
@@ -117,6 +119,7 @@ private:
             sorted.insert(attribute.nodeName(), attribute.nodeValue());
         }
         for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
+            checkName(it.key());
             m_text += QLatin1Char(' ') + it.key() + QLatin1String("=\"");
             writeChecked(it.value(), element, Context::Attribute);
             m_text += QLatin1Char('"');
@@ -190,6 +193,17 @@ private:
         }
     }
 
+    void checkName(const QString &name)
+    {
+        if (m_checkedNames.contains(name)) {
+            return;
+        }
+        m_checkedNames.insert(name);
+        if (!XmlText::isName(name)) {
+            fail(tr("'%1' cannot be the name of an element or attribute.").arg(name));
+        }
+    }
+
     void checkCharacters(const QString &value, const QString &elementName)
     {
         for (int i = 0; i < value.size(); ++i) {
@@ -202,14 +216,17 @@ private:
             const bool allowedControl = unit == '\t' || unit == '\n' || unit == '\r';
             if ((unit < 0x20 && !allowedControl) || c.isSurrogate() || unit >= 0xfffe) {
                 fail(tr("The element '%1' holds the character U+%2, which XML cannot carry.")
-                         .arg(elementName)
-                         .arg(unit, 4, 16, QLatin1Char('0')));
+                         .arg(elementName,
+                              QString::number(unit, 16).toUpper().rightJustified(
+                                  4, QLatin1Char('0'))));
                 return;
             }
         }
     }
 
     const QString m_rootName;
+    // A document has few names; asking about each only once keeps that cheap.
+    QSet<QString> m_checkedNames;
     QString m_text;
     QString m_reason;
 };

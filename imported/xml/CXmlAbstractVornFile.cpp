@@ -4,10 +4,10 @@
 #include "imported/CMessageBoardHelper.h"
 #include "imported/xml/CIndentingXmlWriter.h"
 #include "imported/xml/CStreamXmlReader.h"
+#include "imported/xml/XmlText.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace {
@@ -17,12 +17,6 @@ const QLatin1String HeadTag("Head");
 const QLatin1String AuthorTag("Author");
 const QLatin1String DateTag("Date");
 const QLatin1String CommentTag("Comment");
-
-bool isXmlName(const QString &text)
-{
-    static const QRegularExpression name(QStringLiteral("\\A[\\pL_:][\\pL\\pN_:.-]*\\z"));
-    return name.match(text).hasMatch();
-}
 
 } // namespace
 
@@ -82,7 +76,7 @@ public:
         if (document.documentElement().isNull()) {
             return fail(origin, tr("There is no document to save."), errorText);
         }
-        if (!isXmlName(rootName)) {
+        if (!XmlText::isName(rootName)) {
             return fail(origin, tr("'%1' cannot be a document type.").arg(rootName), errorText);
         }
         QString reason;
@@ -226,7 +220,7 @@ QDomDocument CXmlAbstractVornFile::domDocument() const
 bool CXmlAbstractVornFile::createNewDocument(const QString &documentType, const QString &version)
 {
     d->document = QDomDocument();
-    if (!isXmlName(documentType)) {
+    if (!XmlText::isName(documentType)) {
         return false;
     }
     QDomDocument created;

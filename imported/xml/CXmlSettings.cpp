@@ -31,8 +31,10 @@ const TypeName TypeNames[] = {
 };
 
 template <typename Number>
-QVariant boundedNumber(qlonglong value, bool ok)
+QVariant boundedNumber(const QString &text)
 {
+    bool ok = false;
+    const qlonglong value = text.toLongLong(&ok);
     const bool fits = ok && value >= std::numeric_limits<Number>::min()
         && value <= std::numeric_limits<Number>::max();
     return fits ? QVariant::fromValue(static_cast<Number>(value)) : QVariant();
@@ -43,17 +45,17 @@ QVariant fromText(const QString &text, QMetaType::Type type)
     bool ok = false;
     switch (type) {
     case QMetaType::SChar:
-        return boundedNumber<signed char>(text.toLongLong(&ok), ok);
+        return boundedNumber<signed char>(text);
     case QMetaType::Short:
-        return boundedNumber<short>(text.toLongLong(&ok), ok);
+        return boundedNumber<short>(text);
     case QMetaType::Int:
-        return boundedNumber<int>(text.toLongLong(&ok), ok);
+        return boundedNumber<int>(text);
     case QMetaType::UChar:
-        return boundedNumber<unsigned char>(text.toLongLong(&ok), ok);
+        return boundedNumber<unsigned char>(text);
     case QMetaType::UShort:
-        return boundedNumber<unsigned short>(text.toLongLong(&ok), ok);
+        return boundedNumber<unsigned short>(text);
     case QMetaType::UInt:
-        return boundedNumber<unsigned int>(text.toLongLong(&ok), ok);
+        return boundedNumber<unsigned int>(text);
     case QMetaType::LongLong: {
         const qlonglong value = text.toLongLong(&ok);
         return ok ? QVariant(value) : QVariant();

@@ -56,7 +56,8 @@ int run(const SCommand &command, const QStringList &arguments)
     }
     const auto wanted = static_cast<quint8>(id);
     if (wanted != NextFree && device.subDevice(wanted).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
-        printError(QStringLiteral("%1: The drive number %2 is in use.").arg(path).arg(id));
+        printError(
+            QStringLiteral("%1: The drive number %2 is in use.").arg(path, QString::number(id)));
         return EXIT_NOT_DONE;
     }
     drive.setName(line.value(NameOption));
