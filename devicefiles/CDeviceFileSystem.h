@@ -109,6 +109,9 @@ public:
      * A path that holds the name of the device's configuration loses that name and the directory
      * of the configurations; it must lie in one of the maker's directories, and the device must
      * not be null. Any other path must lie in the opt tree. Runs of separators become one.
+     *
+     * The name is looked for anywhere in the path, not as a directory: a configuration that is
+     * named like a part of the fixed directories ("conf", "opt") is found, and removed, there too.
      * @return empty for a path that lies nowhere on the device; an empty configuration name counts
      *         as not found in the path
      */

@@ -79,8 +79,10 @@ int indexOf(const List &list, Predicate matches)
 CParamFileElement placed(const CParamFileElement &file, const CDeviceBaseElement &device)
 {
     CParamFileElement result = file;
-    if (result.devicePath().isEmpty() && !device.configurationName().isEmpty()) {
-        result.setDevicePath(device.stdParameterFileDevicePath(file.type()));
+    const QString standardPath = device.stdParameterFileDevicePath(file.type());
+    // Without a configuration name most types have no place, only the end of a path.
+    if (result.devicePath().isEmpty() && standardPath.startsWith(QLatin1Char('/'))) {
+        result.setDevicePath(standardPath);
     }
     if (result.projectPath().isEmpty()) {
         result.setProjectPath(
@@ -92,6 +94,9 @@ CParamFileElement placed(const CParamFileElement &file, const CDeviceBaseElement
 void collect(const CParamFileElement &file, QFlags<NvrnDeviceCore::EDeviceFile> kinds,
              const CDeviceBaseElement &device, FileCollector &collector)
 {
+    if (!file.isValid()) {
+        return;
+    }
     const CParamFileElement atPlace = placed(file, device);
     if (kinds.testFlag(NvrnDeviceCore::DEVICE_FILE_PARAMETER_VALUES)) {
         collector.add(atPlace.valueFile());
@@ -469,13 +474,13 @@ bool CDeviceBaseElement::removeOption(const QString &option)
 
 QList<CFileElement> CDeviceBaseElement::fpgaFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const
 {
-    QList<CFileElement> files;
+    FileCollector collector;
     if (kinds.testFlag(NvrnDeviceCore::DEVICE_FILE_FPGA)) {
         for (int i = 0; i < fpgaFileCount(); ++i) {
-            files.append(fpgaFileElement(i));
+            collector.add(fpgaFileElement(i));
         }
     }
-    return files;
+    return collector.files();
 }
 
 CFileElement CDeviceBaseElement::fpgaFileElement(int index) const
@@ -634,11 +639,13 @@ void CDeviceBaseElement::setPlugins(const QList<CPluginElement> &plugins)
 
 QList<CFileElement> CDeviceBaseElement::pluginFileElements() const
 {
-    QList<CFileElement> files;
+    FileCollector collector;
     for (const CPluginElement &plugin : d->plugins) {
-        files.append(fileAt(plugin.fileName(), stdAppPluginDevicePath()));
+        if (!plugin.name().isEmpty()) {
+            collector.add(fileAt(plugin.fileName(), stdAppPluginDevicePath()));
+        }
     }
-    return files;
+    return collector.files();
 }
 
 QString CDeviceBaseElement::executionPlugin() const
@@ -830,5 +837,7 @@ QDataStream &operator<<(QDataStream &stream, const CDeviceBaseElement &device)
 QDataStream &operator>>(QDataStream &stream, CDeviceBaseElement &device)
 {
     stream >> static_cast<CBaseElement &>(device);
-    return FieldList::read(stream, device.d) >> device.m_subDevices;
+    FieldList::read(stream, device.d);
+    FieldList::readField(stream, device.m_subDevices);
+    return stream;
 }

@@ -141,8 +141,8 @@ public:
     /**
      * Every file of the kinds asked for, in this order: parameter files (value, then definition
      * file), object dictionary, fault texts, additional files, plug-ins, FPGA images, OPC UA files,
-     * EtherCAT master file, then the files of each sub-device. Entries without a file name are left
-     * out, and so are repetitions of a name in the same directories. Parameter files without a
+     * EtherCAT master file, then the files of each sub-device. Entries without a name are left out,
+     * and so are repetitions of a name in the same directories. Parameter files without a
      * directory, FPGA images and plug-ins lie where the directory layout puts them.
      */
     virtual QList<CFileElement>
@@ -174,7 +174,7 @@ public:
 
     // FPGA images
 
-    /** The FPGA images as files, if @p kinds contains DEVICE_FILE_FPGA. */
+    /** The FPGA images, if @p kinds contains DEVICE_FILE_FPGA, as allFiles() tells them. */
     QList<CFileElement> fpgaFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const;
     /** One FPGA image as a file at its place on the device and in the project; null when absent. */
     CFileElement fpgaFileElement(int index) const;
@@ -226,7 +226,7 @@ public:
 
     QList<CPluginElement> plugins() const;
     void setPlugins(const QList<CPluginElement> &plugins);
-    /** The libraries of the plug-ins, at their place on the device and in the project. */
+    /** The libraries of the plug-ins, as allFiles() tells them. */
     QList<CFileElement> pluginFileElements() const;
     /** Name of the plug-in that runs the application; empty when there is none. */
     QString executionPlugin() const;

@@ -2,6 +2,7 @@
 
 #include <QDataStream>
 #include <QList>
+#include <QMap>
 #include <QSharedDataPointer>
 #include <QStringList>
 
@@ -76,6 +77,24 @@ void readField(QDataStream &stream, QList<Item> &list)
 inline void readField(QDataStream &stream, QStringList &list)
 {
     readList(stream, list);
+}
+
+/** Here Qt's own operator would keep several values under one key; the last one counts. */
+template <typename Key, typename Value>
+void readField(QDataStream &stream, QMap<Key, Value> &map)
+{
+    map.clear();
+    quint32 count = 0;
+    stream >> count;
+    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        Key key = Key();
+        Value value;
+        stream >> key >> value;
+        map.insert(key, value);
+    }
+    if (stream.status() != QDataStream::Ok) {
+        map.clear();
+    }
 }
 
 /** Detaches and overwrites the fields in place, whatever the stream's status becomes. */
