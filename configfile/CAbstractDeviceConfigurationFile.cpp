@@ -297,6 +297,9 @@ void CAbstractDeviceConfigurationFile::appendPluginElement(const CPluginElement 
 void CAbstractDeviceConfigurationFile::setFileElements(const QList<CFileElement> &files,
                                                        const QString &tag, QDomElement parent)
 {
+    if (parent.isNull()) {
+        return;
+    }
     const QDomElement list = parent.ownerDocument().createElement(tag);
     for (const CFileElement &file : files) {
         appendFileElement(file, list);
@@ -307,6 +310,9 @@ void CAbstractDeviceConfigurationFile::setFileElements(const QList<CFileElement>
 void CAbstractDeviceConfigurationFile::setFileStringList(const QStringList &fileNames,
                                                          const QString &tag, QDomElement parent)
 {
+    if (parent.isNull()) {
+        return;
+    }
     const QDomElement list = parent.ownerDocument().createElement(tag);
     for (const QString &fileName : fileNames) {
         appendFileString(fileName, list);
@@ -323,9 +329,6 @@ void CAbstractDeviceConfigurationFile::fileString(QString &fileName,
 void CAbstractDeviceConfigurationFile::replaceChildElement(const QDomElement &element,
                                                            QDomElement parent)
 {
-    if (parent.isNull()) {
-        return;
-    }
     const QDomElement present = parent.firstChildElement(element.tagName());
     if (present.isNull()) {
         parent.appendChild(element);

@@ -109,6 +109,9 @@ QString CDeviceConfigurationFileBase::currentFileVersion() const
 void CDeviceConfigurationFileBase::setDescriptionElement(const CDescriptionElement &description,
                                                          QDomElement element)
 {
+    if (element.isNull()) {
+        return;
+    }
     setNodeValue(TAG_NAME, description.name(), element);
     setNodeValue(TAG_COMMENT, description.comment(), element);
     setNodeValue(TAG_VERSION, description.version(), element);
@@ -135,6 +138,9 @@ void CDeviceConfigurationFileBase::descriptionElement(CDescriptionElement &descr
 
 QDomElement CDeviceConfigurationFileBase::createSubDeviceDomElement(QDomElement device)
 {
+    if (device.isNull()) {
+        return QDomElement();
+    }
     QDomElement element = device.ownerDocument().createElement(TAG_SUB_DEVICE);
     element.setAttribute(
         ATTR_TYPE, TextTables::text(TextTables::subDeviceTypes(), NvrnDeviceCore::ELEMENT_UNKNOWN));
@@ -145,6 +151,9 @@ QDomElement CDeviceConfigurationFileBase::createSubDeviceDomElement(QDomElement 
 void CDeviceConfigurationFileBase::setDeviceElement(const CDeviceElement &device,
                                                     QDomElement element)
 {
+    if (element.isNull()) {
+        return;
+    }
     setNodeValue(TAG_HARDWAREID, device.hardwareIdStr(), element);
     setNodeValue(TAG_CLASS, deviceClassToStr(device.deviceClass()), element);
     setNodeValue(TAG_NAME, device.name(), element);
@@ -189,7 +198,7 @@ void CDeviceConfigurationFileBase::setConfigElement(const CDeviceElement &device
 void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElement &subDevice,
                                                           QDomElement device)
 {
-    if (subDevice.type() == NvrnDeviceCore::ELEMENT_UNKNOWN) {
+    if (subDevice.type() == NvrnDeviceCore::ELEMENT_UNKNOWN || device.isNull()) {
         return;
     }
     QDomElement element = createSubDeviceDomElement(device);
@@ -209,6 +218,9 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
 void CDeviceConfigurationFileBase::appendKD2SubDeviceElement(const CSubDeviceKD2Element &subDevice,
                                                              QDomElement element)
 {
+    if (element.isNull()) {
+        return;
+    }
     setSingleFile(subDevice.kd2ParameterFile(), TAG_KD2_PARAM, element);
     setSingleFile(subDevice.kd2LogicFile(), TAG_KD2_LOGIC, element);
     setSingleFile(subDevice.kd2FirmwareFile(), TAG_KD2_FIRMWARE, element);
@@ -369,6 +381,9 @@ void CDeviceConfigurationFileBase::paramFileElementList(QList<CParamFileElement>
 void CDeviceConfigurationFileBase::setParamFileElementList(const QList<CParamFileElement> &files,
                                                            QDomElement config)
 {
+    if (config.isNull()) {
+        return;
+    }
     const QDomElement list = config.ownerDocument().createElement(TAG_PARAMETERFILES);
     for (const CParamFileElement &file : files) {
         appendParamFileElement(file, list);
@@ -391,6 +406,9 @@ void CDeviceConfigurationFileBase::pluginElementList(QList<CPluginElement> &plug
 void CDeviceConfigurationFileBase::setPluginElementList(const QList<CPluginElement> &plugins,
                                                         QDomElement config)
 {
+    if (config.isNull()) {
+        return;
+    }
     const QDomElement list = config.ownerDocument().createElement(TAG_PLUGINS);
     for (const CPluginElement &plugin : plugins) {
         appendPluginElement(plugin, list);
@@ -401,6 +419,9 @@ void CDeviceConfigurationFileBase::setPluginElementList(const QList<CPluginEleme
 void CDeviceConfigurationFileBase::setSingleFile(const CFileElement &file, const QString &tag,
                                                  QDomElement parent)
 {
+    if (parent.isNull()) {
+        return;
+    }
     QDomElement holder = parent.firstChildElement(tag);
     if (holder.isNull() && file.isNull()) {
         return;

@@ -214,7 +214,8 @@ ICLogfile *CXmlAbstractVornFile::logfile() const
 
 QDomDocument CXmlAbstractVornFile::domDocument() const
 {
-    return d->document;
+    // Whoever holds a handle may have removed the root: what is left is no document.
+    return d->document.documentElement().isNull() ? QDomDocument() : d->document;
 }
 
 bool CXmlAbstractVornFile::createNewDocument(const QString &documentType, const QString &version)
