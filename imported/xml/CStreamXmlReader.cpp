@@ -42,7 +42,8 @@ public:
         }
         if (m_reader.hasError()) {
             error.line = m_reader.lineNumber();
-            error.column = m_reader.columnNumber() + 1;
+            // The reader counts from 0 and stands behind the character it could not take.
+            error.column = qMax<qint64>(1, m_reader.columnNumber());
             error.reason = m_reader.errorString();
             document = QDomDocument();
             return false;

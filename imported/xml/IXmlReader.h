@@ -4,7 +4,10 @@
 #include <QDomDocument>
 #include <QString>
 
-/** Where and why a document was refused. Line and column count from 1. */
+/**
+ * Where and why a document was refused. Line and column count from 1; they are those of the
+ * character that could not be taken, or of the last one when the document ends too early.
+ */
 struct SXmlError {
     qint64 line = 0;
     qint64 column = 0;
