@@ -74,6 +74,7 @@ public:
      */
     virtual QString currentFileVersion() const = 0;
 
+    /** Sets the description; its element is created, with a comment before it, when absent. */
     virtual bool setDescription(const CDescriptionElement &description) = 0;
     /** A default-constructed description when the document has none. */
     virtual CDescriptionElement description() const = 0;
@@ -95,11 +96,16 @@ public:
      */
     virtual bool configuration(CDeviceElement &device) const = 0;
 
+    /**
+     * Object dictionary and fault texts, as the document tells them: with their project paths,
+     * whether or not configuration() would accept these. A null file removes the entry.
+     */
     virtual bool setOdictFile(const CFileElement &file) = 0;
     virtual CFileElement odictFile() const = 0;
     virtual bool setFaultTextFile(const CFileElement &file) = 0;
     virtual CFileElement faultTextFile() const = 0;
 
+    /** The parameter files, with name, type and comment; the document tells no directories. */
     virtual QList<CParamFileElement> paramFiles() const = 0;
     /** @return whether the document has a list of parameter files */
     virtual bool paramFiles(QList<CParamFileElement> &files) const = 0;
@@ -114,7 +120,7 @@ public:
     virtual bool removeParamFile(const CParamFileElement &file) = 0;
     virtual bool removeParamFile(const QString &name, NvrnGlobal::EParamFileType type) = 0;
 
-    /** The first one is the active one. */
+    /** Names of the FPGA images; the first one is the active one. */
     virtual QStringList fpgaFiles() const = 0;
     virtual bool setFpgaFiles(const QStringList &fileNames) = 0;
     virtual bool containsFpgaFile(const QString &fileName) const = 0;
@@ -128,6 +134,7 @@ public:
     virtual bool setActiveFpgaFile(const QString &fileName) = 0;
     virtual QString activeFpgaFile() const = 0;
 
+    /** Further files that are transferred with the device, without null entries. */
     virtual QList<CFileElement> additionalFiles() const = 0;
     virtual bool setAdditionalFiles(const QList<CFileElement> &files) = 0;
     virtual bool containsAdditionalFile(const CFileElement &file) const = 0;
@@ -136,10 +143,12 @@ public:
     /** Removes the first equal file; false when there is none. */
     virtual bool removeAdditionalFile(const CFileElement &file) = 0;
 
+    /** Replaces the list of plug-ins. */
     virtual bool setPlugins(const QList<CPluginElement> &plugins) = 0;
     virtual QList<CPluginElement> plugins() const = 0;
     /** @return whether the document has a list of plug-ins */
     virtual bool plugins(QList<CPluginElement> &plugins) const = 0;
+    /** Name of the plug-in that runs the application; empty when there is none. */
     virtual bool setExecutionPlugin(const QString &name) = 0;
     virtual QString executionPlugin() const = 0;
 
@@ -150,6 +159,7 @@ public:
     /** @return whether the document has a list of OPC UA files */
     virtual bool opcUaFiles(QList<CFileElement> &files) const = 0;
 
+    /** Bus configuration of the EtherCAT master; a null file removes the entry. */
     virtual bool setEtherCatMasterFile(const CFileElement &file) = 0;
     virtual CFileElement etherCatMasterFile() const = 0;
 

@@ -31,50 +31,76 @@ public:
 
     // The sm tree
 
+    /** Root of the sm tree. */
     static QString smPath();
+    /** Configuration directory of the device itself. */
     static QString smConfPath();
+    /** Log files. */
     static QString smLogPath();
+    /** Holds the directories of the device configurations. */
     static QString smConfigurationsPath();
+    /** Directory of one device configuration; empty for an empty name. */
     static QString smDevicePath(const QString &name);
     QString smDevicePath() const;
+    /** Configuration directory of a device configuration. */
     static QString smDeviceConfPath(const QString &name);
     QString smDeviceConfPath() const;
+    /** Parameter directory, relative to that of the device configuration. */
     static QString smRelDeviceParamPath();
+    /** Parameter directory of a device configuration. */
     static QString smDeviceParamPath(const QString &name);
     QString smDeviceParamPath() const;
+    /** Holds the directories of the sub-devices. */
     static QString smSubDevicesPath(const QString &name);
     QString smSubDevicesPath() const;
+    /** Directory of sub-device @p n (not padded), relative to that of the configuration. */
     static QString smRelSubDevicePath(int n);
+    /** Directory of sub-device @p n, counted from 0. */
     static QString smSubDevicePath(const QString &name, int n);
     QString smSubDevicePath(int n) const;
+    /** Firmware of sub-device @p n. */
     static QString smSubDeviceFirmwarePath(const QString &name, int n);
     QString smSubDeviceFirmwarePath(int n) const;
+    /** Logic (FPGA images) of sub-device @p n. */
     static QString smSubDeviceLogicPath(const QString &name, int n);
     QString smSubDeviceLogicPath(int n) const;
+    /** Parameters of sub-device @p n, relative to the directory of the configuration. */
     static QString smRelSubDeviceParamPath(int n);
+    /** Parameters of sub-device @p n. */
     static QString smSubDeviceParamPath(const QString &name, int n);
     QString smSubDeviceParamPath(int n) const;
 
     // The opt tree
 
+    /** Root of the opt tree. */
     static QString optSMPath();
+    /** Configuration area that all device configurations share. */
     static QString optSMEtcConfPath();
+    /** Holds all plug-ins. */
     static QString optSMPluginsBasePath();
+    /** Plug-ins of the application. */
     static QString optSMPluginsPath();
+    /** Holds the directories of the device configurations. */
     static QString optSMConfigurationsPath();
+    /** Directory of one device configuration; empty for an empty name. */
     static QString optSMDevicePath(const QString &name);
     QString optSMDevicePath() const;
+    /** What a device configuration starts by itself. */
     static QString optSMDeviceAutostartPath(const QString &name);
     QString optSMDeviceAutostartPath() const;
+    /** Binaries of a device configuration. */
     static QString optSMDeviceBinPath(const QString &name);
     QString optSMDeviceBinPath() const;
+    /** Configuration directory of a device configuration. */
     static QString optSMDeviceConfPath(const QString &name);
     QString optSMDeviceConfPath() const;
 
     // Where each kind of file is kept
 
+    /** Object dictionary: optSMDeviceConfPath(). */
     static QString stdObjectDictionaryPath(const QString &name);
     QString stdObjectDictionaryPath() const;
+    /** Fault texts: optSMDeviceConfPath(). */
     static QString stdFaultTextFilePath(const QString &name);
     QString stdFaultTextFilePath() const;
     /**
@@ -83,10 +109,14 @@ public:
      */
     static QString stdParamFilePath(NvrnGlobal::EParamFileType type, const QString &name);
     QString stdParamFilePath(NvrnGlobal::EParamFileType type) const;
+    /** FPGA images: optSMEtcConfPath(). */
     static QString stdFpgaPath();
+    /** Plug-ins: optSMPluginsPath(). */
     static QString stdPluginPath();
+    /** OPC UA models: smDeviceConfPath(). */
     static QString stdOpcUaFilePath(const QString &name);
     QString stdOpcUaFilePath() const;
+    /** Bus configuration of the EtherCAT master: smDeviceParamPath(). */
     static QString stdEtherCatMasterFilePath(const QString &name);
     QString stdEtherCatMasterFilePath() const;
 

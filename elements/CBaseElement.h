@@ -83,13 +83,21 @@ public:
     virtual quint8 driveId() const;
     virtual void setDriveId(unsigned char driveId);
 
+    /** Whether the element is a CDeviceBaseElement. */
     virtual bool isDevice() const;
+    /** Whether the element is a CSubDeviceBaseElement. */
     virtual bool isSubDevice() const;
+    /** Whether the element is a CSubDeviceKD2Element. */
     virtual bool isKD2SubDevice() const;
+    /** Whether the element is a CSubDeviceKD3Element. */
     virtual bool isKD3SubDevice() const;
 
-    // By value: a copy as that class if the element is of it, else a null element of that class.
-    // By pointer: this element, still owned by whoever owns it, or a null pointer.
+    /**
+     * @name Casts
+     * By value: a copy as that class if the element is of it, else a null element of that class.
+     * By pointer: this element, still owned by whoever owns it, or a null pointer.
+     */
+    ///@{
     virtual CDeviceElement toDevice() const;
     virtual CDeviceElement *toDevicePtr() const;
     virtual CDeviceBaseElement toBaseDevice() const;
@@ -100,6 +108,7 @@ public:
     virtual CSubDeviceKD2Element *toKD2SubDevicePtr() const;
     virtual CSubDeviceKD3Element toKD3SubDevice() const;
     virtual CSubDeviceKD3Element *toKD3SubDevicePtr() const;
+    ///@}
 
     CBaseElement &operator=(const CBaseElement &other);
 

@@ -16,6 +16,8 @@
 #include <limits>
 #include <memory>
 
+#include <dlfcn.h>
+
 Q_DECLARE_METATYPE(const QString *)
 Q_DECLARE_METATYPE(QRegExp)
 
@@ -449,6 +451,7 @@ class tst_vocabulary : public QObject
     Q_OBJECT
 
 private slots:
+    void constantsExistOnce();
     void constant_data();
     void constant();
     void everyDeclaredConstantHasARow_data();
@@ -1207,6 +1210,15 @@ void tst_vocabulary::unknownDeviceClassText()
     const auto *forms = dynamic_cast<const CAbstractDeviceConfigurationFile *>(file.get());
     QVERIFY(forms);
     QCOMPARE(static_cast<int>(forms->strToDeviceClass(text)), 0);
+}
+
+void tst_vocabulary::constantsExistOnce()
+{
+    // What this program sees is the object in the library, not a copy of its own.
+    QCOMPARE(dlsym(RTLD_DEFAULT, "_ZN12NVornXmlTags8TAG_HEADE"),
+             static_cast<const void *>(&NVornXmlTags::TAG_HEAD));
+    QCOMPARE(dlsym(RTLD_DEFAULT, "_ZN11NDeviceConf17NAME_CHECK_REGEXPE"),
+             static_cast<const void *>(&NDeviceConf::NAME_CHECK_REGEXP));
 }
 
 QTEST_APPLESS_MAIN(tst_vocabulary)
