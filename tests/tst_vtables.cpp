@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QMap>
 #include <QStringList>
 #include <QTest>
@@ -35,6 +36,60 @@ QByteArray vtableSymbol(const QString &className)
     return "_ZTV" + QByteArray::number(name.size()) + name;
 }
 
+#if defined(__LP64__)
+size_t symbolIndex(ElfW(Xword) info)
+{
+    return ELF64_R_SYM(info);
+}
+#else
+size_t symbolIndex(ElfW(Word) info)
+{
+    return ELF32_R_SYM(info);
+}
+#endif
+
+using SymbolNames = QHash<ElfW(Addr), const char *>;
+
+/**
+ * For each place in a loaded library that the loader filled with the address of a symbol: its name.
+ * The address alone would not do, for the optimizer gives functions with equal bodies one address.
+ */
+class Relocations
+{
+public:
+    explicit Relocations(const link_map *library) : m_library(library)
+    {
+        for (const ElfW(Dyn) *entry = library->l_ld; entry->d_tag != DT_NULL; ++entry) {
+            m_dynamic.insert(static_cast<qint64>(entry->d_tag), entry->d_un.d_ptr);
+        }
+        collect<ElfW(Rela)>(DT_RELA, DT_RELASZ);
+        collect<ElfW(Rel)>(DT_REL, DT_RELSZ);
+    }
+
+    SymbolNames names() const { return m_names; }
+
+private:
+    template <typename Entry>
+    void collect(qint64 tableTag, qint64 sizeTag)
+    {
+        const auto *table = reinterpret_cast<const Entry *>(m_dynamic.value(tableTag));
+        const auto *symbols = reinterpret_cast<const ElfW(Sym) *>(m_dynamic.value(DT_SYMTAB));
+        const auto *texts = reinterpret_cast<const char *>(m_dynamic.value(DT_STRTAB));
+        const size_t count = m_dynamic.value(sizeTag) / sizeof(Entry);
+        for (size_t i = 0; table != nullptr && i < count; ++i) {
+            const size_t index = symbolIndex(table[i].r_info);
+            if (index != 0) {
+                m_names.insert(m_library->l_addr + table[i].r_offset,
+                               texts + symbols[index].st_name);
+            }
+        }
+    }
+
+    const link_map *m_library;
+    QHash<qint64, ElfW(Addr)> m_dynamic;
+    SymbolNames m_names;
+};
+
 /**
  * The functions in the slots of a class, as the loaded libraries have them; empty without any.
  *
@@ -45,26 +100,25 @@ __attribute__((no_sanitize("address"))) QStringList compiledSlots(const QString 
 {
     void *const address = dlsym(RTLD_DEFAULT, vtableSymbol(className).constData());
     Dl_info info = {};
-    void *entry = nullptr;
-    if (address == nullptr || dladdr1(address, &info, &entry, RTLD_DL_SYMENT) == 0) {
+    void *symbol = nullptr;
+    void *library = nullptr;
+    if (address == nullptr || dladdr1(address, &info, &symbol, RTLD_DL_SYMENT) == 0
+        || dladdr1(address, &info, &library, RTLD_DL_LINKMAP) == 0) {
         return QStringList();
     }
-    const auto *symbol = static_cast<const ElfW(Sym) *>(entry);
+    const SymbolNames names = Relocations(static_cast<const link_map *>(library)).names();
     void *const *const words = static_cast<void *const *>(address);
-    const size_t count = symbol->st_size / sizeof(void *);
+    const size_t count = static_cast<const ElfW(Sym) *>(symbol)->st_size / sizeof(void *);
     // Offset to top and type information come first.
     QStringList result;
     for (size_t i = 2; i < count; ++i) {
-        if (words[i] == nullptr) {
-            result << NullSlot;
-            continue;
+        const char *name = names.value(reinterpret_cast<ElfW(Addr)>(words + i));
+        if (name == nullptr) {
+            result << (words[i] == nullptr ? NullSlot : QStringLiteral("unknown"));
+        } else {
+            const QString function = demangled(name);
+            result << (function == QLatin1String("__cxa_pure_virtual") ? PureSlot : function);
         }
-        if (dladdr(words[i], &info) == 0 || info.dli_sname == nullptr) {
-            result << QStringLiteral("unknown");
-            continue;
-        }
-        const QString name = demangled(info.dli_sname);
-        result << (name == QLatin1String("__cxa_pure_virtual") ? PureSlot : name);
     }
     while (!result.isEmpty() && result.last() == NullSlot) {
         result.removeLast();
