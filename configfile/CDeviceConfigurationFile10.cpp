@@ -114,10 +114,8 @@ bool CDeviceConfigurationFile10::finishOpening(bool opened)
 
 void CDeviceConfigurationFile10::dropDocument()
 {
-    QDomDocument document = domDocument();
-    while (document.hasChildNodes()) {
-        document.removeChild(document.firstChild());
-    }
+    // No name gives no document. Handles that callers got before keep what they have.
+    createNewDocument(QString(), QString());
 }
 
 bool CDeviceConfigurationFile10::hasDocument() const

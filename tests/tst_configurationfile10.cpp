@@ -83,6 +83,7 @@ private slots:
     void loadFails_data();
     void loadFails();
     void failureLeavesNullHandle();
+    void failureLeavesHandlesOfCallers();
     void failureDoesNotStick();
 
     void versions_data();
@@ -332,6 +333,16 @@ void tst_ConfigurationFile10::failureLeavesNullHandle()
     QVERIFY(file.load(fullDocument()));
     QVERIFY(!file.load(QByteArray()));
     QVERIFY(file.domDocument().isNull());
+}
+
+void tst_ConfigurationFile10::failureLeavesHandlesOfCallers()
+{
+    const MessageCatcher catcher;
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load(fullDocument()));
+    const QDomDocument document = file.domDocument();
+    QVERIFY(!file.open(QString()));
+    QVERIFY(!document.documentElement().firstChildElement(u"Device"_s).isNull());
 }
 
 void tst_ConfigurationFile10::failureDoesNotStick()
