@@ -11,6 +11,7 @@
 #include <memory>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -213,6 +214,7 @@ private slots:
     void saveThroughLink();
     void saveIntoReadOnlyDirectory();
     void saveReadOnlyFile();
+    void saveThatFailsAtTheLastStep();
     void permissions_data();
     void permissions();
     void permissionsOfOldFileStay();
@@ -1133,6 +1135,34 @@ void tst_CXmlAbstractVornFile::saveReadOnlyFile()
     QVERIFY(file.createNewDocument(Type, Version));
     QString error;
     QVERIFY(!file.save(path(), error));
+    QCOMPARE(catcher.criticals(), QStringList{error});
+    QCOMPARE(Files::read(path()), QByteArray("old"));
+    QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
+}
+
+void tst_CXmlAbstractVornFile::saveThatFailsAtTheLastStep()
+{
+    // In a sticky directory everybody may add files, but replace only their own: the new content is
+    // complete beside the old, and cannot take its name.
+    const MessageCatcher catcher;
+    QVERIFY(Files::write(path(), "old"));
+    QCOMPARE(chmod(QFile::encodeName(path()).constData(), 0666), 0);
+    QCOMPARE(chmod(QFile::encodeName(m_directory->path()).constData(), 01777), 0);
+    bool wasSuperUser = false;
+    bool saved = false;
+    TestFile file;
+    QVERIFY(file.createNewDocument(Type, Version));
+    QString error;
+    {
+        const OrdinaryUser user;
+        QVERIFY(user.isOk());
+        wasSuperUser = user.wasSuperUser();
+        saved = file.save(path(), error);
+    }
+    if (!wasSuperUser) {
+        QSKIP("Only the super-user can set up a file of somebody else.", 0);
+    }
+    QVERIFY(!saved);
     QCOMPARE(catcher.criticals(), QStringList{error});
     QCOMPARE(Files::read(path()), QByteArray("old"));
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});

@@ -9,18 +9,18 @@
 
 /**
  * While it lives, a program that runs as the super-user has the rights of an ordinary one, for whom
- * permissions mean something. The given directory and its files become that user's.
+ * permissions mean something. A directory and its files that are given become that user's.
  */
 class OrdinaryUser
 {
 public:
-    OrdinaryUser(const QString &directory, const QStringList &fileNames)
+    explicit OrdinaryUser(const QString &directory = QString(), const QStringList &fileNames = {})
         : m_isSuperUser(geteuid() == 0)
     {
         if (!m_isSuperUser) {
             return;
         }
-        m_ok = give(directory);
+        m_ok = directory.isEmpty() || give(directory);
         for (const QString &fileName : fileNames) {
             m_ok = m_ok && give(directory + QLatin1Char('/') + fileName);
         }
@@ -36,6 +36,7 @@ public:
     }
 
     bool isOk() const { return m_ok; }
+    bool wasSuperUser() const { return m_isSuperUser; }
 
 private:
     Q_DISABLE_COPY(OrdinaryUser)
