@@ -28,7 +28,19 @@ set(VRN_PUBLIC_HEADERS
     configfile/CDeviceConfigurationFile10.h
     configfile/CDeviceConfigurationFileBase.h
     configfile/ICDeviceConfigurationFile.h
+    settings/CDeviceSettings.h
+    settings/CDeviceSettingsFile.h
+    settings/CDeviceSettingsFileBase.h
+    settings/CDeviceSettingsFileV10.h
+    settings/CNetworkSettings.h
+    settings/CNetworkSettingsCheck.h
+    settings/CNetworkSettingsFile.h
+    devicefiles/CDeviceCommData.h
     devicefiles/CDeviceFileSystem.h
+    devicefiles/CDeviceOSReleaseFile.h
+    devicefiles/CDeviceSystemMessage.h
+    devicefiles/CHashMap.h
+    devicefiles/COptionModuleFileName.h
     imported/CDeviceHardwareId.h
     imported/CDeviceItem.h
     imported/CDomDoc.h

@@ -38,7 +38,7 @@ public:
     virtual ~CXmlAbstractVornFile();
 
     /**
-     * Reads the file @p path. Its root must be named @p documentType. When its version is not
+     * Reads the regular file @p path. Its root must be named @p documentType. When its version is not
      * @p requiredVersion, handleVersionError() decides: if that accepts the document, it is from
      * then on a document of the required version, and is saved as one.
      *
@@ -59,7 +59,7 @@ public:
     /**
      * Replaces the file @p path by the document in one step: when saving fails, also half-way, the
      * old file is still there, whole. Where the file can be written but its directory cannot, it
-     * is written in place instead, and a failure half-way may leave it cut.
+     * is written in place instead, and a power cut half-way may leave it damaged.
      *
      * @param errorText on failure the file and the reason
      * @return false on failure, also when there is no document

@@ -7,7 +7,7 @@
 
 /**
  * What the whole tool chain shares: MIME types, log level names, address patterns, permission
- * sets, one-letter prefixes, and the enumerations for parameter files and file results.
+ * sets, one-letter prefixes, and the enumerations for parameter files, file results and connections.
  *
  * Every constant is one immutable object that the library builds when it is loaded; reading it is
  * safe from any thread.
@@ -123,6 +123,15 @@ enum EFileResult : qint32 {
     FILE_RESULT_WRITE_FAILURE = 5,
     /** One of the small device files could not be read. */
     FILE_RESULT_READ_FAILURE = 6
+};
+
+/** Whether a tool is connected with a device; see CDeviceCommData::connectionState(). */
+enum EConnectionState : qint32 {
+    /** The device does not answer, or nobody has called it. */
+    CONNECTION_STATE_DISCONNECTED = 0,
+    CONNECTION_STATE_CONNECTED = 1,
+    /** Nothing is known; the state of a record that tells no device. */
+    CONNECTION_STATE_UNKNOWN = 2
 };
 
 } // namespace NvrnGlobal

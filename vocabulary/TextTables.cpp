@@ -47,4 +47,27 @@ const Table<NvrnDeviceCore::EElementType> &subDeviceTypes()
     return table;
 }
 
+const Table<NvrnGlobal::EConnectionState> &connectionStates()
+{
+    using namespace NvrnGlobal;
+    // The default comes first: it stands for every number that is no state.
+    static const Table<EConnectionState> table = {
+        {CONNECTION_STATE_UNKNOWN, QStringLiteral("Unknown")},
+        {CONNECTION_STATE_DISCONNECTED, QStringLiteral("Disconnected")},
+        {CONNECTION_STATE_CONNECTED, QStringLiteral("Connected")},
+    };
+    return table;
+}
+
+const Table<CDeviceItem::EHostAddrType> &hostAddressTypes()
+{
+    static const Table<CDeviceItem::EHostAddrType> table = {
+        {CDeviceItem::HOST_ADDRESS_UNDEFINED, QStringLiteral("Undefined")},
+        {CDeviceItem::HOST_ADDRESS_IPV4, QStringLiteral("IPv4")},
+        {CDeviceItem::HOST_ADDRESS_IPV6, QStringLiteral("IPv6")},
+        {CDeviceItem::HOST_ADDRESS_NAME, QStringLiteral("Name")},
+    };
+    return table;
+}
+
 } // namespace TextTables

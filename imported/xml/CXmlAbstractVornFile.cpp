@@ -5,10 +5,10 @@
 #include "imported/xml/CIndentingXmlWriter.h"
 #include "imported/xml/CStreamXmlReader.h"
 #include "imported/xml/XmlText.h"
+#include "storage/FileStorage.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSaveFile>
 
 namespace {
 
@@ -103,13 +103,10 @@ bool CXmlAbstractVornFile::open(const QString &path, const QString &documentType
 {
     d->document = QDomDocument();
     const QString nativePath = QDir::toNativeSeparators(path);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return d->fail(nativePath, file.errorString(), errorText);
-    }
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        return d->fail(nativePath, file.errorString(), errorText);
+    QByteArray bytes;
+    const FileStorage::SResult read = FileStorage::read(path, bytes);
+    if (!read) {
+        return d->fail(nativePath, read.reason, errorText);
     }
     return d->load(bytes, nativePath, documentType, requiredVersion, errorText);
 }
@@ -144,11 +141,8 @@ bool CXmlAbstractVornFile::save(const QString &path, const QString &documentName
     if (!d->toBytes(nativePath, documentName, bytes, errorText)) {
         return false;
     }
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
-        && (!d->permissions || file.setPermissions(d->permissions)) && file.commit();
-    return written || d->fail(nativePath, file.errorString(), errorText);
+    const FileStorage::SResult saved = FileStorage::replace(path, bytes, d->permissions);
+    return saved || d->fail(nativePath, saved.reason, errorText);
 }
 
 bool CXmlAbstractVornFile::save(QByteArray &buffer, QString &errorText)

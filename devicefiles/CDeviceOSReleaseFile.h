@@ -1,0 +1,103 @@
+#pragma once
+
+#include "vocabulary/NvrnGlobal.h"
+#include "vocabulary/VrnDeviceCoreExport.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
+class CDeviceOSReleaseFilePrivate;
+class ICLogfile;
+
+/**
+ * The file "os-release" of a device: lines KEY=value that tell what its operating system is made
+ * of. Keys that have no accessor here are kept and saved, too.
+ *
+ * The text is UTF-8, with or without byte-order mark; lines end in a line feed, with or without
+ * carriage return. Nothing is posted to the message board or written to the log.
+ *
+ * Not synchronised: one object must not be used from two threads at once, distinct ones may.
+ */
+class VRNDEVICECORE_EXPORT CDeviceOSReleaseFile
+{
+public:
+    /** No keys. @p log is not owned, may be null, and is only kept for callers. */
+    explicit CDeviceOSReleaseFile(ICLogfile *log = nullptr);
+    /** Calls open(), whose result is not told: a failure leaves isNull(). */
+    CDeviceOSReleaseFile(const QString &fileName, ICLogfile *log);
+    /** Calls openFromBuffer(). */
+    CDeviceOSReleaseFile(const QByteArray &buffer, ICLogfile *log);
+    virtual ~CDeviceOSReleaseFile();
+
+    void setLogfile(ICLogfile *log);
+    ICLogfile *logfile() const;
+
+    /**
+     * Reads the file @p fileName in place of what was there, which is gone also when that fails.
+     *
+     * A line is split at every "=": the first part is the key, as it stands, and the second the
+     * value, without any double quote, parenthesis, caret and dollar sign in it; what follows a
+     * second "=" is dropped. A line without "=" is skipped. A key that comes twice keeps its first
+     * place and gets its last value.
+     *
+     * @return FILE_RESULT_SUCCESS; or FILE_RESULT_READ_FAILURE when there is no such file, when it
+     *         is no regular file, or when it cannot be read
+     */
+    NvrnGlobal::EFileResult open(const QString &fileName);
+    /** As above, from memory. @return FILE_RESULT_SUCCESS */
+    NvrnGlobal::EFileResult openFromBuffer(const QByteArray &buffer);
+
+    /**
+     * Replaces the file @p fileName by the pairs KEY=value. They follow one another without quotes
+     * and without any separator, which is what the devices expect: read again, the file is one line
+     * that gives the first key, with the text up to the second "=" as its value. To change a
+     * release file in place is therefore not possible; keep the original.
+     *
+     * @return FILE_RESULT_SUCCESS; or FILE_RESULT_WRITE_FAILURE, and the old file is still there,
+     *         whole. Where the file can be written but its directory cannot, it is written in
+     *         place, and a power cut half-way may damage it.
+     */
+    NvrnGlobal::EFileResult save(const QString &fileName);
+    /** As above, in place of what @p buffer held. @return FILE_RESULT_SUCCESS */
+    NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer);
+
+    /** Whether there are no keys. */
+    bool isNull() const;
+    /** Whether no key and no value is empty; also true without keys. */
+    bool isValid() const;
+
+    // The value of each key; empty when the file does not have it. Setting one adds its key at the
+    // end if it is not there. Values are texts: dates and versions are not interpreted.
+
+    /** PRODUCT */
+    QString product() const;
+    void setProduct(const QString &value);
+    /** PLATFORM */
+    QString platform() const;
+    void setPlatform(const QString &value);
+    /** PTXDIST_VERSION */
+    QString ptxdistVersion() const;
+    void setPtxdistVersion(const QString &value);
+    /** PTXDIST_BSP */
+    QString ptxdistBsp() const;
+    void setPtxdistBsp(const QString &value);
+    /** BUILD_DATE */
+    QString buildDate() const;
+    void setBuildDate(const QString &value);
+    /** TOOLCHAIN_VERSION */
+    QString toolchainVersion() const;
+    void setToolchainVersion(const QString &value);
+    /** KERNEL_IMAGE */
+    QString kernelImage() const;
+    void setKernelImage(const QString &value);
+    /** QT_VERSION */
+    QString qtVersion() const;
+    void setQtVersion(const QString &value);
+
+private:
+    Q_DISABLE_COPY(CDeviceOSReleaseFile)
+
+    const std::unique_ptr<CDeviceOSReleaseFilePrivate> d;
+};

@@ -1,0 +1,107 @@
+#include "settings/CNetworkSettingsFile.h"
+
+#include "settings/NetworkText.h"
+#include "storage/FileStorage.h"
+#include "vocabulary/NvrFileNames.h"
+
+using namespace NvrnGlobal;
+
+CNetworkSettingsFile::CNetworkSettingsFile() = default;
+
+CNetworkSettingsFile::CNetworkSettingsFile(const QString &fileName)
+{
+    open(fileName);
+}
+
+CNetworkSettingsFile::~CNetworkSettingsFile() = default;
+
+QString CNetworkSettingsFile::defaultFileName() const
+{
+    return NvrFileNames::DEFAULT_DEVICE_NETWORK_CONF;
+}
+
+CNetworkSettings CNetworkSettingsFile::networkSettings() const
+{
+    return m_settings;
+}
+
+void CNetworkSettingsFile::setNetworkSettings(const CNetworkSettings &settings)
+{
+    m_settings = settings;
+}
+
+QStringList CNetworkSettingsFile::keys()
+{
+    QStringList names;
+    for (const NetworkText::SKey &key : NetworkText::keys()) {
+        names << key.name;
+    }
+    return names;
+}
+
+QString CNetworkSettingsFile::value(const QString &key) const
+{
+    const NetworkText::SKey *const found = NetworkText::findKey(key);
+    return found == nullptr ? QString() : found->get(m_settings);
+}
+
+bool CNetworkSettingsFile::setValue(const QString &key, const QString &value)
+{
+    const NetworkText::SKey *const found = NetworkText::findKey(key);
+    if (found != nullptr) {
+        found->set(m_settings, value);
+    }
+    return found != nullptr;
+}
+
+EFileResult CNetworkSettingsFile::open(const QString &fileName)
+{
+    QByteArray content;
+    QHash<QString, QString> values;
+    if (!FileStorage::read(fileName, content) || !NetworkText::readValues(content, values)) {
+        return FILE_RESULT_FAILURE;
+    }
+    for (const NetworkText::SKey &key : NetworkText::keys()) {
+        key.set(m_settings, values.value(key.name, key.missingValue));
+    }
+    m_fileName = fileName;
+    return FILE_RESULT_SUCCESS;
+}
+
+EFileResult CNetworkSettingsFile::save(const QString &fileName)
+{
+    QByteArray content;
+    saveToBuffer(content);
+    switch (FileStorage::replace(fileName, content).outcome) {
+    case FileStorage::DONE:
+        m_fileName = fileName;
+        return FILE_RESULT_SUCCESS;
+    case FileStorage::NOT_OPENED:
+        return FILE_RESULT_FAILURE;
+    case FileStorage::NOT_FINISHED:
+        break;
+    }
+    return FILE_RESULT_WRITE_FAILURE;
+}
+
+EFileResult CNetworkSettingsFile::save()
+{
+    return save(m_fileName);
+}
+
+EFileResult CNetworkSettingsFile::saveToBuffer(QByteArray &buffer)
+{
+    buffer.clear();
+    QTextStream stream(&buffer, QIODevice::ReadWrite);
+    stream.setCodec("UTF-8");
+    write(stream);
+    return FILE_RESULT_SUCCESS;
+}
+
+void CNetworkSettingsFile::write(QTextStream &stream) const
+{
+    for (const NetworkText::SKey &key : NetworkText::keys()) {
+        stream << key.preface << key.name << '=' << key.get(m_settings) << '\n';
+    }
+    stream << '\n';
+}

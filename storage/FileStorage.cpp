@@ -1,0 +1,312 @@
+#include "storage/FileStorage.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <climits>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace FileStorage {
+
+namespace {
+
+const int MaxLinks = 40;
+const int MaxNameTries = 100;
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FileStorage)
+};
+
+SResult failure(EOutcome outcome, int error)
+{
+    return {outcome, qt_error_string(error)};
+}
+
+/** Owns an open file; 0 of the operations is success, -1 failure with errno. */
+class Descriptor
+{
+public:
+    explicit Descriptor(int fd) : m_fd(fd) { }
+    ~Descriptor() { close(); }
+
+    bool isOpen() const { return m_fd >= 0; }
+    int get() const { return m_fd; }
+
+    int close()
+    {
+        const int fd = m_fd;
+        m_fd = -1;
+        // An interrupted close has closed the file nevertheless.
+        return fd < 0 || ::close(fd) == 0 || errno == EINTR ? 0 : -1;
+    }
+
+    int release()
+    {
+        const int fd = m_fd;
+        m_fd = -1;
+        return fd;
+    }
+
+private:
+    Q_DISABLE_COPY(Descriptor)
+
+    int m_fd;
+};
+
+/** The name as the system takes it; empty when it cannot be one. */
+QByteArray systemName(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    return name.contains('\0') ? QByteArray() : name;
+}
+
+QByteArray directoryOf(const QByteArray &name)
+{
+    return name.left(name.lastIndexOf('/') + 1);
+}
+
+/** Where the links from @p name end, also when nothing is there yet. */
+QByteArray followLinks(QByteArray name)
+{
+    for (int i = 0; i < MaxLinks; ++i) {
+        QByteArray target(PATH_MAX, Qt::Uninitialized);
+        const ssize_t size =
+            readlink(name.constData(), target.data(), static_cast<size_t>(target.size()));
+        if (size <= 0 || size == target.size()) {
+            break;
+        }
+        target.truncate(static_cast<int>(size));
+        name = target.startsWith('/') ? target : directoryOf(name) + target;
+    }
+    return name;
+}
+
+int writeAll(int fd, const QByteArray &content)
+{
+    int done = 0;
+    while (done < content.size()) {
+        const ssize_t written =
+            write(fd, content.constData() + done, static_cast<size_t>(content.size() - done));
+        if (written < 0 && errno != EINTR) {
+            return -1;
+        }
+        done += static_cast<int>(qMax<ssize_t>(written, 0));
+    }
+    return 0;
+}
+
+/** Where a file system or device has nothing to sync, there is nothing that could be lost. */
+int sync(int fd)
+{
+    return fsync(fd) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS ? 0 : -1;
+}
+
+mode_t toMode(QFileDevice::Permissions permissions)
+{
+    mode_t mode = 0;
+    const auto add = [&](QFileDevice::Permissions any, mode_t bit) {
+        mode |= (permissions & any) ? bit : 0;
+    };
+    add(QFileDevice::ReadOwner | QFileDevice::ReadUser, S_IRUSR);
+    add(QFileDevice::WriteOwner | QFileDevice::WriteUser, S_IWUSR);
+    add(QFileDevice::ExeOwner | QFileDevice::ExeUser, S_IXUSR);
+    add(QFileDevice::ReadGroup, S_IRGRP);
+    add(QFileDevice::WriteGroup, S_IWGRP);
+    add(QFileDevice::ExeGroup, S_IXGRP);
+    add(QFileDevice::ReadOther, S_IROTH);
+    add(QFileDevice::WriteOther, S_IWOTH);
+    add(QFileDevice::ExeOther, S_IXOTH);
+    return mode;
+}
+
+/** A new file under a name of its own; when it still has that name in the end, it is removed. */
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const QByteArray &directory) : m_file(create(directory, m_name)) { }
+
+    ~TemporaryFile()
+    {
+        if (m_file.isOpen()) {
+            m_file.close();
+        }
+        if (!m_name.isEmpty()) {
+            unlink(m_name.constData());
+        }
+    }
+
+    bool isOpen() const { return m_file.isOpen(); }
+    int get() const { return m_file.get(); }
+    int close() { return m_file.close(); }
+
+    int rename(const QByteArray &name)
+    {
+        const int result = ::rename(m_name.constData(), name.constData());
+        if (result == 0) {
+            m_name.clear();
+        }
+        return result;
+    }
+
+private:
+    // Not mkstemp: that takes a mode of its own, and the process's default cannot be asked for
+    // without changing it.
+    static int create(const QByteArray &directory, QByteArray &name)
+    {
+        const mode_t everybody = 0666;
+        int fd = -1;
+        for (int i = 0; i < MaxNameTries && fd < 0; ++i) {
+            name = directory + ".vrn-"
+                + QByteArray::number(QRandomGenerator::system()->generate64(), 16) + ".tmp";
+            fd = open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, everybody);
+            if (fd < 0) {
+                name.clear();
+                if (errno != EEXIST) {
+                    break;
+                }
+            }
+        }
+        return fd;
+    }
+
+    QByteArray m_name;
+    Descriptor m_file;
+};
+
+/** The name itself has to be on the disk, too. */
+int syncDirectory(const QByteArray &directory)
+{
+    const Descriptor entries(open(directory.isEmpty() ? "." : directory.constData(),
+                                  O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return entries.isOpen() ? sync(entries.get()) : 0;
+}
+
+int rewrite(int fd, const QByteArray &content)
+{
+    return lseek(fd, 0, SEEK_SET) == 0 && writeAll(fd, content) == 0
+            && ftruncate(fd, content.size()) == 0 && sync(fd) == 0
+        ? 0
+        : -1;
+}
+
+int reserve(int fd, int length)
+{
+    errno = posix_fallocate(fd, 0, length);
+    return errno == 0 ? 0 : -1;
+}
+
+SResult overwrite(const QString &path, const QByteArray &name, const QByteArray &content,
+                  QFileDevice::Permissions permissions)
+{
+    QByteArray before;
+    const SResult known = read(path, before);
+    if (!known) {
+        return {NOT_OPENED, known.reason};
+    }
+    Descriptor file(open(name.constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
+    if (!file.isOpen()) {
+        return failure(NOT_OPENED, errno);
+    }
+    if (permissions && fchmod(file.get(), toMode(permissions)) != 0) {
+        return failure(NOT_FINISHED, errno);
+    }
+    const bool hasSpace =
+        content.size() <= before.size() || reserve(file.get(), content.size()) == 0;
+    if (hasSpace && rewrite(file.get(), content) == 0) {
+        return SResult();
+    }
+    const int error = errno;
+    if (hasSpace) {
+        rewrite(file.get(), before);
+    } else {
+        const int cut = ftruncate(file.get(), before.size());
+        Q_UNUSED(cut)
+    }
+    return failure(NOT_FINISHED, error);
+}
+
+SResult writeTo(Descriptor &device, const QByteArray &content)
+{
+    // It was opened without waiting; from here on it takes as long as its reader does.
+    const bool written = fcntl(device.get(), F_SETFL, 0) == 0
+        && writeAll(device.get(), content) == 0 && device.close() == 0;
+    return written ? SResult() : failure(NOT_FINISHED, errno);
+}
+
+} // namespace
+
+SResult read(const QString &path, QByteArray &content)
+{
+    content.clear();
+    const QByteArray name = systemName(path);
+    Descriptor opened(open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    struct stat status = {};
+    if (!opened.isOpen() || fstat(opened.get(), &status) != 0) {
+        return failure(NOT_OPENED, errno);
+    }
+    if (S_ISDIR(status.st_mode)) {
+        return failure(NOT_OPENED, EISDIR);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return {NOT_OPENED, Texts::tr("This is no regular file.")};
+    }
+    QFile file;
+    if (!file.open(opened.release(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        return {NOT_OPENED, file.errorString()};
+    }
+    content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        content.clear();
+        return {NOT_FINISHED, file.errorString()};
+    }
+    return SResult();
+}
+
+SResult replace(const QString &path, const QByteArray &content,
+                QFileDevice::Permissions permissions)
+{
+    const QByteArray name = followLinks(systemName(path));
+    if (name.isEmpty()) {
+        return failure(NOT_OPENED, ENOENT);
+    }
+    Descriptor old(open(name.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    const bool isNew = !old.isOpen() && errno == ENOENT;
+    struct stat status = {};
+    if (!isNew && (!old.isOpen() || fstat(old.get(), &status) != 0)) {
+        return failure(NOT_OPENED, errno);
+    }
+    if (old.isOpen() && !S_ISREG(status.st_mode)) {
+        return writeTo(old, content);
+    }
+
+    TemporaryFile file(directoryOf(name));
+    if (!file.isOpen()) {
+        const int error = errno;
+        const bool mayNotBeCreated = error == EACCES || error == EPERM || error == EROFS;
+        if (old.isOpen() && mayNotBeCreated) {
+            return overwrite(path, name, content, permissions);
+        }
+        return failure(isNew ? NOT_OPENED : NOT_FINISHED, error);
+    }
+    bool hasMode = true;
+    if (!isNew) {
+        // Only the super-user may give files away: whoever else replaces a file then owns it.
+        const int owned = fchown(file.get(), status.st_uid, status.st_gid);
+        Q_UNUSED(owned)
+    }
+    if (permissions || !isNew) {
+        const mode_t mode = permissions ? toMode(permissions) : status.st_mode & ALLPERMS;
+        hasMode = fchmod(file.get(), mode) == 0;
+    }
+    const bool replaced = hasMode && writeAll(file.get(), content) == 0 && sync(file.get()) == 0
+        && file.close() == 0 && file.rename(name) == 0 && syncDirectory(directoryOf(name)) == 0;
+    return replaced ? SResult() : failure(NOT_FINISHED, errno);
+}
+
+} // namespace FileStorage

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFileDevice>
+#include <QString>
+
+/**
+ * Reading and replacing whole files. It belongs to no library: each that reads or writes files is
+ * built with it, for the maker's imported libraries have nothing of the kind.
+ *
+ * All functions may be used from any thread; two that replace one file at a time leave the content
+ * of one of them.
+ */
+namespace FileStorage {
+
+enum EOutcome {
+    DONE,
+    /** The file cannot be opened for reading or writing; nothing was touched. */
+    NOT_OPENED,
+    /** Reading or writing failed on the way; what was there before is still there. */
+    NOT_FINISHED
+};
+
+struct SResult {
+    EOutcome outcome = DONE;
+    /** Why it failed, for the user; without the name of the file. */
+    QString reason;
+
+    explicit operator bool() const { return outcome == DONE; }
+};
+
+/**
+ * Reads the file @p path; @p content is empty on failure. Only a regular file is read: a directory
+ * has no content, and a pipe or device might never come to an end.
+ */
+SResult read(const QString &path, QByteArray &content);
+
+/**
+ * Makes @p content the content of the file @p path.
+ *
+ * The new content is complete and on the disk, beside the file, before it takes the file's name:
+ * whatever fails on the way, power included, leaves the old file whole. Where the directory cannot
+ * be written but the file can, the file is written in place: space is reserved before the first
+ * byte is changed, and a failure puts the old content back, but a power cut may leave a mixture.
+ *
+ * A symbolic link stays one, and its target is replaced. A pipe or device is written to, not
+ * replaced. A file that may not be written is left alone, even if its directory may be.
+ *
+ * @param permissions of the file; none keeps those of the old file, or takes the process's default
+ */
+SResult replace(const QString &path, const QByteArray &content,
+                QFileDevice::Permissions permissions = QFileDevice::Permissions());
+
+} // namespace FileStorage
