@@ -12,6 +12,8 @@
 
 namespace {
 
+using Check = CNetworkSettingsCheck;
+
 /** The texts of this class, under the context in which they are translated. */
 class Texts
 {
@@ -110,14 +112,14 @@ public:
 
     int lineOf(const QString &key) const { return m_lines.value(key); }
 
-    void add(const QString &key, const QString &message)
+    void add(Check::EFinding finding, const QString &key, const QString &message)
     {
-        m_findings.append({lineOf(key), key, message});
+        m_findings.append({finding, lineOf(key), key, message});
     }
 
-    QList<CNetworkSettingsCheck::SFinding> findings() const
+    QList<Check::SFinding> findings() const
     {
-        QList<CNetworkSettingsCheck::SFinding> sorted = m_findings;
+        QList<Check::SFinding> sorted = m_findings;
         std::stable_sort(sorted.begin(), sorted.end(), [](const auto &left, const auto &right) {
             return left.line < right.line;
         });
@@ -136,12 +138,12 @@ private:
             // The one section that is the same to the parser as none.
             m_inSection = line.compare(QLatin1String("[General]"), Qt::CaseInsensitive) != 0;
             if (m_inSection) {
-                m_findings.append(
-                    {number, QString(), Texts::tr("A section begins: no key in it is read.")});
+                m_findings.append({Check::FINDING_SECTION, number, QString(),
+                                   Texts::tr("A section begins: no key in it is read.")});
             }
         } else if (equals < 0) {
-            m_findings.append(
-                {number, QString(), Texts::tr("This is neither KEY=value nor a comment.")});
+            m_findings.append({Check::FINDING_NO_ASSIGNMENT, number, QString(),
+                               Texts::tr("This is neither KEY=value nor a comment.")});
         } else if (!m_inSection) {
             takeKey(line.left(equals).trimmed(), number);
         }
@@ -150,19 +152,20 @@ private:
     void takeKey(const QString &key, int number)
     {
         if (NetworkText::findKey(key) == nullptr) {
-            m_findings.append({number, key, Texts::tr("There is no such key.")});
+            m_findings.append(
+                {Check::FINDING_UNKNOWN_KEY, number, key, Texts::tr("There is no such key.")});
             return;
         }
         if (m_lines.contains(key)) {
             m_findings.append(
-                {number, key,
+                {Check::FINDING_REPEATED_KEY, number, key,
                  Texts::tr("This replaces what line %1 tells.").arg(QString::number(lineOf(key)))});
         }
         m_lines.insert(key, number);
     }
 
     QHash<QString, int> m_lines;
-    QList<CNetworkSettingsCheck::SFinding> m_findings;
+    QList<Check::SFinding> m_findings;
     bool m_inSection = false;
 };
 
@@ -178,10 +181,11 @@ void checkSubnet(const CNetworkSettings &settings, Lines &lines)
         return;
     }
     if (toNumber(address) == 0) {
-        lines.add(QStringLiteral("ADDRESS"), Texts::tr("The mode STATIC needs an address."));
+        lines.add(Check::FINDING_NO_ADDRESS, QStringLiteral("ADDRESS"),
+                  Texts::tr("The mode STATIC needs an address."));
     } else if (toNumber(gateway) != 0
                && ((toNumber(address) ^ toNumber(gateway)) & toNumber(mask)) != 0) {
-        lines.add(QStringLiteral("GATEWAY"),
+        lines.add(Check::FINDING_OTHER_SUBNET, QStringLiteral("GATEWAY"),
                   Texts::tr("The gateway %1 is not in the subnet of the address %2, mask %3.")
                       .arg(gateway, address, mask));
     }
@@ -200,11 +204,11 @@ QList<CNetworkSettingsCheck::SFinding> CNetworkSettingsCheck::check(const QByteA
         if (values.contains(key.name)) {
             const QString problem = problemOf(key, values.value(key.name));
             if (!problem.isEmpty()) {
-                lines.add(key.name, problem);
+                lines.add(FINDING_BAD_VALUE, key.name, problem);
             }
         } else if (lines.lineOf(key.name) > 0) {
             lines.add(
-                key.name,
+                FINDING_NOT_READ, key.name,
                 Texts::tr("This line is not read: it belongs to a quotation mark or backslash "
                           "before it."));
         }

@@ -15,7 +15,24 @@ class VRNDEVICECORE_EXPORT CNetworkSettingsCheck
 public:
     CNetworkSettingsCheck() = delete;
 
+    enum EFinding {
+        /** A line that is neither "KEY=value" nor a comment. */
+        FINDING_NO_ASSIGNMENT,
+        /** A line that begins a section, in which no key is read. */
+        FINDING_SECTION,
+        FINDING_UNKNOWN_KEY,
+        FINDING_REPEATED_KEY,
+        /** A key that belongs to a quotation mark or backslash before it. */
+        FINDING_NOT_READ,
+        FINDING_BAD_VALUE,
+        /** The mode is STATIC, and there is no address. */
+        FINDING_NO_ADDRESS,
+        /** The gateway is not in the subnet of the static address. */
+        FINDING_OTHER_SUBNET
+    };
+
     struct SFinding {
+        EFinding finding;
         /** Counted from 1; 0 for what has no line of its own. */
         int line;
         /** The key concerned, as it stands in the file; empty when there is none. */

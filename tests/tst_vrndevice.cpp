@@ -1,36 +1,20 @@
 #include "configfile/CDeviceConfigurationFile10.h"
+#include "support/Files.h"
+#include "support/Tool.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
-struct SResult {
-    int exitCode = -1;
-    QString output;
-    QString errors;
+using Tool::SResult;
 
-    QJsonObject json() const { return QJsonDocument::fromJson(output.toUtf8()).object(); }
-};
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-const QString ExampleDirectory = QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line");
 const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
 
 } // namespace
 
-/** The tool as its users call it: arguments in, output, diagnostics and exit code out. */
+/** The commands on the configuration document, and what all commands have in common. */
 class tst_VrnDevice : public QObject
 {
     Q_OBJECT
@@ -56,7 +40,10 @@ private Q_SLOTS:
     void exampleIsComplete();
 
 private:
-    SResult run(const QStringList &arguments) const;
+    SResult run(const QStringList &arguments) const
+    {
+        return Tool::run(m_directory->path(), arguments);
+    }
     QString path() const { return m_directory->filePath(FileName); }
     void copyExample();
 
@@ -69,24 +56,9 @@ void tst_VrnDevice::init()
     QVERIFY(m_directory->isValid());
 }
 
-SResult tst_VrnDevice::run(const QStringList &arguments) const
-{
-    QProcess process;
-    process.setWorkingDirectory(m_directory->path());
-    process.start(QStringLiteral(VRN_TOOL), arguments);
-    SResult result;
-    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
-        result.exitCode = process.exitCode();
-    }
-    result.output = QString::fromUtf8(process.readAllStandardOutput());
-    result.errors = QString::fromUtf8(process.readAllStandardError());
-    return result;
-}
-
 void tst_VrnDevice::copyExample()
 {
-    QVERIFY(QFile::copy(ExampleDirectory + QLatin1Char('/') + FileName, path()));
-    QVERIFY(QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(Tool::copyExample(FileName, m_directory->path()));
 }
 
 void tst_VrnDevice::usage_data()
@@ -108,6 +80,10 @@ void tst_VrnDevice::usage_data()
     row("version", "--version", 0, "vrndevice 1.0.0\n", "");
     row("unknown command", "shwo x", 2, "", "There is no command 'shwo'");
     row("unknown option", "show x --jsn", 2, "", "jsn");
+    row("group alone", "network", 2, "", "Which command of 'network'?");
+    row("unknown command of a group", "network shwo x", 2, "", "no command 'network shwo'");
+    row("help of a group", "network --help", 0, "  network check  Find", "");
+    row("help on a group", "--help", 0, "  network check  ", "");
     row("argument missing", "show", 2, "", "1 argument(s) expected, 0 given");
     row("argument too many", "show a b", 2, "", "1 argument(s) expected, 2 given");
     row("class missing", "new x --name N", 2, "", "--class must be kc2 or kd3");
@@ -139,9 +115,11 @@ void tst_VrnDevice::usage()
 
 void tst_VrnDevice::helpOfEveryCommand()
 {
-    for (const char *name : {"add-drive", "new", "place", "show"}) {
+    for (const char *name :
+         {"add-drive", "message", "module", "network check", "network set", "network show", "new",
+          "os-release show", "place", "settings set", "settings show", "show"}) {
         const QString command = QString::fromLatin1(name);
-        const SResult result = run({command, QStringLiteral("--help")});
+        const SResult result = run(command.split(QLatin1Char(' ')) << QStringLiteral("--help"));
         QCOMPARE(result.exitCode, 0);
         QVERIFY(result.output.startsWith(QStringLiteral("Usage: vrndevice %1 ").arg(command)));
         QVERIFY(result.output.contains(QStringLiteral("Example:\n  vrndevice ") + command));
@@ -169,12 +147,12 @@ void tst_VrnDevice::newCreatesAConfiguration()
 void tst_VrnDevice::newKeepsAnExistingFile()
 {
     copyExample();
-    const QByteArray before = contentOf(path());
+    const QByteArray before = Files::read(path());
     const SResult result = run(
         {QStringLiteral("new"), path(), QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.errors.contains(QStringLiteral("exists already")));
-    QCOMPARE(contentOf(path()), before);
+    QCOMPARE(Files::read(path()), before);
 }
 
 void tst_VrnDevice::newReportsWhatCannotBeWritten()
@@ -248,18 +226,18 @@ void tst_VrnDevice::addDriveWithNumberAndName()
 void tst_VrnDevice::addDriveRefusesANumberInUse()
 {
     copyExample();
-    const QByteArray before = contentOf(path());
+    const QByteArray before = Files::read(path());
     const SResult result = run({QStringLiteral("add-drive"), path(),
                                 QStringLiteral("--type=KD3_drive"), QStringLiteral("--id=1")});
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.errors.contains(QStringLiteral("The drive number 1 is in use.")));
-    QCOMPARE(contentOf(path()), before);
+    QCOMPARE(Files::read(path()), before);
 }
 
 void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
 {
     copyExample();
-    QByteArray content = contentOf(path());
+    QByteArray content = Files::read(path());
     const QByteArray foreign = "  <Foreign by=\"hand\">kept</Foreign>\n  <!--kept, too-->\n";
     QVERIFY(content.contains(" <Device>\n"));
     content.replace(" <Device>\n", " <Device>\n" + foreign);
@@ -278,7 +256,7 @@ void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
                              "   <BusId>0</BusId>\n"
                              "  </SubDevice>\n";
     content.replace(" </Device>\n", added + " </Device>\n");
-    QCOMPARE(contentOf(path()), content);
+    QCOMPARE(Files::read(path()), content);
 }
 
 void tst_VrnDevice::placeListsEveryFile()
@@ -350,12 +328,12 @@ void tst_VrnDevice::unreadableInput()
     QCOMPARE(result.exitCode, 3);
     QVERIFY(result.output.isEmpty());
     QVERIFY2(result.errors.contains(errors), qPrintable(result.errors));
-    QCOMPARE(contentOf(path()), content);
+    QCOMPARE(Files::read(path()), content);
 }
 
 void tst_VrnDevice::exampleIsComplete()
 {
-    const QDir project(ExampleDirectory);
+    const QDir project = Tool::exampleDirectory();
     CDeviceConfigurationFile10 file(nullptr);
     CDeviceElement device;
     QVERIFY(file.open(project.filePath(FileName)));
@@ -368,7 +346,7 @@ void tst_VrnDevice::exampleIsComplete()
     QByteArray saved;
     QString error;
     QVERIFY(file.save(saved, error));
-    QCOMPARE(saved, contentOf(project.filePath(FileName)));
+    QCOMPARE(saved, Files::read(project.filePath(FileName)));
 }
 
 QTEST_GUILESS_MAIN(tst_VrnDevice)

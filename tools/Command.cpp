@@ -45,6 +45,13 @@ void CommandLine::addArgument(const QString &name, const QString &description)
     m_argumentNames.append(name);
 }
 
+void CommandLine::addArguments(const QString &name, const QString &description)
+{
+    addArgument(name, description);
+    m_argumentNames.last() += QStringLiteral("...");
+    m_lastIsRepeated = true;
+}
+
 void CommandLine::addOption(const QString &name, const QString &description,
                             const QString &valueName)
 {
@@ -75,10 +82,12 @@ bool CommandLine::parse(const QStringList &arguments)
         return false;
     }
     const int given = m_parser.positionalArguments().size();
-    if (given != m_argumentNames.size()) {
-        m_exitCode = badUsage(QStringLiteral("%1 argument(s) expected, %2 given.")
-                                  .arg(m_argumentNames.size())
-                                  .arg(given));
+    const int expected = m_argumentNames.size();
+    if (m_lastIsRepeated ? given < expected : given != expected) {
+        const QString text = m_lastIsRepeated
+            ? QStringLiteral("At least %1 argument(s) expected, %2 given.")
+            : QStringLiteral("%1 argument(s) expected, %2 given.");
+        m_exitCode = badUsage(text.arg(expected).arg(given));
         return false;
     }
     return true;
@@ -94,6 +103,11 @@ QString CommandLine::argument(int index) const
     return m_parser.positionalArguments().at(index);
 }
 
+QStringList CommandLine::arguments(int index) const
+{
+    return m_parser.positionalArguments().mid(index);
+}
+
 bool CommandLine::isSet(const QString &option) const
 {
     return m_parser.isSet(option);
@@ -102,6 +116,11 @@ bool CommandLine::isSet(const QString &option) const
 QString CommandLine::value(const QString &option) const
 {
     return m_parser.value(option);
+}
+
+QStringList CommandLine::values(const QString &option) const
+{
+    return m_parser.values(option);
 }
 
 bool CommandLine::wantsJson() const

@@ -16,6 +16,7 @@ enum EExitCode {
 };
 
 struct SCommand {
+    /** One word, or two: that of a group of commands, and its own. */
     QString name;
     QString summary;
     /** Runs with the command's own arguments and returns an exit code. */
@@ -41,7 +42,11 @@ public:
 
     /** Adds an argument that must be given. */
     void addArgument(const QString &name, const QString &description);
-    void addOption(const QString &name, const QString &description, const QString &valueName);
+    /** Adds arguments of which at least one must be given; nothing can follow them. */
+    void addArguments(const QString &name, const QString &description);
+    /** Without @p valueName the option is a switch. */
+    void addOption(const QString &name, const QString &description,
+                   const QString &valueName = QString());
     void addExample(const QString &example);
 
     /**
@@ -52,8 +57,12 @@ public:
     int exitCode() const;
 
     QString argument(int index) const;
+    /** The arguments from @p index on. */
+    QStringList arguments(int index) const;
     bool isSet(const QString &option) const;
     QString value(const QString &option) const;
+    /** The values of an option that may be given more than once. */
+    QStringList values(const QString &option) const;
     bool wantsJson() const;
 
     /** Prints what is wrong with the arguments. @return EXIT_BAD_USAGE */
@@ -64,6 +73,7 @@ private:
     const QString m_summary;
     QCommandLineParser m_parser;
     QStringList m_argumentNames;
+    bool m_lastIsRepeated = false;
     QString m_examples;
     int m_exitCode = EXIT_DONE;
 };

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <QVector>
 
 Output::Output() : m_stream(&m_bytes)
 {
@@ -19,6 +20,28 @@ QTextStream &Output::stream()
 void Output::print(const QJsonObject &json)
 {
     m_stream << QString::fromUtf8(QJsonDocument(json).toJson());
+}
+
+void Output::printColumns(const QList<QStringList> &rows)
+{
+    const int gap = 2;
+    QVector<int> widths;
+    for (const QStringList &row : rows) {
+        widths.resize(row.size());
+        for (int column = 0; column < row.size(); ++column) {
+            widths[column] = qMax(widths.at(column), row.at(column).size());
+        }
+    }
+    for (const QStringList &row : rows) {
+        QString text;
+        for (int column = 0; column < row.size(); ++column) {
+            text += row.at(column).leftJustified(widths.at(column) + gap);
+        }
+        while (text.endsWith(QLatin1Char(' '))) {
+            text.chop(1);
+        }
+        m_stream << text << '\n';
+    }
 }
 
 int Output::finish()
@@ -37,4 +60,9 @@ int Output::finish()
 void printError(const QString &text)
 {
     CMessageBoardHelper::setDebugCritical(text, nullptr);
+}
+
+void printWarning(const QString &text)
+{
+    CMessageBoardHelper::setDebugWarning(text, nullptr);
 }

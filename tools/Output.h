@@ -2,7 +2,8 @@
 
 #include <QByteArray>
 #include <QJsonObject>
-#include <QString>
+#include <QList>
+#include <QStringList>
 #include <QTextStream>
 
 /** Standard output, in UTF-8; written when the command is done. */
@@ -13,6 +14,8 @@ public:
 
     QTextStream &stream();
     void print(const QJsonObject &json);
+    /** Rows of equally many texts, each column as wide as its widest text. */
+    void printColumns(const QList<QStringList> &rows);
 
     /** Writes it all. @return EXIT_DONE, or EXIT_NOT_DONE when standard output cannot be written */
     int finish();
@@ -22,5 +25,6 @@ private:
     QTextStream m_stream;
 };
 
-/** Prints one line on standard error. */
+/** Print one line on standard error. */
 void printError(const QString &text);
+void printWarning(const QString &text);

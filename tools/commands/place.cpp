@@ -43,7 +43,7 @@ QString shown(const QString &directory)
     return directory.isEmpty() ? QStringLiteral("-") : directory;
 }
 
-void print(const QList<SPlacedFile> &files, QTextStream &out)
+void print(const QList<SPlacedFile> &files, Output &out)
 {
     QList<QStringList> rows = {{QStringLiteral("KIND"), QStringLiteral("FILE"),
                                 QStringLiteral("ON THE DEVICE"), QStringLiteral("IN THE PROJECT")}};
@@ -51,17 +51,7 @@ void print(const QList<SPlacedFile> &files, QTextStream &out)
         rows.append({placed.kind, placed.file.fileName(), shown(placed.file.devicePath()),
                      shown(placed.file.projectPath())});
     }
-    for (const QStringList &row : rows) {
-        QString text;
-        for (int column = 0; column < row.size(); ++column) {
-            int width = 0;
-            for (const QStringList &other : rows) {
-                width = qMax(width, other.at(column).size());
-            }
-            text += row.at(column).leftJustified(width + 2);
-        }
-        out << text.trimmed() << '\n';
-    }
+    out.printColumns(rows);
 }
 
 int run(const SCommand &command, const QStringList &arguments)
@@ -88,7 +78,7 @@ int run(const SCommand &command, const QStringList &arguments)
         }
         out.print({{QStringLiteral("files"), array}});
     } else {
-        print(files, out.stream());
+        print(files, out);
     }
     return out.finish();
 }

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+/** The tool as its users call it: arguments in, output, diagnostics and exit code out. */
+namespace Tool {
+
+struct SResult {
+    /** -1 when it did not end by itself. */
+    int exitCode = -1;
+    QString output;
+    QString errors;
+
+    QJsonObject json() const { return QJsonDocument::fromJson(output.toUtf8()).object(); }
+};
+
+inline SResult run(const QString &directory, const QStringList &arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(directory);
+    process.start(QStringLiteral(VRN_TOOL), arguments);
+    SResult result;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+        result.exitCode = process.exitCode();
+    }
+    result.output = QString::fromUtf8(process.readAllStandardOutput());
+    result.errors = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+/** The project that is shipped as an example. */
+inline QDir exampleDirectory()
+{
+    return QDir(QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line"));
+}
+
+/** Copies a file of the example, writable, into @p directory. */
+inline bool copyExample(const QString &name, const QString &directory)
+{
+    const QString copy = QDir(directory).filePath(name);
+    return QFile::copy(exampleDirectory().filePath(name), copy)
+        && QFile::setPermissions(copy, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+} // namespace Tool

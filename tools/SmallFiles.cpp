@@ -1,0 +1,50 @@
+#include "tools/SmallFiles.h"
+
+#include "settings/CDeviceSettingsFileV10.h"
+
+#include <QJsonArray>
+
+QJsonObject toJson(const CDeviceSettings &settings)
+{
+    QJsonArray subDevices;
+    const QMap<quint8, QString> names = settings.subDeviceNameMap();
+    for (auto name = names.constBegin(); name != names.constEnd(); ++name) {
+        subDevices.append(QJsonObject{{QStringLiteral("driveId"), name.key()},
+                                      {QStringLiteral("name"), name.value()}});
+    }
+    return {{QStringLiteral("deviceName"), settings.deviceName()},
+            {QStringLiteral("subDevices"), subDevices}};
+}
+
+QList<QStringList> toRows(const CDeviceSettings &settings)
+{
+    QList<QStringList> rows = {{QStringLiteral("Device"), settings.deviceName()}};
+    const QMap<quint8, QString> names = settings.subDeviceNameMap();
+    for (auto name = names.constBegin(); name != names.constEnd(); ++name) {
+        rows.append({QStringLiteral("Drive %1").arg(name.key()), name.value()});
+    }
+    return rows;
+}
+
+QJsonObject toJson(const CNetworkSettingsFile &file)
+{
+    QJsonObject object;
+    for (const QString &key : CNetworkSettingsFile::keys()) {
+        object.insert(key, file.value(key));
+    }
+    return object;
+}
+
+QList<QStringList> toRows(const CNetworkSettingsFile &file)
+{
+    QList<QStringList> rows;
+    for (const QString &key : CNetworkSettingsFile::keys()) {
+        rows.append({key, file.value(key)});
+    }
+    return rows;
+}
+
+QString settingsVersion()
+{
+    return CDeviceSettingsFileV10::fileVersionText();
+}

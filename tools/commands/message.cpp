@@ -1,0 +1,73 @@
+#include "devicefiles/CDeviceSystemMessage.h"
+#include "tools/Command.h"
+#include "tools/Output.h"
+
+#include <QJsonArray>
+
+namespace {
+
+/** The number that @p text is, in decimal, or in hexadecimal behind "0x". */
+int toCode(const QString &text, bool &isCode)
+{
+    const bool isHexadecimal = text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
+    return text.toInt(&isCode, isHexadecimal ? 16 : 10);
+}
+
+void print(int code, const QString &message, const QString &description, QTextStream &out)
+{
+    out << code << " (0x" << QString::number(code, 16) << "): " << message << '\n';
+    for (const QString &line : description.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        out << "  " << line << '\n';
+    }
+}
+
+int run(const SCommand &command, const QStringList &arguments)
+{
+    CommandLine line(command);
+    line.addArguments(QStringLiteral("CODE"),
+                      QStringLiteral("Code of a system message, 1024 to 1151 (0x400 to 0x47f)."));
+    line.addExample(QStringLiteral("1098 0x400"));
+    if (!line.parse(arguments)) {
+        return line.exitCode();
+    }
+    QList<int> codes;
+    for (const QString &text : line.arguments(0)) {
+        bool isCode = false;
+        codes.append(toCode(text, isCode));
+        if (!isCode) {
+            return line.badUsage(QStringLiteral("'%1' is no code.").arg(text));
+        }
+    }
+    Output out;
+    QJsonArray array;
+    QStringList errors;
+    for (const int code : codes) {
+        if (!CDeviceSystemMessage::isSystemMessage(code)) {
+            errors.append(
+                QStringLiteral("%1 is no system message: they are 1024 to 1151.").arg(code));
+            continue;
+        }
+        QString message;
+        QString description;
+        CDeviceSystemMessage::text(message, description, code);
+        array.append(QJsonObject{{QStringLiteral("code"), code},
+                                 {QStringLiteral("message"), message},
+                                 {QStringLiteral("description"), description}});
+        if (!line.wantsJson()) {
+            print(code, message, description, out.stream());
+        }
+    }
+    if (line.wantsJson()) {
+        out.print({{QStringLiteral("messages"), array}});
+    }
+    const int exitCode = out.finish();
+    for (const QString &error : errors) {
+        printError(error);
+    }
+    return errors.isEmpty() ? exitCode : EXIT_NOT_DONE;
+}
+
+const CommandRegistration Registration("message", "Tell what system messages of a device mean.",
+                                       run);
+
+} // namespace

@@ -1,0 +1,47 @@
+#include "tools/Command.h"
+#include "tools/Input.h"
+#include "tools/NetworkFindings.h"
+#include "tools/Output.h"
+
+#include <QJsonArray>
+
+namespace {
+
+int run(const SCommand &command, const QStringList &arguments)
+{
+    CommandLine line(command);
+    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to check."));
+    line.addExample(QStringLiteral("network.conf"));
+    if (!line.parse(arguments)) {
+        return line.exitCode();
+    }
+    const QString path = line.argument(0);
+    QList<CNetworkSettingsCheck::SFinding> findings;
+    if (!readFindings(path, findings)) {
+        return reportUnreadable(path);
+    }
+    Output out;
+    if (line.wantsJson()) {
+        QJsonArray array;
+        for (const CNetworkSettingsCheck::SFinding &finding : findings) {
+            array.append(QJsonObject{{QStringLiteral("line"), finding.line},
+                                     {QStringLiteral("key"), finding.key},
+                                     {QStringLiteral("message"), finding.message}});
+        }
+        out.print({{QStringLiteral("findings"), array}});
+    } else if (findings.isEmpty()) {
+        out.stream() << path << ": nothing is wrong\n";
+    }
+    for (const CNetworkSettingsCheck::SFinding &finding : findings) {
+        if (!line.wantsJson()) {
+            out.stream() << toText(path, finding) << '\n';
+        }
+    }
+    const int exitCode = out.finish();
+    return findings.isEmpty() ? exitCode : EXIT_NOT_DONE;
+}
+
+const CommandRegistration Registration("network check", "Find what is wrong with a network.conf.",
+                                       run);
+
+} // namespace

@@ -1,0 +1,61 @@
+#include "devicefiles/CDeviceOSReleaseFile.h"
+#include "tools/Command.h"
+#include "tools/Input.h"
+#include "tools/Output.h"
+
+namespace {
+
+struct SItem {
+    QString title;
+    QString jsonName;
+    QString (CDeviceOSReleaseFile::*value)() const;
+};
+
+QList<SItem> items()
+{
+    using File = CDeviceOSReleaseFile;
+    return {
+        {QStringLiteral("Product"), QStringLiteral("product"), &File::product},
+        {QStringLiteral("Platform"), QStringLiteral("platform"), &File::platform},
+        {QStringLiteral("PTXdist"), QStringLiteral("ptxdistVersion"), &File::ptxdistVersion},
+        {QStringLiteral("Board support"), QStringLiteral("ptxdistBsp"), &File::ptxdistBsp},
+        {QStringLiteral("Built"), QStringLiteral("buildDate"), &File::buildDate},
+        {QStringLiteral("Toolchain"), QStringLiteral("toolchainVersion"), &File::toolchainVersion},
+        {QStringLiteral("Kernel"), QStringLiteral("kernelImage"), &File::kernelImage},
+        {QStringLiteral("Qt"), QStringLiteral("qtVersion"), &File::qtVersion},
+    };
+}
+
+int run(const SCommand &command, const QStringList &arguments)
+{
+    CommandLine line(command);
+    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The os-release to show."));
+    line.addExample(QStringLiteral("os-release"));
+    if (!line.parse(arguments)) {
+        return line.exitCode();
+    }
+    const QString path = line.argument(0);
+    CDeviceOSReleaseFile file;
+    if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
+        return reportUnreadable(path);
+    }
+    QJsonObject object = {{QStringLiteral("valid"), file.isValid()}};
+    QList<QStringList> rows;
+    for (const SItem &item : items()) {
+        const QString value = (file.*item.value)();
+        object.insert(item.jsonName, value);
+        rows.append({item.title, value});
+    }
+    Output out;
+    if (line.wantsJson()) {
+        out.print(object);
+    } else {
+        out.printColumns(rows);
+    }
+    return out.finish();
+}
+
+const CommandRegistration
+    Registration("os-release show", "Show what the operating system of a device is made of.", run);
+
+} // namespace

@@ -1,0 +1,77 @@
+#include "settings/CDeviceSettingsFile.h"
+#include "tools/Command.h"
+#include "tools/Input.h"
+#include "tools/SmallFiles.h"
+
+#include <QFileInfo>
+
+namespace {
+
+const QString NameOption = QStringLiteral("name");
+const QString DriveOption = QStringLiteral("drive");
+const QString CreateOption = QStringLiteral("create");
+
+const uint HighestDriveNumber = 254;
+
+/** Sets what "NUMBER=NAME" tells. @return whether it is that */
+bool setDriveName(const QString &assignment, CDeviceSettings &settings)
+{
+    const int equals = assignment.indexOf(QLatin1Char('='));
+    bool isNumber = false;
+    const uint number = assignment.left(equals).toUInt(&isNumber);
+    const bool isAssignment = equals > 0 && isNumber && number <= HighestDriveNumber;
+    if (isAssignment) {
+        settings.setSubDeviceName(assignment.mid(equals + 1), static_cast<quint8>(number));
+    }
+    return isAssignment;
+}
+
+int run(const SCommand &command, const QStringList &arguments)
+{
+    CommandLine line(command);
+    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The settings document to change."));
+    line.addOption(NameOption, QStringLiteral("Name of the device."), QStringLiteral("NAME"));
+    line.addOption(DriveOption,
+                   QStringLiteral("Name of the drive with that number, 0 to 254; may be repeated."),
+                   QStringLiteral("NUMBER=NAME"));
+    line.addOption(CreateOption, QStringLiteral("Start a new document if there is no such file."));
+    line.addExample(
+        QStringLiteral("settings.3conf --name Wrapper --drive 0=Infeed --drive 1=Knife"));
+    if (!line.parse(arguments)) {
+        return line.exitCode();
+    }
+    CDeviceSettings changes;
+    for (const QString &assignment : line.values(DriveOption)) {
+        if (!setDriveName(assignment, changes)) {
+            return line.badUsage(
+                QStringLiteral("--drive must be a number from 0 to 254, '=' and a name."));
+        }
+    }
+    if (!line.isSet(NameOption) && changes.isNull()) {
+        return line.badUsage(QStringLiteral("Neither --name nor --drive is given."));
+    }
+
+    const QString path = line.argument(0);
+    const bool isNew = line.isSet(CreateOption) && !QFileInfo::exists(path);
+    CDeviceSettingsFile file(nullptr);
+    if (!isNew && file.open(path, settingsVersion()) != NvrnGlobal::FILE_RESULT_SUCCESS) {
+        return EXIT_UNREADABLE_INPUT;
+    }
+    CDeviceSettings settings = file.deviceSettings();
+    if (line.isSet(NameOption)) {
+        settings.setDeviceName(line.value(NameOption));
+    }
+    const QMap<quint8, QString> names = changes.subDeviceNameMap();
+    for (auto name = names.constBegin(); name != names.constEnd(); ++name) {
+        settings.setSubDeviceName(name.value(), name.key());
+    }
+    file.setDeviceSettings(settings);
+    if (file.save(path, settingsVersion()) != NvrnGlobal::FILE_RESULT_SUCCESS) {
+        return reportNotSaved(path);
+    }
+    return printContent(settings, line.wantsJson());
+}
+
+const CommandRegistration Registration("settings set", "Name a device and its drives.", run);
+
+} // namespace
