@@ -89,6 +89,8 @@ EFileResult CNetworkSettingsFile::save()
     return save(m_fileName);
 }
 
+// Programs are compiled against the signature without "const".
+// NOLINTNEXTLINE(readability-make-member-function-const)
 EFileResult CNetworkSettingsFile::saveToBuffer(QByteArray &buffer)
 {
     buffer.clear();

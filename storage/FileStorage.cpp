@@ -28,6 +28,11 @@ SResult failure(EOutcome outcome, int error)
     return {outcome, qt_error_string(error)};
 }
 
+SResult notRegular()
+{
+    return {NOT_OPENED, Texts::tr("This is no regular file.")};
+}
+
 /** Owns an open file; 0 of the operations is success, -1 failure with errno. */
 class Descriptor
 {
@@ -125,6 +130,19 @@ mode_t toMode(QFileDevice::Permissions permissions)
     return mode;
 }
 
+/**
+ * Only the super-user may give files away: whoever else replaces a file then owns it. The group
+ * stays if it is one of the user's.
+ */
+void keepOwner(int fd, const struct stat &before)
+{
+    const auto sameOwner = static_cast<uid_t>(-1);
+    if (fchown(fd, before.st_uid, before.st_gid) != 0) {
+        const int ignored = fchown(fd, sameOwner, before.st_gid);
+        Q_UNUSED(ignored)
+    }
+}
+
 /** A new file under a name of its own; when it still has that name in the end, it is removed. */
 class TemporaryFile
 {
@@ -160,31 +178,39 @@ private:
     static int create(const QByteArray &directory, QByteArray &name)
     {
         const mode_t everybody = 0666;
-        int fd = -1;
-        for (int i = 0; i < MaxNameTries && fd < 0; ++i) {
+        for (int i = 0; i < MaxNameTries; ++i) {
             name = directory + ".vrn-"
                 + QByteArray::number(QRandomGenerator::system()->generate64(), 16) + ".tmp";
-            fd = open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, everybody);
-            if (fd < 0) {
-                name.clear();
-                if (errno != EEXIST) {
-                    break;
-                }
+            const int fd =
+                open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, everybody);
+            if (fd >= 0) {
+                return fd;
+            }
+            if (errno != EEXIST) {
+                break;
             }
         }
-        return fd;
+        const int error = errno;
+        name.clear();
+        errno = error;
+        return -1;
     }
 
     QByteArray m_name;
     Descriptor m_file;
 };
 
-/** The name itself has to be on the disk, too. */
-int syncDirectory(const QByteArray &directory)
+/**
+ * The name itself has to get onto the disk, too. A failure is none of replacing: after it, a power
+ * cut may still bring the old file back, and that is whole.
+ */
+void syncDirectory(const QByteArray &directory)
 {
     const Descriptor entries(open(directory.isEmpty() ? "." : directory.constData(),
                                   O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return entries.isOpen() ? sync(entries.get()) : 0;
+    if (entries.isOpen()) {
+        sync(entries.get());
+    }
 }
 
 int rewrite(int fd, const QByteArray &content)
@@ -233,7 +259,7 @@ SResult overwrite(const QString &path, const QByteArray &name, const QByteArray 
 
 SResult writeTo(Descriptor &device, const QByteArray &content)
 {
-    // It was opened without waiting; from here on it takes as long as its reader does.
+    // It was opened without waiting; from here on it may take its time.
     const bool written = fcntl(device.get(), F_SETFL, 0) == 0
         && writeAll(device.get(), content) == 0 && device.close() == 0;
     return written ? SResult() : failure(NOT_FINISHED, errno);
@@ -254,7 +280,7 @@ SResult read(const QString &path, QByteArray &content)
         return failure(NOT_OPENED, EISDIR);
     }
     if (!S_ISREG(status.st_mode)) {
-        return {NOT_OPENED, Texts::tr("This is no regular file.")};
+        return notRegular();
     }
     QFile file;
     if (!file.open(opened.release(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
@@ -281,8 +307,11 @@ SResult replace(const QString &path, const QByteArray &content,
     if (!isNew && (!old.isOpen() || fstat(old.get(), &status) != 0)) {
         return failure(NOT_OPENED, errno);
     }
-    if (old.isOpen() && !S_ISREG(status.st_mode)) {
+    if (S_ISCHR(status.st_mode)) {
         return writeTo(old, content);
+    }
+    if (!isNew && !S_ISREG(status.st_mode)) {
+        return notRegular();
     }
 
     TemporaryFile file(directoryOf(name));
@@ -294,19 +323,21 @@ SResult replace(const QString &path, const QByteArray &content,
         }
         return failure(isNew ? NOT_OPENED : NOT_FINISHED, error);
     }
-    bool hasMode = true;
     if (!isNew) {
-        // Only the super-user may give files away: whoever else replaces a file then owns it.
-        const int owned = fchown(file.get(), status.st_uid, status.st_gid);
-        Q_UNUSED(owned)
+        keepOwner(file.get(), status);
     }
+    bool hasMode = true;
     if (permissions || !isNew) {
         const mode_t mode = permissions ? toMode(permissions) : status.st_mode & ALLPERMS;
         hasMode = fchmod(file.get(), mode) == 0;
     }
     const bool replaced = hasMode && writeAll(file.get(), content) == 0 && sync(file.get()) == 0
-        && file.close() == 0 && file.rename(name) == 0 && syncDirectory(directoryOf(name)) == 0;
-    return replaced ? SResult() : failure(NOT_FINISHED, errno);
+        && file.close() == 0 && file.rename(name) == 0;
+    if (!replaced) {
+        return failure(NOT_FINISHED, errno);
+    }
+    syncDirectory(directoryOf(name));
+    return SResult();
 }
 
 } // namespace FileStorage

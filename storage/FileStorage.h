@@ -43,8 +43,9 @@ SResult read(const QString &path, QByteArray &content);
  * be written but the file can, the file is written in place: space is reserved before the first
  * byte is changed, and a failure puts the old content back, but a power cut may leave a mixture.
  *
- * A symbolic link stays one, and its target is replaced. A pipe or device is written to, not
- * replaced. A file that may not be written is left alone, even if its directory may be.
+ * A symbolic link stays one, and its target is replaced; other hard links keep the old content. A
+ * character device is written to, not replaced; directories, pipes and disks are refused. A file
+ * that may not be written is left alone, even if its directory may be.
  *
  * @param permissions of the file; none keeps those of the old file, or takes the process's default
  */
