@@ -1,7 +1,6 @@
 #include "devicefiles/COptionModuleFileName.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <tuple>
 
@@ -48,6 +47,12 @@ bool setIfMatching(const QRegExp &grammar, const QString &value, QString &field)
         field = value;
     }
     return matches;
+}
+
+/** Not by QFileInfo, which loses count in texts of more than 32767 characters. */
+QString fileNameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
 }
 
 QString without(const QString &prefix, const QString &text)
@@ -258,14 +263,15 @@ COptionModuleFileName::operator QString() const
 void COptionModuleFileName::setFileName(const QString &path)
 {
     clear();
-    if (!isValid(path)) {
+    const QString fileName = fileNameOf(path);
+    if (!isValid(fileName)) {
         return;
     }
     try {
-        const QFileInfo file(path);
-        setSuffix(file.suffix());
+        const int dot = fileName.lastIndexOf(Dot);
+        setSuffix(fileName.mid(dot + 1));
         // Slot, interface, hardware version, two numbers of the software version, text.
-        const QStringList parts = file.completeBaseName().split(Separator);
+        const QStringList parts = fileName.left(dot).split(Separator);
         setSoftwareVersion(parts.at(3) + Separator + parts.at(4));
         setHardwareVersion(parts.at(2));
         setInterface(parts.at(1));
@@ -284,7 +290,7 @@ bool COptionModuleFileName::isValid() const
 
 bool COptionModuleFileName::isValid(const QString &path)
 {
-    return fullRegExp().exactMatch(QFileInfo(path).fileName());
+    return fullRegExp().exactMatch(fileNameOf(path));
 }
 
 void COptionModuleFileName::clear()

@@ -2,7 +2,6 @@
 #include "tools/Command.h"
 #include "tools/Output.h"
 
-#include <QFileInfo>
 #include <QJsonArray>
 
 namespace {
@@ -31,8 +30,9 @@ QList<SPart> parts()
 /** Why @p path is not valid: the first part that is missing or wrong. */
 QString reasonAgainst(const QString &path)
 {
-    const QFileInfo file(path);
-    QStringList given = file.completeBaseName().split(QLatin1Char('_'));
+    const QString fileName = path.section(QLatin1Char('/'), -1);
+    const int dot = fileName.lastIndexOf(QLatin1Char('.'));
+    QStringList given = fileName.left(dot).split(QLatin1Char('_'));
     if (given.size() > 4) {
         const QString minor = given.takeAt(4);
         given[3] += QLatin1Char('_') + minor;
@@ -49,7 +49,7 @@ QString reasonAgainst(const QString &path)
         }
         ++index;
     }
-    if (file.suffix().isEmpty()) {
+    if (dot < 0 || dot == fileName.size() - 1) {
         return QStringLiteral("The suffix is missing, such as .%1.")
             .arg(COptionModuleFileName::standardSuffix());
     }
