@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cctype>
+#include <iterator>
 
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -59,30 +61,34 @@ private:
 const char16_t Mark = 0xFDD0;
 const char MarkBytes[] = "\xEF\xB7\x90";
 
+/** The value of a digit to the base 16; 16 for any other byte. */
+int digitValue(char digit)
+{
+    const char digits[] = "0123456789abcdef";
+    const char *const found = std::find(std::begin(digits), std::end(digits) - 1,
+                                        static_cast<char>(std::tolower(uchar(digit))));
+    return static_cast<int>(found - digits);
+}
+
 /**
  * The character that the escape at @p from stands for, a backslash with hexadecimal or octal
  * digits; @p end is then behind it. -1 for any other escape, which is two bytes long.
  */
 int escapedCharacter(const QByteArray &content, int from, int &end)
 {
-    const auto digit = [&](int index, int base) {
-        bool isDigit = false;
-        const int value = content.mid(index, 1).toInt(&isDigit, base);
-        return isDigit ? value : -1;
-    };
     const bool isHexadecimal = from + 1 < content.size() && content.at(from + 1) == 'x';
     const int base = isHexadecimal ? 16 : 8;
     const int digits = from + (isHexadecimal ? 2 : 1);
     quint32 code = 0;
-    end = digits;
-    while (end < content.size() && digit(end, base) >= 0) {
-        code = code * static_cast<quint32>(base) + static_cast<quint32>(digit(end, base));
-        ++end;
+    for (end = digits; end < content.size() && digitValue(content.at(end)) < base; ++end) {
+        code =
+            code * static_cast<quint32>(base) + static_cast<quint32>(digitValue(content.at(end)));
     }
     if (end == digits && !isHexadecimal) {
         end = qMin(from + 2, content.size());
         return -1;
     }
+    // The parser keeps the low 16 bits, too.
     return static_cast<quint16>(code);
 }
 

@@ -1,5 +1,6 @@
 #include "imported/CXmlAbstractVornFile.h"
 #include "support/Files.h"
+#include "support/FullDisk.h"
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
 #include "support/RecordingLog.h"
@@ -7,10 +8,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
 #include <memory>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -124,33 +123,6 @@ const Malformed MalformedFiles[] = {
     // Nothing is wrong with these as XML: the failure has no place in the file.
     {"wrong-document-type", 0, 0},
     {"wrong-case-of-document-type", 0, 0},
-};
-
-/** While it lives, no file may grow beyond @p bytes, as on a disk that is full. */
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes) : m_previousHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_previous);
-        rlimit limited = m_previous;
-        limited.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limited);
-    }
-
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_previous);
-        std::signal(SIGXFSZ, m_previousHandler);
-    }
-
-private:
-    Q_DISABLE_COPY(FullDisk)
-
-    using SignalHandler = void (*)(int);
-
-    SignalHandler m_previousHandler;
-    rlimit m_previous = {};
 };
 
 } // namespace

@@ -1049,6 +1049,9 @@ void tst_vocabulary::enumerationValue_data()
     row("motor parameters", NvrnGlobal::PARAM_FILE_MOTOR_PARAMETERS, 9);
     row("reserved", NvrnGlobal::PARAM_FILE_RESERVED, 10);
     row("option module data base", NvrnGlobal::PARAM_FILE_OPTION_MODULE_DATABASE, 11);
+    row("disconnected", NvrnGlobal::CONNECTION_STATE_DISCONNECTED, 0);
+    row("connected", NvrnGlobal::CONNECTION_STATE_CONNECTED, 1);
+    row("unknown connection", NvrnGlobal::CONNECTION_STATE_UNKNOWN, 2);
     row("undefined device class", NDeviceConf::DEVICE_CLASS_UNDEFINED, 0);
     row("device class KC2", NDeviceConf::DEVICE_CLASS_KC2, 1);
     row("device class KD3", NDeviceConf::DEVICE_CLASS_KD3, 2);
@@ -1065,6 +1068,7 @@ void tst_vocabulary::enumerationValue()
 
     QCOMPARE(enumerator, value);
     Q_STATIC_ASSERT(sizeof(NvrnGlobal::EParamFileType) == 4);
+    Q_STATIC_ASSERT(sizeof(NvrnGlobal::EConnectionState) == 4);
     Q_STATIC_ASSERT(sizeof(NDeviceConf::EDeviceClass) == 4);
     Q_STATIC_ASSERT(sizeof(NvrnDeviceCore::EElementType) == 4);
 }
