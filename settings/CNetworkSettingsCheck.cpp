@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QRegExp>
-#include <QTextStream>
 
 #include <algorithm>
 
@@ -94,23 +93,34 @@ QString problemOf(const NetworkText::SKey &key, const QString &value)
     return QString();
 }
 
-/** Where each key stands, and what is wrong with the lines themselves. */
+/**
+ * The lines of a file as the parser sees them. It tells no lines, and whether a line counts depends
+ * on quotation marks, backslashes and sections before it; so it is given a copy of the file in
+ * which the name of each key carries the number of its line, and is asked what it has read.
+ */
 class Lines
 {
 public:
     explicit Lines(const QByteArray &content)
     {
-        // Not QTextStream::readLine(): a lone carriage return ends a line, too.
-        QString text = QString::fromUtf8(content);
-        text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-        text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-        const QVector<QStringRef> lines = text.splitRef(QLatin1Char('\n'));
-        for (int i = 0; i < lines.size(); ++i) {
-            take(lines.at(i).trimmed().toString(), i + 1);
+        const QByteArray text = NetworkText::withoutByteOrderMark(content);
+        QByteArray tagged;
+        for (int from = 0; from < text.size();) {
+            int end = from;
+            while (end < text.size() && text.at(end) != '\n' && text.at(end) != '\r') {
+                ++end;
+            }
+            addLine(text.mid(from, end - from), tagged);
+            from = end + (text.mid(end, 2) == "\r\n" ? 2 : 1);
+        }
+        readTagged(tagged);
+        for (const SLine &line : m_lines) {
+            check(line);
         }
     }
 
-    int lineOf(const QString &key) const { return m_lines.value(key); }
+    /** The line that counts for @p key; 0 when there is none. */
+    int lineOf(const QString &key) const { return m_lineOfKey.value(key); }
 
     void add(Check::EFinding finding, const QString &key, const QString &message)
     {
@@ -127,46 +137,118 @@ public:
     }
 
 private:
-    void take(const QString &line, int number)
+    struct SLine {
+        int number;
+        bool isSection;
+        bool isAssignment;
+        QString key;
+    };
+
+    // Not in any name that means something.
+    static const char Tag = '\x1F';
+
+    static QByteArray trimmed(const QByteArray &line)
     {
-        const int equals = line.indexOf(QLatin1Char('='));
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#'))
-            || line.startsWith(QLatin1Char(';'))) {
-            return;
+        int from = 0;
+        int end = line.size();
+        const auto isBlank = [&line](int i) { return line.at(i) == ' ' || line.at(i) == '\t'; };
+        while (from < end && isBlank(from)) {
+            ++from;
         }
-        if (line.startsWith(QLatin1Char('['))) {
-            // The one section that is the same to the parser as none.
-            m_inSection = line.compare(QLatin1String("[General]"), Qt::CaseInsensitive) != 0;
-            if (m_inSection) {
-                m_findings.append({Check::FINDING_SECTION, number, QString(),
-                                   Texts::tr("A section begins: no key in it is read.")});
+        while (from < end && isBlank(end - 1)) {
+            --end;
+        }
+        return line.mid(from, end - from);
+    }
+
+    /** The name by which a section or key in the line @p number is known to the parser. */
+    static QByteArray taggedName(const QByteArray &name, int number)
+    {
+        return name + Tag + QByteArray::number(number);
+    }
+
+    void addLine(const QByteArray &text, QByteArray &tagged)
+    {
+        ++m_count;
+        const QByteArray line = trimmed(text);
+        const bool isComment = line.isEmpty() || line.startsWith('#') || line.startsWith(';');
+        const bool isSection = line.startsWith('[');
+        const int equals = line.indexOf('=');
+        // As the parser, which knows keys with "%" and two hexadecimal digits for a character.
+        const QByteArray key = isSection || equals < 0
+            ? QByteArray()
+            : QByteArray::fromPercentEncoding(trimmed(line.left(equals)));
+        const QString name = QString::fromUtf8(key);
+        if (!isComment) {
+            m_lines.append({m_count, isSection, equals >= 0, name});
+        }
+        if (!isComment && NetworkText::findKey(name) != nullptr) {
+            tagged += taggedName(key, m_count) + line.mid(equals);
+        } else {
+            tagged += line;
+        }
+        tagged += '\n';
+        if (isSection) {
+            tagged += taggedName(QByteArray(), m_count) + "=\n";
+        }
+    }
+
+    void readTagged(const QByteArray &tagged)
+    {
+        for (const QString &name : NetworkText::readNames(tagged)) {
+            const int behindSection = name.lastIndexOf(QLatin1Char('/')) + 1;
+            m_isInSectionByName.insert(name.mid(behindSection), behindSection > 0);
+        }
+    }
+
+    void check(const SLine &line)
+    {
+        const QString name = line.key + QLatin1Char(Tag) + QString::number(line.number);
+        const bool isRead = m_isInSectionByName.contains(name);
+        if (line.isSection) {
+            m_isInSection = m_isInSectionByName.value(name, m_isInSection);
+            if (isRead && m_isInSection) {
+                tell(Check::FINDING_SECTION, line,
+                     Texts::tr("A section begins: no key in it is read."));
             }
-        } else if (equals < 0) {
-            m_findings.append({Check::FINDING_NO_ASSIGNMENT, number, QString(),
-                               Texts::tr("This is neither KEY=value nor a comment.")});
-        } else if (!m_inSection) {
-            takeKey(line.left(equals).trimmed(), number);
-        }
-    }
-
-    void takeKey(const QString &key, int number)
-    {
-        if (NetworkText::findKey(key) == nullptr) {
-            m_findings.append(
-                {Check::FINDING_UNKNOWN_KEY, number, key, Texts::tr("There is no such key.")});
+        } else if (!line.isAssignment) {
+            tell(Check::FINDING_NO_ASSIGNMENT, line,
+                 Texts::tr("This is neither KEY=value nor a comment."));
+        } else if (m_isInSection) {
             return;
+        } else if (NetworkText::findKey(line.key) == nullptr) {
+            tell(Check::FINDING_UNKNOWN_KEY, line, Texts::tr("There is no such key."));
+        } else if (!isRead) {
+            tell(Check::FINDING_NOT_READ, line,
+                 Texts::tr("This line is not read: it belongs to a quotation mark or backslash "
+                           "before it."));
+        } else {
+            takeKey(line);
         }
-        if (m_lines.contains(key)) {
-            m_findings.append(
-                {Check::FINDING_REPEATED_KEY, number, key,
-                 Texts::tr("This replaces what line %1 tells.").arg(QString::number(lineOf(key)))});
-        }
-        m_lines.insert(key, number);
     }
 
-    QHash<QString, int> m_lines;
+    void takeKey(const SLine &line)
+    {
+        if (m_lineOfKey.contains(line.key)) {
+            tell(Check::FINDING_REPEATED_KEY, line,
+                 Texts::tr("This replaces what line %1 tells.")
+                     .arg(QString::number(lineOf(line.key))));
+        }
+        m_lineOfKey.insert(line.key, line.number);
+    }
+
+    void tell(Check::EFinding finding, const SLine &line, const QString &message)
+    {
+        m_findings.append({finding, line.number, line.key, message});
+    }
+
+    QList<SLine> m_lines;
+    /** Of what the parser has read, by its name with the number of its line. */
+    QHash<QString, bool> m_isInSectionByName;
+    QHash<QString, int> m_lineOfKey;
     QList<Check::SFinding> m_findings;
-    bool m_inSection = false;
+    int m_count = 0;
+    bool m_isInSection = false;
 };
 
 void checkSubnet(const CNetworkSettings &settings, Lines &lines)
@@ -200,17 +282,11 @@ QList<CNetworkSettingsCheck::SFinding> CNetworkSettingsCheck::check(const QByteA
     NetworkText::readValues(content, values);
     CNetworkSettings settings;
     for (const NetworkText::SKey &key : NetworkText::keys()) {
-        key.set(settings, values.value(key.name, key.missingValue));
-        if (values.contains(key.name)) {
-            const QString problem = problemOf(key, values.value(key.name));
-            if (!problem.isEmpty()) {
-                lines.add(FINDING_BAD_VALUE, key.name, problem);
-            }
-        } else if (lines.lineOf(key.name) > 0) {
-            lines.add(
-                FINDING_NOT_READ, key.name,
-                Texts::tr("This line is not read: it belongs to a quotation mark or backslash "
-                          "before it."));
+        const QString value = values.value(key.name, key.missingValue);
+        key.set(settings, value);
+        const QString problem = values.contains(key.name) ? problemOf(key, value) : QString();
+        if (!problem.isEmpty()) {
+            lines.add(FINDING_BAD_VALUE, key.name, problem);
         }
     }
     checkSubnet(settings, lines);

@@ -15,7 +15,7 @@ class VRNDEVICECORE_EXPORT CNetworkSettingsCheck
 public:
     CNetworkSettingsCheck() = delete;
 
-    enum EFinding {
+    enum EFinding : qint32 {
         /** A line that is neither "KEY=value" nor a comment. */
         FINDING_NO_ASSIGNMENT,
         /** A line that begins a section, in which no key is read. */
@@ -45,7 +45,8 @@ public:
      * Every finding in the content of a file, in the order of lines: lines that are no
      * "KEY=value", sections, unknown and repeated keys, keys that are not read because of a
      * quotation mark or backslash before them, values that are none, a static address that is
-     * missing, and one whose gateway lies in another subnet. A gateway "0.0.0.0" is none.
+     * missing, and one whose gateway lies in another subnet. A gateway "0.0.0.0" is none. Keys in a
+     * section are not looked at.
      */
     static QList<SFinding> check(const QByteArray &content);
 

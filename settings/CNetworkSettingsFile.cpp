@@ -32,11 +32,7 @@ void CNetworkSettingsFile::setNetworkSettings(const CNetworkSettings &settings)
 
 QStringList CNetworkSettingsFile::keys()
 {
-    QStringList names;
-    for (const NetworkText::SKey &key : NetworkText::keys()) {
-        names << key.name;
-    }
-    return names;
+    return NetworkText::keyNames();
 }
 
 QString CNetworkSettingsFile::value(const QString &key) const
@@ -102,8 +98,10 @@ EFileResult CNetworkSettingsFile::saveToBuffer(QByteArray &buffer)
 
 void CNetworkSettingsFile::write(QTextStream &stream) const
 {
+    QString text;
     for (const NetworkText::SKey &key : NetworkText::keys()) {
-        stream << key.preface << key.name << '=' << key.get(m_settings) << '\n';
+        text += key.preface + key.name + QLatin1Char('=') + key.get(m_settings) + QLatin1Char('\n');
     }
-    stream << '\n';
+    // At once, so that a field width of the stream pads nothing in between.
+    stream << text + QLatin1Char('\n');
 }

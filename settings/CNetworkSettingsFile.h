@@ -11,11 +11,11 @@
  * The file "network.conf" of a device: reads it into, and writes it from, the settings that the
  * file object holds.
  *
- * The file is read as an INI file without sections, in UTF-8; how comments, quotes and backslashes
- * are read is the business of QSettings, which a value with such characters may not survive
- * unchanged. It is written in one fixed form: comments and keys that are not of that form are not
- * kept. CNetworkSettingsCheck tells what is wrong with a file, for reading never fails because of a
- * bad value. Nothing is posted to the message board.
+ * The file is read as an INI file without sections, in UTF-8. Lines that begin with "#" or ";" are
+ * comments. How quotation marks and backslashes are read is the business of QSettings, which a
+ * value with such characters may not survive unchanged. It is written in one fixed form: comments
+ * and keys that are not of that form are not kept. CNetworkSettingsCheck tells what is wrong with a
+ * file, for reading never fails because of a bad value. Nothing is posted to the message board.
  *
  * Not synchronised: one object must not be used from two threads at once, distinct ones may.
  */

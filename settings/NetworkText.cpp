@@ -61,6 +61,11 @@ private:
 const char16_t Mark = 0xFDD0;
 const char MarkBytes[] = "\xEF\xB7\x90";
 
+bool isLineEnd(char byte)
+{
+    return byte == '\n' || byte == '\r';
+}
+
 /** The value of a digit to the base 16; 16 for any other byte. */
 int digitValue(char digit)
 {
@@ -72,7 +77,7 @@ int digitValue(char digit)
 
 /**
  * The character that the escape at @p from stands for, a backslash with hexadecimal or octal
- * digits; @p end is then behind it. -1 for any other escape, which is two bytes long.
+ * digits; -1 for any other. @p end is behind the escape, which never takes the end of a line.
  */
 int escapedCharacter(const QByteArray &content, int from, int &end)
 {
@@ -85,41 +90,83 @@ int escapedCharacter(const QByteArray &content, int from, int &end)
             code * static_cast<quint32>(base) + static_cast<quint32>(digitValue(content.at(end)));
     }
     if (end == digits && !isHexadecimal) {
-        end = qMin(from + 2, content.size());
+        const bool isPair = digits < content.size() && !isLineEnd(content.at(digits));
+        end = isPair ? digits + 1 : digits;
         return -1;
     }
     // The parser keeps the low 16 bits, too.
     return static_cast<quint16>(code);
 }
 
+/** Whether the line at @p from begins a section whose bracket is not closed in it. */
+bool isOpenSection(const QByteArray &content, int from)
+{
+    int i = from;
+    while (i < content.size() && !isLineEnd(content.at(i)) && content.at(i) != ']') {
+        ++i;
+    }
+    return content.at(from) == '[' && (i == content.size() || content.at(i) != ']');
+}
+
 /**
- * QSettings builds any object that a value such as "@Variant(...)" describes, however large or deep
- * it is. Here it is a text like any other, so each "@" is hidden from it.
+ * The content in a form in which QSettings reads it as it is meant:
+ * - "#" begins a comment; to QSettings only ";" does, and it would take a quotation mark in such a
+ *   line for one.
+ * - A value such as "@Variant(...)" is a text; QSettings would build the object that it describes,
+ *   however large or deep that is. So each "@" is hidden.
+ * - A section is closed; otherwise QSettings would look for its end in all that follows, again with
+ *   each such line.
  */
-QByteArray withoutObjects(const QByteArray &content)
+QByteArray prepared(const QByteArray &content)
 {
     QByteArray result;
     result.reserve(content.size());
+    bool isLineStart = true;
+    bool closesSection = false;
     for (int i = 0; i < content.size();) {
         int end = i + 1;
         int character = static_cast<uchar>(content.at(i));
-        if (character == '\\') {
+        if (isLineEnd(content.at(i))) {
+            result += closesSection ? "]" : "";
+            closesSection = false;
+        } else if (isLineStart && character == '#') {
+            result += ';';
+            character = -1;
+        } else if (isLineStart && character == '[') {
+            closesSection = isOpenSection(content, i);
+        } else if (character == '\\') {
             character = escapedCharacter(content, i, end);
         }
         if (character == '@') {
             result += MarkBytes;
-        } else {
+        } else if (!(isLineStart && content.at(i) == '#')) {
             result.append(content.constData() + i, end - i);
         }
+        isLineStart = isLineEnd(content.at(i))
+            || (isLineStart && (content.at(i) == ' ' || content.at(i) == '\t'));
         i = end;
     }
-    return result;
+    return closesSection ? result + ']' : result;
 }
 
 /** A value with commas is a list to QSettings; its parts are put together again. */
 QString toText(const QVariant &value)
 {
     return value.toStringList().join(QLatin1Char(',')).replace(QChar(Mark), QLatin1Char('@'));
+}
+
+/** Has @p content parsed, and @p use the parser: QSettings & -> void. @return whether it could */
+template <typename Use>
+bool parse(const QByteArray &content, Use use)
+{
+    const MemoryFile file(prepared(withoutByteOrderMark(content)));
+    if (!file.isOk()) {
+        return false;
+    }
+    QSettings parser(file.name(), QSettings::IniFormat);
+    parser.setIniCodec("UTF-8");
+    use(parser);
+    return parser.status() != QSettings::AccessError;
 }
 
 } // namespace
@@ -205,6 +252,15 @@ const QList<SKey> &keys()
     return table;
 }
 
+QStringList keyNames()
+{
+    QStringList names;
+    for (const SKey &key : keys()) {
+        names << key.name;
+    }
+    return names;
+}
+
 const SKey *findKey(const QString &name)
 {
     const QList<SKey> &table = keys();
@@ -213,24 +269,30 @@ const SKey *findKey(const QString &name)
     return found == table.end() ? nullptr : &*found;
 }
 
+QByteArray withoutByteOrderMark(const QByteArray &content)
+{
+    const QByteArray mark("\xEF\xBB\xBF");
+    return content.startsWith(mark) ? content.mid(mark.size()) : content;
+}
+
 bool readValues(const QByteArray &content, QHash<QString, QString> &values)
 {
-    const QByteArray byteOrderMark("\xEF\xBB\xBF");
-    const bool isMarked = content.startsWith(byteOrderMark);
-    const MemoryFile file(withoutObjects(isMarked ? content.mid(byteOrderMark.size()) : content));
     values.clear();
-    if (!file.isOk()) {
-        return false;
-    }
-    QSettings parser(file.name(), QSettings::IniFormat);
-    parser.setIniCodec("UTF-8");
-    for (const SKey &key : keys()) {
-        const QVariant value = parser.value(key.name);
-        if (value.isValid()) {
-            values.insert(key.name, toText(value));
+    return parse(content, [&values](const QSettings &parser) {
+        for (const SKey &key : keys()) {
+            const QVariant value = parser.value(key.name);
+            if (value.isValid()) {
+                values.insert(key.name, toText(value));
+            }
         }
-    }
-    return parser.status() != QSettings::AccessError;
+    });
+}
+
+QStringList readNames(const QByteArray &content)
+{
+    QStringList names;
+    parse(content, [&names](const QSettings &parser) { names = parser.allKeys(); });
+    return names;
 }
 
 } // namespace NetworkText

@@ -38,10 +38,17 @@ struct SKey {
 /** All keys, in the order of the file. */
 const QList<SKey> &keys();
 
+QStringList keyNames();
+
 /** The key named @p name, exactly so; null when there is none. */
 const SKey *findKey(const QString &name);
 
+QByteArray withoutByteOrderMark(const QByteArray &content);
+
 /** The values of those keys() that stand in the INI text @p content; false when memory is short. */
 bool readValues(const QByteArray &content, QHash<QString, QString> &values);
+/** The names of all keys in it; those in a section are "section/key". Empty when memory is short.
+ */
+QStringList readNames(const QByteArray &content);
 
 } // namespace NetworkText

@@ -5,10 +5,10 @@
 
 #include <random>
 
-/** Megabytes of content in which no "KEY=value" of a network.conf stands. */
+/** A megabyte of content in which no "KEY=value" of a network.conf stands. */
 namespace Garbage {
 
-const int Size = 2000000;
+const int Size = 1000000;
 
 inline QByteArray randomBytes()
 {

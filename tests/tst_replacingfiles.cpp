@@ -1,0 +1,888 @@
+#include "devicefiles/CDeviceOSReleaseFile.h"
+#include "imported/CXmlAbstractVornFile.h"
+#include "settings/CNetworkSettingsFile.h"
+#include "support/Files.h"
+#include "support/FullDisk.h"
+#include "support/Literals.h"
+#include "support/MessageCatcher.h"
+#include "support/OrdinaryUser.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <grp.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+// How a file is replaced is the same for every class that saves one, in whichever library it is.
+// What differs is how each tells of a failure.
+
+namespace {
+
+class XmlFile : public CXmlAbstractVornFile
+{
+public:
+    XmlFile() : CXmlAbstractVornFile(nullptr)
+    {
+        createNewDocument(u"Document"_s, u"1.0"_s);
+        setNodeValue(u"Name"_s, QString(800, QLatin1Char('x')), QDomElement());
+    }
+
+    bool handleVersionError(const QString &, const QString &) override { return true; }
+};
+
+int saveNetwork(const QString &path)
+{
+    return CNetworkSettingsFile().save(path);
+}
+
+QByteArray networkText()
+{
+    QByteArray buffer;
+    CNetworkSettingsFile().saveToBuffer(buffer);
+    return buffer;
+}
+
+void fill(CDeviceOSReleaseFile &file)
+{
+    file.setProduct(QString(800, QLatin1Char('x')));
+}
+
+int saveRelease(const QString &path)
+{
+    CDeviceOSReleaseFile file;
+    fill(file);
+    return file.save(path);
+}
+
+QByteArray releaseText()
+{
+    CDeviceOSReleaseFile file;
+    fill(file);
+    QByteArray buffer;
+    file.saveToBuffer(buffer);
+    return buffer;
+}
+
+int saveXml(const QString &path)
+{
+    const MessageCatcher catcher;
+    QString error;
+    const bool saved = XmlFile().save(path, error);
+    return saved && catcher.messages().isEmpty() && error.isEmpty() ? 0 : 1;
+}
+
+QByteArray xmlText()
+{
+    QByteArray buffer;
+    QString error;
+    XmlFile().save(buffer, error);
+    return buffer;
+}
+
+struct SSaver {
+    const char *name;
+    /** 0 is success. */
+    int (*save)(const QString &path);
+    /** What is saved; longer than MaxFileSize. */
+    QByteArray (*text)();
+    /** The result when the file cannot be opened for writing; when writing fails on the way. */
+    int notOpened;
+    int notFinished;
+};
+
+const SSaver Savers[] = {
+    {"network.conf", saveNetwork, networkText, 1, 5},
+    {"os-release", saveRelease, releaseText, 5, 5},
+    {"XML", saveXml, xmlText, 1, 1},
+};
+
+/** The size that files may have on a disk that is full. */
+const int MaxFileSize = 100;
+
+QByteArray native(const QString &path)
+{
+    return QFile::encodeName(path);
+}
+
+struct stat statusOf(const QString &path)
+{
+    struct stat status = {};
+    lstat(native(path).constData(), &status);
+    return status;
+}
+
+int modeOf(const QString &path)
+{
+    return static_cast<int>(statusOf(path).st_mode & ALLPERMS);
+}
+
+bool setMode(const QString &path, int mode)
+{
+    return chmod(native(path).constData(), static_cast<mode_t>(mode)) == 0;
+}
+
+/** Where a link leads, as it stands there; empty when it is none. */
+QByteArray linkTarget(const QString &path)
+{
+    char target[1000];
+    const ssize_t size = readlink(native(path).constData(), target, sizeof target);
+    return size < 0 ? QByteArray() : QByteArray(target, static_cast<int>(size));
+}
+
+/** While it lives, a directory takes no new files from an ordinary user. */
+class ReadOnlyDirectory
+{
+public:
+    explicit ReadOnlyDirectory(const QString &path) : m_path(path), m_isOk(setMode(path, 0555)) { }
+    ~ReadOnlyDirectory() { setMode(m_path, 0700); }
+
+    bool isOk() const { return m_isOk; }
+
+private:
+    Q_DISABLE_COPY(ReadOnlyDirectory)
+
+    const QString m_path;
+    const bool m_isOk;
+};
+
+class Umask
+{
+public:
+    explicit Umask(int mask) : m_previous(umask(static_cast<mode_t>(mask))) { }
+    ~Umask() { umask(m_previous); }
+
+private:
+    Q_DISABLE_COPY(Umask)
+
+    const mode_t m_previous;
+};
+
+/** While it lives, the super-user is in one more group, and so is every user he becomes. */
+class OrdinaryGroup
+{
+public:
+    explicit OrdinaryGroup(gid_t group) : m_previous(100)
+    {
+        const int count = getgroups(static_cast<int>(m_previous.size()), m_previous.data());
+        m_previous.resize(static_cast<size_t>(qMax(count, 0)));
+        m_isOk = count >= 0 && setgroups(1, &group) == 0;
+    }
+
+    ~OrdinaryGroup()
+    {
+        if (m_isOk && setgroups(m_previous.size(), m_previous.data()) != 0) {
+            qFatal("The groups of the super-user cannot be taken back.");
+        }
+    }
+
+    bool isOk() const { return m_isOk; }
+
+private:
+    Q_DISABLE_COPY(OrdinaryGroup)
+
+    std::vector<gid_t> m_previous;
+    bool m_isOk = false;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(SSaver)
+
+class tst_replacingfiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void replaces_data();
+    void replaces();
+    void relativePath_data() { addSavers(); }
+    void relativePath();
+    void links_data();
+    void links();
+    void linksThatLeadNowhere_data();
+    void linksThatLeadNowhere();
+    void modeStays_data();
+    void modeStays();
+    void modeOfNewFile_data();
+    void modeOfNewFile();
+    void ownerStays_data() { addSavers(); }
+    void ownerStays();
+    void groupStays_data() { addSavers(); }
+    void groupStays();
+    void hardLink_data() { addSavers(); }
+    void hardLink();
+    void fullDisk_data();
+    void fullDisk();
+    void newFileOnFullDisk_data() { addSavers(); }
+    void newFileOnFullDisk();
+    void lastStepFails_data() { addSavers(); }
+    void lastStepFails();
+    void inPlace_data();
+    void inPlace();
+    void inPlaceThroughLink_data() { addSavers(); }
+    void inPlaceThroughLink();
+    void inPlaceOnFullDisk_data();
+    void inPlaceOnFullDisk();
+    void inPlaceWithoutReading_data() { addSavers(); }
+    void inPlaceWithoutReading();
+    void newFileInReadOnlyDirectory_data() { addSavers(); }
+    void newFileInReadOnlyDirectory();
+    void readOnlyFile_data();
+    void readOnlyFile();
+    void fullDevice_data() { addSavers(); }
+    void fullDevice();
+    void nullDevice_data() { addSavers(); }
+    void nullDevice();
+    void pipeWithoutReader_data() { addSavers(); }
+    void pipeWithoutReader();
+    void pipeWithReader_data() { addSavers(); }
+    void pipeWithReader();
+    void names_data();
+    void names();
+    void longestName_data() { addSavers(); }
+    void longestName();
+    void manyThreads();
+
+private:
+    static void addSavers()
+    {
+        QTest::addColumn<SSaver>("saver");
+        for (const SSaver &saver : Savers) {
+            QTest::newRow(saver.name) << saver;
+        }
+    }
+
+    QString path(const QString &name = u"file"_s) const
+    {
+        return m_directory->path() + u"/"_s + name;
+    }
+
+    QStringList entries(const QString &name = u"."_s) const { return Files::names(path(name)); }
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+};
+
+void tst_replacingfiles::init()
+{
+    m_directory = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_directory->isValid());
+}
+
+void tst_replacingfiles::replaces_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<QByteArray>("old");
+
+    for (const SSaver &saver : Savers) {
+        const auto row = [&saver](const char *name, const QByteArray &old) {
+            QTest::addRow("%s, %s", saver.name, name) << saver << old;
+        };
+        row("new", QByteArray());
+        row("empty", "");
+        row("shorter", "old");
+        row("longer", QByteArray(5000, 'x'));
+        row("the same", saver.text());
+    }
+}
+
+void tst_replacingfiles::replaces()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(QByteArray, old);
+
+    QVERIFY(saver.text().size() > MaxFileSize);
+    QVERIFY(old.isNull() || Files::write(path(), old));
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(Files::read(path()), saver.text());
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::relativePath()
+{
+    QFETCH(SSaver, saver);
+
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir(path(u"."_s)).mkdir(u"directory"_s));
+    QVERIFY(QDir::setCurrent(path(u"directory"_s)));
+    const int result = saver.save(u"file"_s);
+    const int again = saver.save(u"file"_s);
+    const int above = saver.save(u"../file"_s);
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(result, 0);
+    QCOMPARE(again, 0);
+    QCOMPARE(above, 0);
+    QCOMPARE(Files::read(path(u"directory/file"_s)), saver.text());
+    QCOMPARE(Files::read(path()), saver.text());
+    QCOMPARE(entries(), (QStringList{u"directory"_s, u"file"_s}));
+    QCOMPARE(entries(u"directory"_s), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::links_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<QString>("link");
+    QTest::addColumn<bool>("exists");
+
+    for (const SSaver &saver : Savers) {
+        for (const char *link : {"absolute", "relative", "sub/up", "chain", "directory/file"}) {
+            const QString name = QString::fromLatin1(link);
+            QTest::addRow("%s, %s", saver.name, link) << saver << name << true;
+            QTest::addRow("%s, %s, dangling", saver.name, link) << saver << name << false;
+        }
+    }
+}
+
+void tst_replacingfiles::links()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(QString, link);
+    QFETCH(bool, exists);
+
+    QDir directory(path(u"."_s));
+    QVERIFY(directory.mkdir(u"real"_s));
+    QVERIFY(directory.mkdir(u"sub"_s));
+    const QList<QPair<QString, QString>> all = {
+        {u"absolute"_s, path(u"real/file"_s)},
+        {u"relative"_s, u"real/file"_s},
+        {u"sub/up"_s, u"../real/file"_s},
+        // Each one is relative to where it lies, not to where the first one does.
+        {u"chain"_s, u"sub/second"_s},
+        {u"sub/second"_s, u"../real/third"_s},
+        {u"real/third"_s, u"file"_s},
+        {u"directory"_s, u"real"_s},
+    };
+    for (const auto &one : all) {
+        QCOMPARE(symlink(native(one.second).constData(), native(path(one.first)).constData()), 0);
+    }
+    const QString target = path(u"real/file"_s);
+    QVERIFY(!exists || Files::write(target, "old"));
+    QVERIFY(!exists || setMode(target, 0604));
+    const QStringList names = entries();
+
+    QCOMPARE(saver.save(path(link)), 0);
+    QCOMPARE(Files::read(target), saver.text());
+    QVERIFY(S_ISREG(statusOf(target).st_mode));
+    QVERIFY(!exists || modeOf(target) == 0604);
+    for (const auto &one : all) {
+        QCOMPARE(linkTarget(path(one.first)), native(one.second));
+    }
+    QCOMPARE(entries(), names);
+    QCOMPARE(entries(u"real"_s), (QStringList{u"file"_s, u"third"_s}));
+    QCOMPARE(entries(u"sub"_s), (QStringList{u"second"_s, u"up"_s}));
+}
+
+void tst_replacingfiles::linksThatLeadNowhere_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<QString>("target");
+
+    for (const SSaver &saver : Savers) {
+        QTest::addRow("%s, to itself", saver.name) << saver << u"link"_s;
+        QTest::addRow("%s, to each other", saver.name) << saver << u"other"_s;
+        QTest::addRow("%s, missing directory", saver.name) << saver << u"missing/file"_s;
+        QTest::addRow("%s, directory", saver.name) << saver << u"."_s;
+        QTest::addRow("%s, below a file", saver.name) << saver << u"file/file"_s;
+    }
+}
+
+void tst_replacingfiles::linksThatLeadNowhere()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(QString, target);
+
+    QVERIFY(Files::write(path(), "old"));
+    QCOMPARE(symlink(native(target).constData(), native(path(u"link"_s)).constData()), 0);
+    QCOMPARE(symlink("link", native(path(u"other"_s)).constData()), 0);
+    QCOMPARE(saver.save(path(u"link"_s)), saver.notOpened);
+    QCOMPARE(linkTarget(path(u"link"_s)), native(target));
+    QCOMPARE(Files::read(path()), QByteArray("old"));
+    QCOMPARE(entries(), (QStringList{u"file"_s, u"link"_s, u"other"_s}));
+}
+
+void tst_replacingfiles::modeStays_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<int>("mode");
+
+    for (const SSaver &saver : Savers) {
+        for (const int mode : {0600, 0640, 0644, 0666, 0755, 0200}) {
+            QTest::addRow("%s, 0%o", saver.name, static_cast<unsigned>(mode)) << saver << mode;
+        }
+    }
+}
+
+void tst_replacingfiles::modeStays()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, mode);
+
+    QVERIFY(Files::write(path(), "old"));
+    QVERIFY(setMode(path(), mode));
+    const Umask strict(077);
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(modeOf(path()), mode);
+    QVERIFY(setMode(path(), 0600));
+    QCOMPARE(Files::read(path()), saver.text());
+}
+
+void tst_replacingfiles::modeOfNewFile_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<int>("mask");
+    QTest::addColumn<int>("mode");
+
+    for (const SSaver &saver : Savers) {
+        QTest::addRow("%s, 0", saver.name) << saver << 0 << 0666;
+        QTest::addRow("%s, 022", saver.name) << saver << 022 << 0644;
+        QTest::addRow("%s, 027", saver.name) << saver << 027 << 0640;
+        QTest::addRow("%s, 077", saver.name) << saver << 077 << 0600;
+    }
+}
+
+void tst_replacingfiles::modeOfNewFile()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, mask);
+    QFETCH(int, mode);
+
+    const Umask set(mask);
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(modeOf(path()), mode);
+}
+
+void tst_replacingfiles::ownerStays()
+{
+    QFETCH(SSaver, saver);
+
+    QVERIFY(Files::write(path(), "old"));
+    if (geteuid() != 0) {
+        QSKIP("Only the super-user can give files away.", 0);
+    }
+    QCOMPARE(chown(native(path()).constData(), 1234, 2345), 0);
+    QVERIFY(setMode(path(), 0640));
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(statusOf(path()).st_uid, uid_t(1234));
+    QCOMPARE(statusOf(path()).st_gid, gid_t(2345));
+    QCOMPARE(modeOf(path()), 0640);
+    QCOMPARE(Files::read(path()), saver.text());
+}
+
+void tst_replacingfiles::groupStays()
+{
+    QFETCH(SSaver, saver);
+
+    QVERIFY(Files::write(path(), "old"));
+    if (geteuid() != 0) {
+        QSKIP("Only the super-user can set up a file of somebody else.", 0);
+    }
+    // The owner cannot stay: the file is somebody else's, the group one of the user's.
+    QCOMPARE(chown(native(path()).constData(), 1234, 2345), 0);
+    QVERIFY(setMode(path(), 0660));
+    const OrdinaryGroup group(2345);
+    QVERIFY(group.isOk());
+    {
+        const OrdinaryUser user(m_directory->path());
+        QVERIFY(user.isOk());
+        QCOMPARE(saver.save(path()), 0);
+    }
+    QVERIFY(statusOf(path()).st_uid != 1234);
+    QCOMPARE(statusOf(path()).st_gid, gid_t(2345));
+    QCOMPARE(modeOf(path()), 0660);
+    QCOMPARE(Files::read(path()), saver.text());
+}
+
+void tst_replacingfiles::hardLink()
+{
+    QFETCH(SSaver, saver);
+
+    QVERIFY(Files::write(path(), "old"));
+    QCOMPARE(link(native(path()).constData(), native(path(u"other"_s)).constData()), 0);
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(Files::read(path()), saver.text());
+    QCOMPARE(Files::read(path(u"other"_s)), QByteArray("old"));
+}
+
+void tst_replacingfiles::fullDisk_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<int>("oldSize");
+    QTest::addColumn<int>("space");
+
+    for (const SSaver &saver : Savers) {
+        QTest::addRow("%s, shorter", saver.name) << saver << 50 << MaxFileSize;
+        QTest::addRow("%s, longer", saver.name) << saver << 5000 << MaxFileSize;
+        QTest::addRow("%s, empty", saver.name) << saver << 0 << MaxFileSize;
+        QTest::addRow("%s, no space at all", saver.name) << saver << 50 << 0;
+        QTest::addRow("%s, one byte short", saver.name) << saver << 50 << saver.text().size() - 1;
+    }
+}
+
+void tst_replacingfiles::fullDisk()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, oldSize);
+    QFETCH(int, space);
+
+    const QByteArray old(oldSize, 'o');
+    QVERIFY(Files::write(path(), old));
+    int result = 0;
+    {
+        const FullDisk full(static_cast<rlim_t>(space));
+        result = saver.save(path());
+    }
+    QCOMPARE(result, saver.notFinished);
+    QCOMPARE(Files::read(path()), old);
+    QCOMPARE(entries(), QStringList{u"file"_s});
+    // As soon as there is space it can be saved.
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(Files::read(path()), saver.text());
+}
+
+void tst_replacingfiles::newFileOnFullDisk()
+{
+    QFETCH(SSaver, saver);
+
+    int result = 0;
+    {
+        const FullDisk full(MaxFileSize);
+        result = saver.save(path());
+    }
+    QCOMPARE(result, saver.notFinished);
+    QCOMPARE(entries(), QStringList());
+}
+
+void tst_replacingfiles::lastStepFails()
+{
+    QFETCH(SSaver, saver);
+
+    // In a sticky directory everybody may add files, but replace only their own.
+    QVERIFY(Files::write(path(), "old"));
+    QVERIFY(setMode(path(), 0666));
+    QVERIFY(setMode(path(u"."_s), 01777));
+    bool wasSuperUser = false;
+    int result = 0;
+    {
+        const OrdinaryUser user;
+        QVERIFY(user.isOk());
+        wasSuperUser = user.wasSuperUser();
+        result = saver.save(path());
+    }
+    if (!wasSuperUser) {
+        QSKIP("Only the super-user can set up a file of somebody else.", 0);
+    }
+    QCOMPARE(result, saver.notFinished);
+    QCOMPARE(Files::read(path()), QByteArray("old"));
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::inPlace_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<int>("oldSize");
+
+    for (const SSaver &saver : Savers) {
+        QTest::addRow("%s, empty", saver.name) << saver << 0;
+        QTest::addRow("%s, shorter", saver.name) << saver << 50;
+        QTest::addRow("%s, as long", saver.name) << saver << saver.text().size();
+        QTest::addRow("%s, longer", saver.name) << saver << 5000;
+    }
+}
+
+void tst_replacingfiles::inPlace()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, oldSize);
+
+    QVERIFY(Files::write(path(), QByteArray(oldSize, 'o')));
+    QVERIFY(setMode(path(), 0640));
+    const ino_t file = statusOf(path()).st_ino;
+    const OrdinaryUser user(m_directory->path(), {u"file"_s});
+    QVERIFY(user.isOk());
+    const ReadOnlyDirectory directory(m_directory->path());
+    QVERIFY(directory.isOk());
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(Files::read(path()), saver.text());
+    QCOMPARE(modeOf(path()), 0640);
+    QVERIFY(statusOf(path()).st_ino == file);
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::inPlaceThroughLink()
+{
+    QFETCH(SSaver, saver);
+
+    // What counts is the directory of the file, not that of the link.
+    QVERIFY(QDir(path(u"."_s)).mkdir(u"locked"_s));
+    const QString locked = path(u"locked"_s);
+    QVERIFY(Files::write(locked + u"/file"_s, QByteArray(5000, 'o')));
+    QCOMPARE(symlink("locked/file", native(path(u"link"_s)).constData()), 0);
+    const OrdinaryUser user(m_directory->path(), {u"locked"_s, u"locked/file"_s});
+    QVERIFY(user.isOk());
+    const ReadOnlyDirectory directory(locked);
+    QVERIFY(directory.isOk());
+    QCOMPARE(saver.save(path(u"link"_s)), 0);
+    QCOMPARE(linkTarget(path(u"link"_s)), QByteArray("locked/file"));
+    QCOMPARE(Files::read(locked + u"/file"_s), saver.text());
+    QCOMPARE(entries(), (QStringList{u"link"_s, u"locked"_s}));
+    QCOMPARE(entries(u"locked"_s), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::inPlaceOnFullDisk_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<int>("oldSize");
+    QTest::addColumn<int>("space");
+
+    // What a file has already it keeps on a full disk, so the limit is never below the old size.
+    for (const SSaver &saver : Savers) {
+        QTest::addRow("%s, empty", saver.name) << saver << 0 << MaxFileSize;
+        QTest::addRow("%s, shorter", saver.name) << saver << 50 << MaxFileSize;
+        QTest::addRow("%s, no space at all", saver.name) << saver << 50 << 50;
+        QTest::addRow("%s, one byte short", saver.name) << saver << 50 << saver.text().size() - 1;
+    }
+}
+
+void tst_replacingfiles::inPlaceOnFullDisk()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, oldSize);
+    QFETCH(int, space);
+
+    const QByteArray old(oldSize, 'o');
+    QVERIFY(Files::write(path(), old));
+    const OrdinaryUser user(m_directory->path(), {u"file"_s});
+    QVERIFY(user.isOk());
+    const ReadOnlyDirectory directory(m_directory->path());
+    QVERIFY(directory.isOk());
+    int result = 0;
+    {
+        const FullDisk full(static_cast<rlim_t>(space));
+        result = saver.save(path());
+    }
+    QCOMPARE(result, saver.notFinished);
+    QCOMPARE(Files::read(path()), old);
+    QCOMPARE(entries(), QStringList{u"file"_s});
+    QCOMPARE(saver.save(path()), 0);
+    QCOMPARE(Files::read(path()), saver.text());
+}
+
+void tst_replacingfiles::inPlaceWithoutReading()
+{
+    QFETCH(SSaver, saver);
+
+    // An old content that cannot be read could not be put back, either.
+    QVERIFY(Files::write(path(), "old"));
+    {
+        const OrdinaryUser user(m_directory->path(), {u"file"_s});
+        QVERIFY(user.isOk());
+        QVERIFY(setMode(path(), 0200));
+        const ReadOnlyDirectory directory(m_directory->path());
+        QVERIFY(directory.isOk());
+        QCOMPARE(saver.save(path()), saver.notOpened);
+        QVERIFY(setMode(path(), 0600));
+        QCOMPARE(Files::read(path()), QByteArray("old"));
+    }
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::newFileInReadOnlyDirectory()
+{
+    QFETCH(SSaver, saver);
+
+    const OrdinaryUser user(m_directory->path());
+    QVERIFY(user.isOk());
+    const ReadOnlyDirectory directory(m_directory->path());
+    QVERIFY(directory.isOk());
+    QCOMPARE(saver.save(path()), saver.notOpened);
+    QCOMPARE(entries(), QStringList());
+}
+
+void tst_replacingfiles::readOnlyFile_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<int>("mode");
+
+    for (const SSaver &saver : Savers) {
+        QTest::addRow("%s, readable", saver.name) << saver << 0444;
+        QTest::addRow("%s, not even that", saver.name) << saver << 0;
+    }
+}
+
+void tst_replacingfiles::readOnlyFile()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, mode);
+
+    QVERIFY(Files::write(path(), "old"));
+    const OrdinaryUser user(m_directory->path(), {u"file"_s});
+    QVERIFY(user.isOk());
+    QVERIFY(setMode(path(), mode));
+    const ino_t file = statusOf(path()).st_ino;
+    QCOMPARE(saver.save(path()), saver.notOpened);
+    QCOMPARE(modeOf(path()), mode);
+    QVERIFY(statusOf(path()).st_ino == file);
+    QVERIFY(setMode(path(), 0600));
+    QCOMPARE(Files::read(path()), QByteArray("old"));
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::fullDevice()
+{
+    QFETCH(SSaver, saver);
+
+    const QString device = u"/dev/full"_s;
+    if (!S_ISCHR(statusOf(device).st_mode)) {
+        QSKIP("There is no such device.", 0);
+    }
+    // An ordinary user could not replace the device, whatever is tried.
+    const OrdinaryUser user;
+    QVERIFY(user.isOk());
+    QCOMPARE(saver.save(device), saver.notFinished);
+    QVERIFY(S_ISCHR(statusOf(device).st_mode));
+}
+
+void tst_replacingfiles::nullDevice()
+{
+    QFETCH(SSaver, saver);
+
+    const QString device = u"/dev/null"_s;
+    QVERIFY(S_ISCHR(statusOf(device).st_mode));
+    const OrdinaryUser user;
+    QVERIFY(user.isOk());
+    QCOMPARE(saver.save(device), 0);
+    QVERIFY(S_ISCHR(statusOf(device).st_mode));
+}
+
+void tst_replacingfiles::pipeWithoutReader()
+{
+    QFETCH(SSaver, saver);
+
+    QCOMPARE(mkfifo(native(path()).constData(), 0666), 0);
+    QCOMPARE(saver.save(path()), saver.notOpened);
+    QVERIFY(S_ISFIFO(statusOf(path()).st_mode));
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::pipeWithReader()
+{
+    QFETCH(SSaver, saver);
+
+    QCOMPARE(mkfifo(native(path()).constData(), 0666), 0);
+    const int reader = open(native(path()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QVERIFY(reader >= 0);
+    const int result = saver.save(path());
+    char byte = 0;
+    const ssize_t size = read(reader, &byte, 1);
+    close(reader);
+    QCOMPARE(result, saver.notOpened);
+    QVERIFY(size <= 0);
+    QVERIFY(S_ISFIFO(statusOf(path()).st_mode));
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::names_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<QString>("name");
+
+    for (const SSaver &saver : Savers) {
+        const auto row = [&saver](const char *rowName, const QString &name) {
+            QTest::addRow("%s, %s", saver.name, rowName) << saver << name;
+        };
+        row("null", QString());
+        row("empty", u""_s);
+        row("this directory", u"."_s);
+        row("directory above", u".."_s);
+        row("directory", u"directory"_s);
+        row("directory with slash", u"directory/"_s);
+        row("new file with slash", u"new/"_s);
+        row("old file with slash", u"file/"_s);
+        row("below a file", u"file/new"_s);
+        row("missing directory", u"missing/new"_s);
+        row("name too long", QString(256, QLatin1Char('x')));
+        row("path too long", u"./"_s.repeated(3000) + u"new"_s);
+        row("null character", u"\u0000"_s);
+        row("null character inside", u"new\u0000.conf"_s);
+        row("null character behind an old name", u"file\u0000"_s);
+    }
+}
+
+void tst_replacingfiles::names()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(QString, name);
+
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir(path(u"."_s)).mkdir(u"directory"_s));
+    QVERIFY(Files::write(path(), "old"));
+    QVERIFY(QDir::setCurrent(path(u"."_s)));
+    const int result = saver.save(name);
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(result, saver.notOpened);
+    QCOMPARE(entries(), (QStringList{u"directory"_s, u"file"_s}));
+    QCOMPARE(entries(u"directory"_s), QStringList());
+    QCOMPARE(Files::read(path()), QByteArray("old"));
+}
+
+void tst_replacingfiles::longestName()
+{
+    QFETCH(SSaver, saver);
+
+    const QString name(255, QLatin1Char('x'));
+    QCOMPARE(saver.save(path(name)), 0);
+    QCOMPARE(saver.save(path(name)), 0);
+    QCOMPARE(Files::read(path(name)), saver.text());
+    QCOMPARE(entries(), QStringList{name});
+}
+
+void tst_replacingfiles::manyThreads()
+{
+    const int count = 4;
+    const int turns = 25;
+    std::vector<CNetworkSettingsFile> files(count);
+    QList<QByteArray> texts;
+    for (int i = 0; i < count; ++i) {
+        // Of different lengths, so that a mixture of two would show.
+        CNetworkSettingsFile &file = files.at(static_cast<size_t>(i));
+        QVERIFY(file.setValue(u"NTP_TIMESERVER"_s, QString(2000 * i, QLatin1Char('x'))));
+        QByteArray text;
+        file.saveToBuffer(text);
+        texts << text;
+    }
+    QCOMPARE(int(files.front().save(path())), 0);
+
+    std::atomic<int> failures{0};
+    std::atomic<int> running{count};
+    std::vector<std::thread> threads;
+    for (CNetworkSettingsFile &file : files) {
+        threads.emplace_back([&] {
+            for (int turn = 0; turn < turns; ++turn) {
+                failures += file.save(path()) == 0 ? 0 : 1;
+            }
+            --running;
+        });
+    }
+    int mixtures = 0;
+    do {
+        mixtures += texts.contains(Files::read(path())) ? 0 : 1;
+    } while (running > 0);
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    QCOMPARE(failures.load(), 0);
+    QCOMPARE(mixtures, 0);
+    QVERIFY(texts.contains(Files::read(path())));
+    QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+QTEST_APPLESS_MAIN(tst_replacingfiles)
+#include "tst_replacingfiles.moc"
