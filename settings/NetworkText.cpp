@@ -1,5 +1,6 @@
 #include "settings/NetworkText.h"
 
+#include <QFile>
 #include <QSettings>
 
 #include <algorithm>
@@ -21,14 +22,9 @@ class MemoryFile
 public:
     explicit MemoryFile(const QByteArray &content) : m_fd(memfd_create("network.conf", MFD_CLOEXEC))
     {
-        const auto size = static_cast<size_t>(content.size());
-        size_t done = 0;
-        ssize_t written = 0;
-        while (m_fd >= 0 && done < size && written >= 0) {
-            written = write(m_fd, content.constData() + done, size - done);
-            done += static_cast<size_t>(qMax<ssize_t>(written, 0));
-        }
-        m_isOk = m_fd >= 0 && done == size && setTime();
+        QFile file;
+        m_isOk = m_fd >= 0 && file.open(m_fd, QIODevice::WriteOnly | QIODevice::Unbuffered)
+            && file.write(content) == content.size() && setTime();
     }
 
     ~MemoryFile()

@@ -1,3 +1,5 @@
+#include "devicefiles/CDeviceCommData.h"
+#include "devicefiles/COptionModuleFileName.h"
 #include "elements/CBaseElement.h"
 #include "elements/CDescriptionElement.h"
 #include "elements/CDeviceElement.h"
@@ -7,6 +9,9 @@
 #include "elements/CSubDeviceElement.h"
 #include "elements/CSubDeviceKD2ElementEdit.h"
 #include "elements/CSubDeviceKD3ElementEdit.h"
+#include "settings/CDeviceSettings.h"
+#include "settings/CNetworkSettings.h"
+#include "support/Files.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
 
@@ -15,9 +20,10 @@
 
 #include <type_traits>
 
-// What a program may expect of every value class in elements/: the same checks for each of them. A
-// new class is added to ValueClasses and gets a name, a sample and a list of changes; without these
-// it does not compile, and everyClassIsListed() finds a header without an entry.
+// What a program may expect of every value class: the same checks for each of them. A new class is
+// added to ElementClasses or RecordClasses and gets a name, a sample and a list of changes; without
+// these it does not compile, and everyClassIsListed() and everyRecordIsListed() find a header
+// without an entry. Where a class differs on purpose, a switch next to its sample says so.
 
 using Check = void (*)();
 Q_DECLARE_METATYPE(Check)
@@ -28,11 +34,19 @@ template <typename... Class>
 struct ClassList {
 };
 
-using ValueClasses =
+template <typename... Left, typename... Right>
+ClassList<Left..., Right...> joined(ClassList<Left...>, ClassList<Right...>);
+
+using ElementClasses =
     ClassList<CBaseElement, CFileElement, CParamFileElement, CPluginElement, CDescriptionElement,
               CSubDeviceBaseElement, CSubDeviceKD2Element, CSubDeviceKD3Element,
               CSubDeviceKD2ElementEdit, CSubDeviceKD3ElementEdit, CSubDeviceElement,
               CDeviceBaseElement, CDeviceElement>;
+
+using RecordClasses =
+    ClassList<CDeviceSettings, CNetworkSettings, CDeviceCommData, COptionModuleFileName>;
+
+using ValueClasses = decltype(joined(ElementClasses(), RecordClasses()));
 
 template <typename T>
 using Changes = QList<void (*)(T &)>;
@@ -54,9 +68,28 @@ const char *className();
 template <typename T>
 T sample() = delete;
 
-/** One change for each field that the comparison looks at; each changes a null and a sample(). */
+/** One change for each field that the comparison looks at; each changes a default and a sample().
+ */
 template <typename T>
 Changes<T> changes() = delete;
+
+/** Changes that the comparison overlooks on purpose, each of a default and a sample(). */
+template <typename T>
+Changes<T> overlookedChanges()
+{
+    return {};
+}
+
+template <typename T>
+constexpr bool DefaultIsNull = true;
+
+/** Whether a default-constructed value equals another one. */
+template <typename T>
+constexpr bool DefaultEqualsDefault = true;
+
+/** Whether copies of a record share all fields, so that it is no more than a pointer to them. */
+template <typename T>
+constexpr bool SharesData = true;
 
 template <typename T>
 T baseSample()
@@ -352,6 +385,10 @@ Changes<CSubDeviceKD3ElementEdit> changes()
     return subDeviceChanges<CSubDeviceKD3ElementEdit>();
 }
 
+/** An empty container of sub-devices equals nothing, not even another one: so it is wanted. */
+template <>
+constexpr bool DefaultEqualsDefault<CSubDeviceElement> = false;
+
 template <>
 const char *className<CSubDeviceElement>()
 {
@@ -471,17 +508,179 @@ Changes<CDeviceElement> changes()
     return deviceChanges<CDeviceElement>();
 }
 
-/** An empty container of sub-devices equals nothing, not even another one: so it is wanted. */
+template <>
+const char *className<CDeviceSettings>()
+{
+    return "CDeviceSettings";
+}
+
+template <>
+CDeviceSettings sample()
+{
+    CDeviceSettings settings;
+    settings.setDeviceName(u"device"_s);
+    settings.setSubDeviceName(u"sub-device"_s, 3);
+    settings.setSubDeviceName(u""_s, 7);
+    return settings;
+}
+
+template <>
+Changes<CDeviceSettings> changes()
+{
+    return {
+        [](CDeviceSettings &s) { s.setDeviceName(u"x"_s); },
+        [](CDeviceSettings &s) { s.setSubDeviceName(u"x"_s, 3); },
+        [](CDeviceSettings &s) { s.setSubDeviceName(u""_s, 4); },
+    };
+}
+
+template <>
+const char *className<CNetworkSettings>()
+{
+    return "CNetworkSettings";
+}
+
+/** It tells addresses, which null settings have none of. */
+template <>
+constexpr bool DefaultIsNull<CNetworkSettings> = false;
+
+template <>
+CNetworkSettings sample()
+{
+    CNetworkSettings settings;
+    settings.setMode(CNetworkSettings::NETWORK_MODE_STATIC);
+    settings.setAddress(u"192.168.1.10"_s);
+    settings.setSubnetMask(u"255.255.255.0"_s);
+    settings.setGateway(u"192.168.1.1"_s);
+    settings.setSyslogAddress(u"192.168.1.2"_s);
+    settings.setNtpAddress(u"192.168.1.3"_s);
+    settings.setNtpMode(CNetworkSettings::NTP_MODE_DAEMON);
+    settings.setNetConsoleAddress(u"192.168.1.4"_s);
+    settings.setNetConsolePort(7);
+    settings.setKernelLogLevel(u"7"_s);
+    return settings;
+}
+
+template <>
+Changes<CNetworkSettings> changes()
+{
+    return {
+        [](CNetworkSettings &s) { s.setMode(CNetworkSettings::NETWORK_MODE_DHCP); },
+        [](CNetworkSettings &s) { s.setModeStr(u"DISABLED"_s); },
+        [](CNetworkSettings &s) { s.setAddress(u"x"_s); },
+        [](CNetworkSettings &s) { s.setSubnetMask(u"x"_s); },
+        [](CNetworkSettings &s) { s.setGateway(u"x"_s); },
+        [](CNetworkSettings &s) { s.setSyslogAddress(u"x"_s); },
+        [](CNetworkSettings &s) { s.setSyslogAddress(u""_s); },
+        [](CNetworkSettings &s) { s.setNtpAddress(u"x"_s); },
+        [](CNetworkSettings &s) { s.setNtpMode(CNetworkSettings::NTP_MODE_SET_ON_STARTUP); },
+        [](CNetworkSettings &s) { s.setNtpModeStr(u"NTP_DISABLE"_s); },
+        [](CNetworkSettings &s) { s.setNetConsoleAddress(u"x"_s); },
+        [](CNetworkSettings &s) { s.setNetConsolePort(9); },
+        [](CNetworkSettings &s) { s.setKernelLogLevel(u"0"_s); },
+    };
+}
+
+template <>
+const char *className<CDeviceCommData>()
+{
+    return "CDeviceCommData";
+}
+
+template <>
+CDeviceCommData sample()
+{
+    CDeviceCommData data;
+    data.setRefId(QUuid(u"{12345678-9abc-def0-1234-56789abcdef0}"_s));
+    data.setName(u"name"_s);
+    data.setComment(u"comment"_s);
+    data.setSerial(7);
+    data.setHostAddressType(CDeviceItem::HOST_ADDRESS_IPV4);
+    data.setHostAddress(QHostAddress(u"192.168.1.10"_s));
+    data.setPort(7);
+    data.setAccessDescription(u"access"_s);
+    data.setConnectionState(NvrnGlobal::CONNECTION_STATE_CONNECTED);
+    data.setPreferredDeviceListNumber(7);
+    data.setConfigurationName(u"configuration"_s);
+    return data;
+}
+
+template <>
+Changes<CDeviceCommData> changes()
+{
+    return {
+        [](CDeviceCommData &d) { d.setRefId(QUuid(9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9)); },
+        [](CDeviceCommData &d) { d.setName(u"x"_s); },
+        [](CDeviceCommData &d) { d.setComment(u"x"_s); },
+        [](CDeviceCommData &d) { d.setSerial(9); },
+        [](CDeviceCommData &d) { d.setHostAddressType(CDeviceItem::HOST_ADDRESS_NAME); },
+        [](CDeviceCommData &d) { d.setHostAddress(QHostAddress(u"::1"_s)); },
+        [](CDeviceCommData &d) { d.setPort(9); },
+        [](CDeviceCommData &d) { d.setAccessDescription(u"x"_s); },
+        [](CDeviceCommData &d) { d.setPreferredDeviceListNumber(9); },
+        [](CDeviceCommData &d) { d.setConfigurationName(u"x"_s); },
+    };
+}
+
+/** A device stays the same when it goes off line. */
+template <>
+Changes<CDeviceCommData> overlookedChanges()
+{
+    return {[](CDeviceCommData &d) {
+        d.setConnectionState(NvrnGlobal::CONNECTION_STATE_DISCONNECTED);
+    }};
+}
+
+template <>
+const char *className<COptionModuleFileName>()
+{
+    return "COptionModuleFileName";
+}
+
+template <>
+constexpr bool SharesData<COptionModuleFileName> = false;
+
+template <>
+COptionModuleFileName sample()
+{
+    return COptionModuleFileName(u"OM1_EC_H2_V1_3_text.bin"_s);
+}
+
+template <>
+Changes<COptionModuleFileName> changes()
+{
+    return {
+        [](COptionModuleFileName &n) { n.setSlot(u"OM9"_s); },
+        [](COptionModuleFileName &n) { n.setInterface(u"AI"_s); },
+        [](COptionModuleFileName &n) { n.setHardwareVersion(u"H9"_s); },
+        [](COptionModuleFileName &n) { n.setSoftwareVersion(u"V9_9"_s); },
+        [](COptionModuleFileName &n) { n.setText(u"x"_s); },
+        [](COptionModuleFileName &n) { n.setSuffix(u"x"_s); },
+        [](COptionModuleFileName &n) { n.setFileName(u"OM9_AI_H9_V9_9.bin"_s); },
+        [](COptionModuleFileName &n) { n = u"OM9_AI_H9_V9_9.bin"_s; },
+    };
+}
+
+/** Whether it is in every respect as a default-constructed value. */
 template <typename T>
-constexpr bool NullEqualsNull = !std::is_same<T, CSubDeviceElement>::value;
+bool isDefault(const T &value)
+{
+    if (value.isNull() != DefaultIsNull<T>) {
+        return false;
+    }
+    if (!DefaultEqualsDefault<T>) {
+        return value != T();
+    }
+    return value == T() && StreamBytes::toBytes(value) == StreamBytes::toBytes(T());
+}
 
 template <typename T>
-void checkDefaultIsNull()
+void checkDefault()
 {
     const T value;
-    QVERIFY(value.isNull());
-    QCOMPARE(value == T(), NullEqualsNull<T>);
-    QCOMPARE(value != T(), !NullEqualsNull<T>);
+    QCOMPARE(value.isNull(), DefaultIsNull<T>);
+    QCOMPARE(value == T(), DefaultEqualsDefault<T>);
+    QCOMPARE(value != T(), !DefaultEqualsDefault<T>);
 }
 
 template <typename T>
@@ -513,6 +712,29 @@ void checkEveryChangeCounts()
 }
 
 template <typename T>
+void checkOverlookedChanges()
+{
+    for (const auto change : overlookedChanges<T>()) {
+        for (const T &start : {T(), sample<T>()}) {
+            T value(start);
+            change(value);
+            QVERIFY(value == start);
+            QVERIFY(!(value != start));
+            QCOMPARE(value.isNull(), start.isNull());
+            // It is stored nevertheless, and only there.
+            const QByteArray changed = StreamBytes::toBytes(value);
+            QVERIFY(changed != StreamBytes::toBytes(start));
+            QCOMPARE(StreamBytes::toBytes(StreamBytes::fromBytes<T>(changed)), changed);
+            const T copy(value);
+            QCOMPARE(StreamBytes::toBytes(copy), changed);
+            value.clear();
+            QVERIFY(isDefault(value));
+            QCOMPARE(StreamBytes::toBytes(copy), changed);
+        }
+    }
+}
+
+template <typename T>
 void checkCopyKeepsItsValue()
 {
     int index = 0;
@@ -532,6 +754,15 @@ void checkCopyKeepsItsValue()
         QVERIFY2(assigned == sample<T>(), which);
         QVERIFY2(original == copy, which);
     }
+}
+
+template <typename T>
+void checkSize()
+{
+    // A field beside the shared data would be copied with every copy.
+    const size_t pointer = sizeof(void *);
+    const size_t table = std::is_polymorphic<T>::value ? pointer : 0;
+    QCOMPARE(sizeof(T) == table + pointer, SharesData<T>);
 }
 
 template <typename T>
@@ -563,7 +794,7 @@ void checkAssignment()
     QCOMPARE(&(value = sample<T>()), &value);
     QVERIFY(value == sample<T>());
     value = T();
-    QVERIFY(value.isNull());
+    QVERIFY(isDefault(value));
     QVERIFY(value != sample<T>());
 }
 
@@ -575,10 +806,10 @@ void checkSelfAssignment()
     value = self;
     QVERIFY(value == sample<T>());
 
-    T null;
-    const T &nullSelf = null;
-    null = nullSelf;
-    QVERIFY(null.isNull());
+    T initial;
+    const T &initialSelf = initial;
+    initial = initialSelf;
+    QVERIFY(isDefault(initial));
 }
 
 template <typename T>
@@ -587,13 +818,12 @@ void checkClear()
     T value = sample<T>();
     const T copy(value);
     value.clear();
-    QVERIFY(value.isNull());
-    QCOMPARE(value == T(), NullEqualsNull<T>);
+    QVERIFY(isDefault(value));
     QVERIFY(copy == sample<T>());
 
-    T null;
-    null.clear();
-    QVERIFY(null.isNull());
+    T initial;
+    initial.clear();
+    QVERIFY(isDefault(initial));
 }
 
 template <typename T>
@@ -604,7 +834,7 @@ void checkStreamRoundTrip()
     const T copy(value);
     QCOMPARE(StreamBytes::read(bytes + "rest", value), qint64(bytes.size()));
     QVERIFY(value == sample<T>());
-    QVERIFY(copy.isNull());
+    QVERIFY(isDefault(copy));
     QCOMPARE(StreamBytes::toBytes(value), bytes);
 
     // Reading overwrites what was there, and the two values do not mix.
@@ -643,10 +873,11 @@ void checkInLists()
     changes<T>().first()(list[1]);
     QVERIFY(copy.at(1) == sample<T>());
     std::swap(list[0], list[1]);
-    QVERIFY(list.at(1).isNull());
+    QVERIFY(isDefault(list.at(1)));
 }
 
-#define ROWS(check) rows([](auto type) -> Check { return &check<typename decltype(type)::Type>; })
+#define CHECK_OF(check) [](auto type) -> Check { return &check<typename decltype(type)::Type>; }
+#define ROWS(check) rowsOf(CHECK_OF(check), ValueClasses())
 
 template <typename T>
 struct Tag {
@@ -660,10 +891,11 @@ void rowsOf(CheckOf checkOf, ClassList<Class...>)
     ((QTest::newRow(className<Class>()) << checkOf(Tag<Class>())), ...);
 }
 
-template <typename CheckOf>
-void rows(CheckOf checkOf)
+void rowIf(bool wanted, const char *name, Check check)
 {
-    rowsOf(checkOf, ValueClasses());
+    if (wanted) {
+        QTest::newRow(name) << check;
+    }
 }
 
 /** Only for elements, see checkSharing(). */
@@ -671,12 +903,16 @@ template <typename... Class>
 void sharingRows(ClassList<Class...>)
 {
     QTest::addColumn<Check>("check");
-    const auto row = [](const char *name, bool isElement, Check check) {
-        if (isElement) {
-            QTest::newRow(name) << check;
-        }
-    };
-    (row(className<Class>(), std::is_base_of<CBaseElement, Class>::value, &checkSharing<Class>),
+    (rowIf(std::is_base_of<CBaseElement, Class>::value, className<Class>(), &checkSharing<Class>),
+     ...);
+}
+
+template <typename... Class>
+void overlookedRows(ClassList<Class...>)
+{
+    QTest::addColumn<Check>("check");
+    (rowIf(!overlookedChanges<Class>().isEmpty(), className<Class>(),
+           &checkOverlookedChanges<Class>),
      ...);
 }
 
@@ -700,17 +936,22 @@ class tst_valuesemantics : public QObject
 
 private slots:
     void everyClassIsListed();
+    void everyRecordIsListed();
 
-    void defaultIsNull_data() { ROWS(checkDefaultIsNull); }
-    void defaultIsNull() { run(); }
+    void defaultValue_data() { ROWS(checkDefault); }
+    void defaultValue() { run(); }
     void sampleIsNotNull_data() { ROWS(checkSampleIsNotNull); }
     void sampleIsNotNull() { run(); }
     void everyChangeCounts_data() { ROWS(checkEveryChangeCounts); }
     void everyChangeCounts() { run(); }
+    void overlookedChanges_data() { overlookedRows(ValueClasses()); }
+    void overlookedChanges() { run(); }
     void copyKeepsItsValue_data() { ROWS(checkCopyKeepsItsValue); }
     void copyKeepsItsValue() { run(); }
     void sharing_data() { sharingRows(ValueClasses()); }
     void sharing() { run(); }
+    void size_data() { rowsOf(CHECK_OF(checkSize), RecordClasses()); }
+    void size() { run(); }
     void assignment_data() { ROWS(checkAssignment); }
     void assignment() { run(); }
     void selfAssignment_data() { ROWS(checkSelfAssignment); }
@@ -732,7 +973,25 @@ void tst_valuesemantics::everyClassIsListed()
     for (const QFileInfo &header : elements.entryInfoList({u"C*.h"_s}, QDir::Files)) {
         headers << header.completeBaseName();
     }
-    QStringList listed = classNames(ValueClasses());
+    QStringList listed = classNames(ElementClasses());
+    headers.sort();
+    listed.sort();
+    QCOMPARE(listed, headers);
+}
+
+void tst_valuesemantics::everyRecordIsListed()
+{
+    // Between file classes and helpers, the values are those that can be read from a data stream.
+    QStringList headers;
+    for (const QString &folder : {u"/settings"_s, u"/devicefiles"_s}) {
+        const QDir directory(QStringLiteral(VRN_SOURCE_DIR) + folder);
+        for (const QFileInfo &header : directory.entryInfoList({u"*.h"_s}, QDir::Files)) {
+            if (Files::read(header.filePath()).contains("operator>>")) {
+                headers << header.completeBaseName();
+            }
+        }
+    }
+    QStringList listed = classNames(RecordClasses());
     headers.sort();
     listed.sort();
     QCOMPARE(listed, headers);

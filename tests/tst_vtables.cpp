@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "configfile/CDeviceConfigurationFile10.h"
+#include "devicefiles/CHashMap.h"
 #include "elements/CSubDeviceKD2ElementEdit.h"
 #include "elements/CSubDeviceKD3ElementEdit.h"
 
@@ -14,7 +15,9 @@
 #include <link.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -122,6 +125,38 @@ __attribute__((no_sanitize("address"))) QStringList compiledSlots(const QString 
     }
     while (!result.isEmpty() && result.last() == NullSlot) {
         result.removeLast();
+    }
+    return result;
+}
+
+using StringMap = CHashMap<QString, QString>;
+
+const QString StringMapName = QStringLiteral("CHashMap<QString, QString>");
+
+class BehindStringMap : public StringMap
+{
+public:
+    virtual void own() { }
+};
+
+/**
+ * The functions in the slots of a template class. Each program compiles it for itself, and the
+ * loader fills no names into it; but a derived class shows where its slots end, for there its own
+ * begin, and a pointer to an operation holds the place of its slot in the table.
+ */
+QStringList stringMapSlots()
+{
+    auto operation = &BehindStringMap::own;
+    size_t offset = 0;
+    static_assert(sizeof(operation) >= sizeof(offset));
+    std::memcpy(&offset, &operation, sizeof(offset));
+    // The lowest bit only marks it as virtual.
+    const int count = static_cast<int>(offset / sizeof(void *));
+    const int destructors = std::has_virtual_destructor<StringMap>::value ? 2 : 0;
+    QStringList result;
+    for (int i = 0; i < count; ++i) {
+        result << (i < destructors ? StringMapName + QStringLiteral("::~CHashMap()")
+                                   : QStringLiteral("unknown"));
     }
     return result;
 }
@@ -247,7 +282,7 @@ void tst_VTables::slotOrder()
 {
     QFETCH(QString, className);
     const QStringList expected = m_table.classes().value(className).slotFunctions;
-    QStringList compiled = compiledSlots(className);
+    QStringList compiled = className == StringMapName ? stringMapSlots() : compiledSlots(className);
     if (expected.contains(PureSlot)) {
         for (int i = 0; i < compiled.size() && compiled.at(i) == NullSlot; ++i) {
             compiled[i] = expected.value(i);
