@@ -57,11 +57,6 @@ private:
 const char16_t Mark = 0xFDD0;
 const char MarkBytes[] = "\xEF\xB7\x90";
 
-bool isLineEnd(char byte)
-{
-    return byte == '\n' || byte == '\r';
-}
-
 /** The value of a digit to the base 16; 16 for any other byte. */
 int digitValue(char digit)
 {
@@ -72,36 +67,57 @@ int digitValue(char digit)
 }
 
 /**
- * The character that the escape at @p from stands for, a backslash with hexadecimal or octal
- * digits; -1 for any other. @p end is behind the escape, which never takes the end of a line.
+ * The character that the escape at @p from of a line stands for, a backslash with hexadecimal or
+ * octal digits; -1 for any other. @p end is behind the escape.
  */
-int escapedCharacter(const QByteArray &content, int from, int &end)
+int escapedCharacter(const QByteArray &line, int from, int &end)
 {
-    const bool isHexadecimal = from + 1 < content.size() && content.at(from + 1) == 'x';
+    const bool isHexadecimal = line.mid(from + 1, 1) == "x";
     const int base = isHexadecimal ? 16 : 8;
     const int digits = from + (isHexadecimal ? 2 : 1);
     quint32 code = 0;
-    for (end = digits; end < content.size() && digitValue(content.at(end)) < base; ++end) {
-        code =
-            code * static_cast<quint32>(base) + static_cast<quint32>(digitValue(content.at(end)));
+    for (end = digits; end < line.size() && digitValue(line.at(end)) < base; ++end) {
+        code = code * static_cast<quint32>(base) + static_cast<quint32>(digitValue(line.at(end)));
     }
     if (end == digits && !isHexadecimal) {
-        const bool isPair = digits < content.size() && !isLineEnd(content.at(digits));
-        end = isPair ? digits + 1 : digits;
+        end = qMin(digits + 1, line.size());
         return -1;
     }
     // The parser keeps the low 16 bits, too.
     return static_cast<quint16>(code);
 }
 
-/** Whether the line at @p from begins a section whose bracket is not closed in it. */
-bool isOpenSection(const QByteArray &content, int from)
+void appendWithoutObjects(const QByteArray &line, QByteArray &result)
 {
-    int i = from;
-    while (i < content.size() && !isLineEnd(content.at(i)) && content.at(i) != ']') {
-        ++i;
+    for (int i = 0; i < line.size();) {
+        int end = i + 1;
+        int character = static_cast<uchar>(line.at(i));
+        if (character == '\\') {
+            character = escapedCharacter(line, i, end);
+        }
+        if (character == '@') {
+            result += MarkBytes;
+        } else {
+            result.append(line.constData() + i, end - i);
+        }
+        i = end;
     }
-    return content.at(from) == '[' && (i == content.size() || content.at(i) != ']');
+}
+
+void appendPrepared(QByteArray line, QByteArray &result)
+{
+    int start = 0;
+    while (start < line.size() && (line.at(start) == ' ' || line.at(start) == '\t')) {
+        ++start;
+    }
+    const QByteArray first = line.mid(start, 1);
+    if (first == "#") {
+        line[start] = ';';
+    }
+    appendWithoutObjects(line, result);
+    if (first == "[" && !line.contains(']')) {
+        result += ']';
+    }
 }
 
 /**
@@ -117,32 +133,16 @@ QByteArray prepared(const QByteArray &content)
 {
     QByteArray result;
     result.reserve(content.size());
-    bool isLineStart = true;
-    bool closesSection = false;
-    for (int i = 0; i < content.size();) {
-        int end = i + 1;
-        int character = static_cast<uchar>(content.at(i));
-        if (isLineEnd(content.at(i))) {
-            result += closesSection ? "]" : "";
-            closesSection = false;
-        } else if (isLineStart && character == '#') {
-            result += ';';
-            character = -1;
-        } else if (isLineStart && character == '[') {
-            closesSection = isOpenSection(content, i);
-        } else if (character == '\\') {
-            character = escapedCharacter(content, i, end);
+    for (int from = 0; from < content.size();) {
+        int end = from;
+        while (end < content.size() && content.at(end) != '\n' && content.at(end) != '\r') {
+            ++end;
         }
-        if (character == '@') {
-            result += MarkBytes;
-        } else if (!(isLineStart && content.at(i) == '#')) {
-            result.append(content.constData() + i, end - i);
-        }
-        isLineStart = isLineEnd(content.at(i))
-            || (isLineStart && (content.at(i) == ' ' || content.at(i) == '\t'));
-        i = end;
+        appendPrepared(content.mid(from, end - from), result);
+        result += content.mid(end, 1);
+        from = end + 1;
     }
-    return closesSection ? result + ']' : result;
+    return result;
 }
 
 /** A value with commas is a list to QSettings; its parts are put together again. */
