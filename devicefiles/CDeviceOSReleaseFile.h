@@ -51,9 +51,9 @@ public:
 
     /**
      * Replaces the file @p fileName by the pairs KEY=value. They follow one another without quotes
-     * and without any separator, which is what the devices expect: read again, the file is one line
-     * that gives the first key, with the text up to the second "=" as its value. To change a
-     * release file in place is therefore not possible; keep the original.
+     * and without any separator, on purpose: read again, the file is one line that gives the first
+     * key alone, with the text up to the second "=" as its value. So a release file cannot be
+     * changed in place; keep the original.
      *
      * @return FILE_RESULT_SUCCESS; or FILE_RESULT_WRITE_FAILURE, and the old file is still there,
      *         whole. Where the file can be written but its directory cannot, it is written in

@@ -9,8 +9,9 @@
  * to 1027) or which signal ended its application (code 1087 + number of the signal): a message of
  * one line, and a description for a view of details.
  *
- * The texts are translated when they are asked for, in the context "CDeviceSystemMessage". All
- * operations are static and may be used from any thread.
+ * The texts are translated when they are asked for, in the context "CDeviceSystemMessage". They are
+ * the keys of the catalogues: with "Too much errors" spelt better, its translations would be lost.
+ * All operations are static and may be used from any thread.
  */
 class VRNDEVICECORE_EXPORT CDeviceSystemMessage
 {

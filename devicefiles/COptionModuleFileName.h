@@ -63,7 +63,9 @@ public:
     /** The last number in the software version; -1 as above. */
     int softwareMinorVersionAsInt() const;
 
-    // Descriptions for the user, translated in the context "COptionModuleFileName"
+    // Descriptions for the user, translated in the context "COptionModuleFileName". The texts are
+    // the keys of the catalogues: with "Option Modul slot %1" or "Expansion IO modul" spelt better,
+    // every translation of them would be lost.
 
     /** "Option Modul slot %1" with the number in @p slot, "OM" before it or not; else "Unknown". */
     static QString descriptionForSlot(const QString &slot);

@@ -53,9 +53,10 @@ CDeviceSettings CDeviceSettingsFileV10::deviceSettings() const
     if (device.isNull()) {
         return settings;
     }
-    const QDomElement deviceName = existingDomElement(TAG_NAME, device);
-    if (!deviceName.isNull()) {
-        settings.setDeviceName(getNodeValue(deviceName));
+    const QString deviceName = getNodeValue(TAG_NAME, device);
+    if (!deviceName.isEmpty()) {
+        // Of an empty element the text is null, which the name of no device is.
+        settings.setDeviceName(deviceName);
     }
     const QDomNodeList subDevices = device.elementsByTagName(TAG_SUB_DEVICE);
     for (int i = 0; i < subDevices.count(); ++i) {

@@ -90,9 +90,9 @@ public:
     void setGateway(const QString &gateway);
 
     /**
-     * Where the system log is sent. An empty address is stored as "255.255.000.000", like a mask
-     * and unlike the default, "000.000.000.000": devices out there hold that text and know it, so
-     * to switch the log off set the default's text and not an empty one.
+     * Where the system log is sent. An empty address is stored as "255.255.000.000", on purpose
+     * like a mask and unlike the default, "000.000.000.000": to name no receiver, set the default's
+     * text and not an empty one.
      */
     QString syslogAddress() const;
     void setSyslogAddress(const QString &address);

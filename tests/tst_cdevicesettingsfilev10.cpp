@@ -138,6 +138,7 @@ private slots:
     void read();
     void driveNumbers_data();
     void driveNumbers();
+    void emptyNameIsNotNull();
     void readingChangesNothing();
     void write_data();
     void write();
@@ -602,6 +603,16 @@ void tst_cdevicesettingsfilev10::driveNumbers()
              FILE_RESULT_SUCCESS);
     QCOMPARE(file.deviceSettings().subDeviceNameMap(), names);
     QVERIFY(catcher.messages().isEmpty());
+}
+
+void tst_cdevicesettingsfilev10::emptyNameIsNotNull()
+{
+    // The two are equal, but differ on a data stream.
+    CDeviceSettingsFileV10 file(nullptr);
+    QCOMPARE(file.openBuffer(document(" <Device>\n  <Name/>\n </Device>\n"), Version),
+             FILE_RESULT_SUCCESS);
+    QVERIFY(file.deviceSettings().deviceName().isEmpty());
+    QVERIFY(!file.deviceSettings().deviceName().isNull());
 }
 
 void tst_cdevicesettingsfilev10::readingChangesNothing()
