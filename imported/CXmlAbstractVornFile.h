@@ -38,9 +38,9 @@ public:
     virtual ~CXmlAbstractVornFile();
 
     /**
-     * Reads the regular file @p path. Its root must be named @p documentType. When its version is not
-     * @p requiredVersion, handleVersionError() decides: if that accepts the document, it is from
-     * then on a document of the required version, and is saved as one.
+     * Reads the regular file @p path. Its root must be named @p documentType. When its version is
+     * not @p requiredVersion, handleVersionError() decides: if that accepts the document, it is
+     * from then on a document of the required version, and is saved as one.
      *
      * @param errorText on failure "file:line:column: reason", without line and column where the
      *                  failure has no place in the file

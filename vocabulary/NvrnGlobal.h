@@ -7,7 +7,8 @@
 
 /**
  * What the whole tool chain shares: MIME types, log level names, address patterns, permission
- * sets, one-letter prefixes, and the enumerations for parameter files, file results and connections.
+ * sets, one-letter prefixes, and the enumerations for parameter files, file results and
+ * connections.
  *
  * Every constant is one immutable object that the library builds when it is loaded; reading it is
  * safe from any thread.
