@@ -42,8 +42,7 @@ CDeviceCommData &CDeviceCommData::operator=(const CDeviceCommData &other) = defa
 
 bool CDeviceCommData::operator==(const CDeviceCommData &other) const
 {
-    return d == other.d
-        || CDeviceCommSharedData::identity(*d) == CDeviceCommSharedData::identity(*other.d);
+    return FieldList::equalIdentity(d, other.d);
 }
 
 bool CDeviceCommData::operator!=(const CDeviceCommData &other) const

@@ -182,8 +182,7 @@ void CParamFileElement::clear()
 
 bool CParamFileElement::operator==(const CParamFileElement &other) const
 {
-    return d == other.d
-        || CParamFileElementData::identity(*d) == CParamFileElementData::identity(*other.d);
+    return FieldList::equalIdentity(d, other.d);
 }
 
 bool CParamFileElement::operator!=(const CParamFileElement &other) const

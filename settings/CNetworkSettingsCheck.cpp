@@ -106,10 +106,7 @@ public:
         const QByteArray text = NetworkText::withoutByteOrderMark(content);
         QByteArray tagged;
         for (int from = 0; from < text.size();) {
-            int end = from;
-            while (end < text.size() && text.at(end) != '\n' && text.at(end) != '\r') {
-                ++end;
-            }
+            const int end = NetworkText::lineEnd(text, from);
             addLine(text.mid(from, end - from), tagged);
             from = end + (text.mid(end, 2) == "\r\n" ? 2 : 1);
         }

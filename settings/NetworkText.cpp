@@ -134,10 +134,7 @@ QByteArray prepared(const QByteArray &content)
     QByteArray result;
     result.reserve(content.size());
     for (int from = 0; from < content.size();) {
-        int end = from;
-        while (end < content.size() && content.at(end) != '\n' && content.at(end) != '\r') {
-            ++end;
-        }
+        const int end = lineEnd(content, from);
         appendPrepared(content.mid(from, end - from), result);
         result += content.mid(end, 1);
         from = end + 1;
@@ -269,6 +266,15 @@ QByteArray withoutByteOrderMark(const QByteArray &content)
 {
     const QByteArray mark("\xEF\xBB\xBF");
     return content.startsWith(mark) ? content.mid(mark.size()) : content;
+}
+
+int lineEnd(const QByteArray &content, int from)
+{
+    int end = from;
+    while (end < content.size() && content.at(end) != '\n' && content.at(end) != '\r') {
+        ++end;
+    }
+    return end;
 }
 
 bool readValues(const QByteArray &content, QHash<QString, QString> &values)

@@ -44,6 +44,9 @@ QStringList keyNames();
 const SKey *findKey(const QString &name);
 
 QByteArray withoutByteOrderMark(const QByteArray &content);
+/** Where the line that begins at @p from ends, at a carriage return, a line feed or the last byte.
+ */
+int lineEnd(const QByteArray &content, int from);
 
 /** The values of those keys() that stand in the INI text @p content; false when memory is short. */
 bool readValues(const QByteArray &content, QHash<QString, QString> &values);
