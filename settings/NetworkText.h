@@ -44,8 +44,7 @@ QStringList keyNames();
 const SKey *findKey(const QString &name);
 
 QByteArray withoutByteOrderMark(const QByteArray &content);
-/** Where the line that begins at @p from ends, at a carriage return, a line feed or the last byte.
- */
+/** Where the line at @p from ends: at its carriage return or line feed, or with the content. */
 int lineEnd(const QByteArray &content, int from);
 
 /** The values of those keys() that stand in the INI text @p content; false when memory is short. */

@@ -1,11 +1,13 @@
 #include "tools/NetworkFindings.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 bool readFindings(const QString &path, QList<CNetworkSettingsCheck::SFinding> &findings)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // As the library: a pipe might never come to an end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
     const QByteArray content = file.readAll();
