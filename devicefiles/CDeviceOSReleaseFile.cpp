@@ -29,6 +29,7 @@ public:
 
     CDeviceOSReleaseFile *const q;
     ICLogfile *logfile;
+    QString errorText;
     CHashMap<QString, QString> map;
 };
 
@@ -101,7 +102,8 @@ EFileResult CDeviceOSReleaseFile::open(const QString &fileName)
 {
     d->map.clear();
     QByteArray content;
-    if (!FileStorage::read(fileName, content)) {
+    d->errorText = FileStorage::read(fileName, content).reason;
+    if (!d->errorText.isEmpty()) {
         return FILE_RESULT_READ_FAILURE;
     }
     return openFromBuffer(content);
@@ -118,8 +120,13 @@ EFileResult CDeviceOSReleaseFile::save(const QString &fileName)
 {
     QByteArray content;
     saveToBuffer(content);
-    return FileStorage::replace(fileName, content) ? FILE_RESULT_SUCCESS
-                                                   : FILE_RESULT_WRITE_FAILURE;
+    d->errorText = FileStorage::replace(fileName, content).reason;
+    return d->errorText.isEmpty() ? FILE_RESULT_SUCCESS : FILE_RESULT_WRITE_FAILURE;
+}
+
+QString CDeviceOSReleaseFile::errorText() const
+{
+    return d->errorText;
 }
 
 EFileResult CDeviceOSReleaseFile::saveToBuffer(QByteArray &buffer)

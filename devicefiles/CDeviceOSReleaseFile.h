@@ -56,12 +56,19 @@ public:
      * changed in place; keep the original.
      *
      * @return FILE_RESULT_SUCCESS; or FILE_RESULT_WRITE_FAILURE, and the old file is still there,
-     *         whole. Where the file can be written but its directory cannot, it is written in
-     *         place, and a power cut half-way may damage it.
+     *         whole, or in the one case that the errorText() tells, the new one. Where the file can
+     * be written but its directory cannot, it is written in place, and a power cut half-way may
+     * damage it.
      */
     NvrnGlobal::EFileResult save(const QString &fileName);
     /** As above, in place of what @p buffer held. @return FILE_RESULT_SUCCESS */
     NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer);
+
+    /**
+     * Why the last open() or save() of a file failed, as the operating system tells it, for example
+     * "No space left on device"; empty when it did not.
+     */
+    QString errorText() const;
 
     /** Whether there are no keys. */
     bool isNull() const;

@@ -4,6 +4,8 @@
 #include "storage/FileStorage.h"
 #include "vocabulary/NvrFileNames.h"
 
+#include <cerrno>
+
 using namespace NvrnGlobal;
 
 CNetworkSettingsFile::CNetworkSettingsFile() = default;
@@ -54,7 +56,11 @@ EFileResult CNetworkSettingsFile::open(const QString &fileName)
 {
     QByteArray content;
     QHash<QString, QString> values;
-    if (!FileStorage::read(fileName, content) || !NetworkText::readValues(content, values)) {
+    m_errorText = FileStorage::read(fileName, content).reason;
+    if (m_errorText.isEmpty() && !NetworkText::readValues(content, values)) {
+        m_errorText = qt_error_string(ENOMEM);
+    }
+    if (!m_errorText.isEmpty()) {
         return FILE_RESULT_FAILURE;
     }
     for (const NetworkText::SKey &key : NetworkText::keys()) {
@@ -68,21 +74,24 @@ EFileResult CNetworkSettingsFile::save(const QString &fileName)
 {
     QByteArray content;
     saveToBuffer(content);
-    switch (FileStorage::replace(fileName, content).outcome) {
-    case FileStorage::DONE:
-        m_fileName = fileName;
-        return FILE_RESULT_SUCCESS;
-    case FileStorage::NOT_OPENED:
-        return FILE_RESULT_FAILURE;
-    case FileStorage::NOT_FINISHED:
-        break;
+    const FileStorage::SResult saved = FileStorage::replace(fileName, content);
+    m_errorText = saved.reason;
+    if (!saved) {
+        return saved.outcome == FileStorage::NOT_OPENED ? FILE_RESULT_FAILURE
+                                                        : FILE_RESULT_WRITE_FAILURE;
     }
-    return FILE_RESULT_WRITE_FAILURE;
+    m_fileName = fileName;
+    return FILE_RESULT_SUCCESS;
 }
 
 EFileResult CNetworkSettingsFile::save()
 {
     return save(m_fileName);
+}
+
+QString CNetworkSettingsFile::errorText() const
+{
+    return m_errorText;
 }
 
 // Programs are compiled against the signature without "const".

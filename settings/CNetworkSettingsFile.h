@@ -57,9 +57,11 @@ public:
     NvrnGlobal::EFileResult open(const QString &fileName);
 
     /**
-     * Replaces the file @p fileName by the held settings and remembers its name. On failure the old
-     * file is still there, whole, and the name is not remembered. Where the file can be written but
-     * its directory cannot, it is written in place, and a power cut half-way may damage it.
+     * Replaces the file @p fileName by the held settings and remembers its name; a file that holds
+     * them already is not written. On failure the old file is still there, whole, or in the one
+     * case that the errorText() tells, the new one; the name is not remembered. Where the file can
+     * be written but its directory cannot, it is written in place, and a power cut half-way may
+     * damage it.
      *
      * @return FILE_RESULT_SUCCESS; FILE_RESULT_FAILURE when the file cannot be opened for writing;
      *         FILE_RESULT_WRITE_FAILURE when writing fails on the way, as on a full disk
@@ -67,6 +69,12 @@ public:
     NvrnGlobal::EFileResult save(const QString &fileName);
     /** As above, with the name of the file last opened or saved; FILE_RESULT_FAILURE without. */
     NvrnGlobal::EFileResult save();
+    /**
+     * Why the last open() or save() failed, as the operating system tells it, for example
+     * "No space left on device"; empty when it did not.
+     */
+    QString errorText() const;
+
     /** Puts the text of the file in place of what @p buffer held. @return FILE_RESULT_SUCCESS */
     NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer);
     /** Writes the text of the file; failures are told by the status of @p stream. */
@@ -75,4 +83,5 @@ public:
 private:
     QString m_fileName;
     CNetworkSettings m_settings;
+    QString m_errorText;
 };

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <limits>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -17,6 +18,7 @@ namespace {
 
 const int MaxLinks = 40;
 const int MaxNameTries = 100;
+const qint64 AnySize = std::numeric_limits<int>::max() / 2; // that a QByteArray can hold
 
 class Texts
 {
@@ -200,17 +202,21 @@ private:
     Descriptor m_file;
 };
 
-/**
- * The name itself has to get onto the disk, too. A failure is none of replacing: after it, a power
- * cut may still bring the old file back, and that is whole.
- */
-void syncDirectory(const QByteArray &directory)
+int syncDirectory(const QByteArray &directory)
 {
     const Descriptor entries(open(directory.isEmpty() ? "." : directory.constData(),
                                   O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (entries.isOpen()) {
-        sync(entries.get());
+    if (!entries.isOpen()) {
+        return errno == EACCES || errno == EPERM ? 0 : -1;
     }
+    return sync(entries.get());
+}
+
+SResult notConfirmed(int error)
+{
+    return {NOT_CONFIRMED,
+            Texts::tr("%1; the new content is in place, but a power cut may undo it")
+                .arg(qt_error_string(error))};
 }
 
 int rewrite(int fd, const QByteArray &content)
@@ -231,7 +237,7 @@ SResult overwrite(const QString &path, const QByteArray &name, const QByteArray 
                   QFileDevice::Permissions permissions)
 {
     QByteArray before;
-    const SResult known = read(path, before);
+    const SResult known = read(path, before, AnySize);
     if (!known) {
         return {NOT_OPENED, known.reason};
     }
@@ -257,6 +263,21 @@ SResult overwrite(const QString &path, const QByteArray &name, const QByteArray 
     return failure(NOT_FINISHED, error);
 }
 
+/** False also when the file may not be read. */
+bool holds(const QString &path, const struct stat &status, const QByteArray &content)
+{
+    QByteArray present;
+    return status.st_size == content.size() && read(path, present, AnySize) && present == content;
+}
+
+/** Gives a file that has its content already the rest of what replace() promises. */
+SResult confirm(int fd, const struct stat &status, QFileDevice::Permissions permissions)
+{
+    const bool hasMode = !permissions || (status.st_mode & ALLPERMS) == toMode(permissions)
+        || fchmod(fd, toMode(permissions)) == 0;
+    return hasMode && sync(fd) == 0 ? SResult() : notConfirmed(errno);
+}
+
 SResult writeTo(Descriptor &device, const QByteArray &content)
 {
     // It was opened without waiting; from here on it may take its time.
@@ -267,7 +288,12 @@ SResult writeTo(Descriptor &device, const QByteArray &content)
 
 } // namespace
 
-SResult read(const QString &path, QByteArray &content)
+QString tooLarge(qint64 maximumSize)
+{
+    return Texts::tr("It is larger than %1 bytes.").arg(maximumSize);
+}
+
+SResult read(const QString &path, QByteArray &content, qint64 maximumSize)
 {
     content.clear();
     const QByteArray name = systemName(path);
@@ -281,6 +307,9 @@ SResult read(const QString &path, QByteArray &content)
     }
     if (!S_ISREG(status.st_mode)) {
         return notRegular();
+    }
+    if (status.st_size > maximumSize) {
+        return {NOT_OPENED, tooLarge(maximumSize)};
     }
     QFile file;
     if (!file.open(opened.release(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
@@ -313,6 +342,9 @@ SResult replace(const QString &path, const QByteArray &content,
     if (!isNew && !S_ISREG(status.st_mode)) {
         return notRegular();
     }
+    if (!isNew && holds(path, status, content)) {
+        return confirm(old.get(), status, permissions);
+    }
 
     TemporaryFile file(directoryOf(name));
     if (!file.isOpen()) {
@@ -336,8 +368,7 @@ SResult replace(const QString &path, const QByteArray &content,
     if (!replaced) {
         return failure(NOT_FINISHED, errno);
     }
-    syncDirectory(directoryOf(name));
-    return SResult();
+    return syncDirectory(directoryOf(name)) == 0 ? SResult() : notConfirmed(errno);
 }
 
 } // namespace FileStorage

@@ -17,8 +17,10 @@ enum EOutcome {
     DONE,
     /** The file cannot be opened for reading or writing; nothing was touched. */
     NOT_OPENED,
-    /** Reading or writing failed on the way; what was there before is still there. */
-    NOT_FINISHED
+    /** Reading or writing failed on the way; what was there before is still there, whole. */
+    NOT_FINISHED,
+    /** The new content is there, whole, but the disk does not confirm that it will stay. */
+    NOT_CONFIRMED
 };
 
 struct SResult {
@@ -29,11 +31,18 @@ struct SResult {
     explicit operator bool() const { return outcome == DONE; }
 };
 
+/** Bytes; a thousand times what the small files of a device have. */
+const qint64 SmallFile = 16 * 1024 * 1024;
+
 /**
  * Reads the file @p path; @p content is empty on failure. Only a regular file is read: a directory
- * has no content, and a pipe or device might never come to an end.
+ * has no content, and a pipe or device might never come to an end. One that is larger than
+ * @p maximumSize bytes is not opened.
  */
-SResult read(const QString &path, QByteArray &content);
+SResult read(const QString &path, QByteArray &content, qint64 maximumSize = SmallFile);
+
+/** Why content of more than @p maximumSize bytes is refused, for the user. */
+QString tooLarge(qint64 maximumSize);
 
 /**
  * Makes @p content the content of the file @p path.
@@ -42,6 +51,10 @@ SResult read(const QString &path, QByteArray &content);
  * whatever fails on the way, power included, leaves the old file whole. Where the directory cannot
  * be written but the file can, the file is written in place: space is reserved before the first
  * byte is changed, and a failure puts the old content back, but a power cut may leave a mixture.
+ * A file that has this content already is not written, and keeps its time of modification.
+ *
+ * In the end the directory is synced, so that the file's name outlives a power cut, too; a failure
+ * of that alone is told as NOT_CONFIRMED. A directory that may not be read cannot be synced.
  *
  * A symbolic link stays one, and its target is replaced; other hard links keep the old content. A
  * character device is written to, not replaced; directories, pipes and disks are refused. A file

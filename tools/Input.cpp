@@ -3,10 +3,6 @@
 #include "tools/Command.h"
 #include "tools/Output.h"
 
-#include <QFileInfo>
-
-#include <cerrno>
-
 bool readDevice(const QString &path, CDeviceConfigurationFile10 &file, CDeviceElement &device)
 {
     if (!file.open(path)) {
@@ -19,23 +15,14 @@ bool readDevice(const QString &path, CDeviceConfigurationFile10 &file, CDeviceEl
     return true;
 }
 
-int reportUnreadable(const QString &path)
+int reportUnreadable(const QString &path, const QString &reason)
 {
-    const QFileInfo file(path);
-    QString reason = QStringLiteral("This is no regular file, or it cannot be read.");
-    if (!file.exists()) {
-        reason = qt_error_string(ENOENT);
-    } else if (file.isDir()) {
-        reason = qt_error_string(EISDIR);
-    } else if (!file.isReadable()) {
-        reason = qt_error_string(EACCES);
-    }
     printError(QStringLiteral("%1: %2").arg(path, reason));
     return EXIT_UNREADABLE_INPUT;
 }
 
-int reportNotSaved(const QString &path)
+int reportNotSaved(const QString &path, const QString &reason)
 {
-    printError(QStringLiteral("%1: The file could not be saved; it is as it was.").arg(path));
+    printError(QStringLiteral("%1: The file could not be saved: %2").arg(path, reason));
     return EXIT_NOT_DONE;
 }

@@ -11,6 +11,6 @@
 bool readDevice(const QString &path, CDeviceConfigurationFile10 &file, CDeviceElement &device);
 
 /** Prints that the file @p path cannot be read, and why. @return EXIT_UNREADABLE_INPUT */
-int reportUnreadable(const QString &path);
-/** Prints that the file @p path could not be saved. @return EXIT_NOT_DONE */
-int reportNotSaved(const QString &path);
+int reportUnreadable(const QString &path, const QString &reason);
+/** Prints why the file @p path could not be saved. @return EXIT_NOT_DONE */
+int reportNotSaved(const QString &path, const QString &reason);

@@ -1,20 +1,16 @@
 #include "tools/NetworkFindings.h"
 
 #include <QFile>
-#include <QFileInfo>
 
-bool readFindings(const QString &path, QList<CNetworkSettingsCheck::SFinding> &findings)
+bool readFindings(const QString &path, CNetworkSettingsFile &settings,
+                  QList<CNetworkSettingsCheck::SFinding> &findings)
 {
+    // First as settings: that refuses what has no end or no measure, and tells why.
     QFile file(path);
-    // As the library: a pipe might never come to an end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (settings.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
-    const QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        return false;
-    }
-    findings = CNetworkSettingsCheck::check(content);
+    findings = CNetworkSettingsCheck::check(file.readAll());
     return true;
 }
 

@@ -17,8 +17,9 @@ int run(const SCommand &command, const QStringList &arguments)
     }
     const QString path = line.argument(0);
     QList<CNetworkSettingsCheck::SFinding> findings;
-    if (!readFindings(path, findings)) {
-        return reportUnreadable(path);
+    CNetworkSettingsFile file;
+    if (!readFindings(path, file, findings)) {
+        return reportUnreadable(path, file.errorText());
     }
     Output out;
     if (line.wantsJson()) {

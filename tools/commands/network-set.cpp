@@ -84,8 +84,8 @@ int run(const SCommand &command, const QStringList &arguments)
     CNetworkSettingsFile file;
     if (!line.isSet(CreateOption) || QFileInfo::exists(path)) {
         QList<Check::SFinding> findings;
-        if (!readFindings(path, findings) || file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-            return reportUnreadable(path);
+        if (!readFindings(path, file, findings)) {
+            return reportUnreadable(path, file.errorText());
         }
         if (reportLosses(path, findings)) {
             return EXIT_NOT_DONE;
@@ -96,7 +96,7 @@ int run(const SCommand &command, const QStringList &arguments)
                       assignment.section(QLatin1Char('='), 1));
     }
     if (file.save(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return reportNotSaved(path);
+        return reportNotSaved(path, file.errorText());
     }
     warnOfRest(path, file);
     return printContent(file, line.wantsJson());

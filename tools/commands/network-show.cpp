@@ -15,7 +15,7 @@ int run(const SCommand &command, const QStringList &arguments)
     const QString path = line.argument(0);
     CNetworkSettingsFile file;
     if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return reportUnreadable(path);
+        return reportUnreadable(path, file.errorText());
     }
     return printContent(file, line.wantsJson());
 }

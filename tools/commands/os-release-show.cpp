@@ -37,7 +37,7 @@ int run(const SCommand &command, const QStringList &arguments)
     const QString path = line.argument(0);
     CDeviceOSReleaseFile file;
     if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return reportUnreadable(path);
+        return reportUnreadable(path, file.errorText());
     }
     QJsonObject object = {{QStringLiteral("valid"), file.isValid()}};
     QList<QStringList> rows;

@@ -67,7 +67,7 @@ int run(const SCommand &command, const QStringList &arguments)
     }
     file.setDeviceSettings(settings);
     if (file.save(path, settingsVersion()) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return reportNotSaved(path);
+        return EXIT_NOT_DONE; // the library has told why
     }
     return printContent(settings, line.wantsJson());
 }
