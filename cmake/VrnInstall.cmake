@@ -52,6 +52,8 @@ set(VRN_PUBLIC_HEADERS
     imported/CXmlAbstractVornFile.h
     imported/ICLogfile.h
     imported/ICXmlSettings.h
+    imported/SXmlLimits.h
+    imported/SXmlPosition.h
     imported/VrnImportedExport.h
 )
 

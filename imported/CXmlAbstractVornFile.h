@@ -1,6 +1,8 @@
 #pragma once
 
 #include "imported/CXMLMetaData.h"
+#include "imported/SXmlLimits.h"
+#include "imported/SXmlPosition.h"
 #include "imported/VrnImportedExport.h"
 
 #include <QByteArray>
@@ -19,7 +21,13 @@ class ICLogfile;
  *
  * The type of a document is the name of its root element; the root's attribute "version" carries
  * the version, its child "Head" the meta data. Reading keeps unknown elements, attributes,
- * comments and processing instructions; saving writes UTF-8, the same bytes for the same document.
+ * comments, CDATA sections and processing instructions, and all text except blanks that only indent
+ * child elements. Read are UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252. Refused are what
+ * is not well-formed, whatever declares or needs entities of its own, and what exceeds limits().
+ *
+ * Saving writes UTF-8, the same bytes for the same document in every process: one element a line,
+ * indented by one blank a level, attributes in the order of their names (by UTF-16 units). A text
+ * that XML cannot carry, like a control character, makes it fail and is named by element and code.
  *
  * Failures of open() and save() are told by their result and an error text, and are posted as
  * critical messages to the message board together with the log.
@@ -94,6 +102,24 @@ public:
 
     /** The log given at construction; may be null. */
     ICLogfile *logfile() const;
+
+    /**
+     * What a document may ask for, from the next opening or saving on; the defaults are those of
+     * SXmlLimits. Saving refuses what opening would refuse.
+     */
+    SXmlLimits limits() const;
+    void setLimits(const SXmlLimits &limits);
+
+    /**
+     * Whether the next opening remembers where the elements stand in the file; off by default, for
+     * it costs time and memory.
+     */
+    void keepPositions(bool keep);
+    /**
+     * Where the start tag of @p element stood when the document was opened, however much has been
+     * changed since; unknown for a new element and when positions were not kept.
+     */
+    SXmlPosition position(const QDomElement &element) const;
 
     /** A handle on the document in hand; null when there is none. */
     QDomDocument domDocument() const;

@@ -21,7 +21,11 @@ QDomElement CDomDoc::child(const QString &tag, QDomElement parent)
 QString CDomDoc::text(const QDomElement &element)
 {
     QString result;
-    for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
+    const QDomNode only = element.firstChild();
+    if (only.isText() && only.nextSibling().isNull()) {
+        return only.nodeValue();
+    }
+    for (QDomNode node = only; !node.isNull(); node = node.nextSibling()) {
         if (node.isText() || node.isCDATASection()) {
             result += node.nodeValue();
         }

@@ -3,8 +3,11 @@
 #include "imported/xml/XmlText.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QMap>
-#include <QSet>
+
+#include <limits>
+#include <string>
 
 namespace {
 
@@ -13,28 +16,41 @@ class Output
     Q_DECLARE_TR_FUNCTIONS(CXmlAbstractVornFile)
 
 public:
-    explicit Output(const QString &rootName) : m_rootName(rootName) { }
+    Output(const QString &rootName, const SXmlLimits &limits)
+        : m_rootName(rootName), m_limits(limits)
+    {
+    }
 
     bool write(const QDomDocument &document)
     {
-        m_text = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+        m_bytes = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
         writeDocumentType(document.doctype());
         for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling()) {
             if (node.isElement()) {
-                writeElement(node.toElement(), m_rootName, 0);
-                m_text += QLatin1Char('\n');
+                writeElement(node.toElement(), nameOf(m_rootName), 1);
+                m_bytes += '\n';
             } else if (node.isComment() || isInstruction(node)) {
                 writeOther(node);
-                m_text += QLatin1Char('\n');
+                m_bytes += '\n';
             }
+        }
+        const qint64 maximumSize = qMin<qint64>(m_limits.fileSize, MaximumSize);
+        if (m_bytes.size() > static_cast<size_t>(qMax<qint64>(0, maximumSize))) {
+            fail(tr("The file would be larger than %1 bytes.").arg(maximumSize));
         }
         return m_reason.isEmpty();
     }
 
-    QByteArray bytes() const { return m_text.toUtf8(); }
+    QByteArray bytes() const
+    {
+        return QByteArray(m_bytes.data(), static_cast<int>(m_bytes.size()));
+    }
+
     QString reason() const { return m_reason; }
 
 private:
+    enum class Context { Text, Attribute };
+
     static bool isInstruction(const QDomNode &node)
     {
         // The XML declaration is a processing instruction in a QDomDocument; it is written anew.
@@ -48,195 +64,258 @@ private:
         }
     }
 
+    void append(const QByteArray &bytes)
+    {
+        m_bytes.append(bytes.constData(), static_cast<size_t>(bytes.size()));
+    }
+
     void writeDocumentType(const QDomDocumentType &type)
     {
         if (type.isNull() || type.name().isEmpty()) {
             return;
         }
-        m_text += QLatin1String("<!DOCTYPE ") + m_rootName;
+        m_bytes += "<!DOCTYPE ";
+        append(nameOf(m_rootName));
         if (!type.publicId().isEmpty()) {
-            m_text += QLatin1String(" PUBLIC ") + quoted(type.publicId()) + QLatin1Char(' ')
-                + quoted(type.systemId());
+            m_bytes += " PUBLIC ";
+            append(quoted(type.publicId()));
+            m_bytes += ' ';
+            append(quoted(type.systemId()));
         } else if (!type.systemId().isEmpty()) {
-            m_text += QLatin1String(" SYSTEM ") + quoted(type.systemId());
+            m_bytes += " SYSTEM ";
+            append(quoted(type.systemId()));
         }
-        m_text += QLatin1String(">\n");
+        m_bytes += ">\n";
     }
 
     /** In a document type nothing can be escaped; a text holds at most one kind of quotes. */
-    static QString quoted(const QString &text)
+    static QByteArray quoted(const QString &text)
     {
-        const QChar quote = QLatin1Char(text.contains(QLatin1Char('"')) ? '\'' : '"');
-        return quote + text + quote;
+        const char quote = text.contains(QLatin1Char('"')) ? '\'' : '"';
+        return quote + text.toUtf8() + quote;
     }
 
-    void writeElement(const QDomElement &element, const QString &name, int depth)
+    void writeElement(const QDomElement &element, const QByteArray &name, int depth)
     {
-        checkName(name);
-        m_text += QLatin1Char('<') + name;
-        writeAttributes(element);
-        if (!element.hasChildNodes()) {
-            m_text += QLatin1String("/>");
+        if (depth > m_limits.depth) {
+            fail(tr("Elements are nested more than %1 deep.").arg(m_limits.depth));
             return;
         }
-        m_text += QLatin1Char('>');
-        const bool indented = !XmlText::holdsText(element);
-        for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            if (indented && node.isText()) {
-                continue;
-            }
-            if (indented) {
-                startLine(depth + 1);
-            }
-            if (node.isElement()) {
-                writeElement(node.toElement(), node.nodeName(), depth + 1);
-            } else if (node.isCDATASection()) {
-                writeChecked(node.nodeValue(), element, Context::CData);
-            } else if (node.isText()) {
-                writeChecked(node.nodeValue(), element, Context::Text);
-            } else {
-                writeOther(node);
-            }
+        m_bytes += '<';
+        append(name);
+        if (element.hasAttributes()) {
+            writeAttributes(element);
         }
-        if (indented) {
-            startLine(depth);
+        const QDomNode first = element.firstChild();
+        if (first.isNull()) {
+            m_bytes += "/>";
+            return;
         }
-        m_text += QLatin1String("</") + name + QLatin1Char('>');
+        m_bytes += '>';
+        const bool isLeaf = first.isText() && first.nextSibling().isNull();
+        if (isLeaf || XmlText::holdsText(element)) {
+            for (QDomNode node = first; !node.isNull(); node = node.nextSibling()) {
+                writeNode(node, element, depth);
+            }
+        } else {
+            writeIndented(first, element, depth);
+        }
+        m_bytes += "</";
+        append(name);
+        m_bytes += '>';
     }
 
-    void startLine(int depth)
+    void writeIndented(const QDomNode &first, const QDomElement &parent, int depth)
     {
-        m_text += QLatin1Char('\n');
-        m_text += QString(depth, QLatin1Char(' '));
+        for (QDomNode node = first; !node.isNull(); node = node.nextSibling()) {
+            if (!node.isText()) {
+                startLine(depth);
+                writeNode(node, parent, depth);
+            }
+        }
+        startLine(depth - 1);
+    }
+
+    void startLine(int indentation)
+    {
+        m_bytes += '\n';
+        m_bytes.append(static_cast<size_t>(indentation), ' ');
+    }
+
+    void writeNode(const QDomNode &node, const QDomElement &parent, int depth)
+    {
+        switch (node.nodeType()) {
+        case QDomNode::ElementNode:
+            writeElement(node.toElement(), nameOf(node.nodeName()), depth + 1);
+            break;
+        case QDomNode::TextNode:
+            writeEscaped(node.nodeValue(), parent, Context::Text);
+            break;
+        case QDomNode::CDATASectionNode:
+            writeSection(node.nodeValue(), parent);
+            break;
+        default:
+            writeOther(node);
+        }
     }
 
     void writeAttributes(const QDomElement &element)
     {
         const QDomNamedNodeMap attributes = element.attributes();
+        if (attributes.count() > m_limits.attributes) {
+            fail(tr("The element '%1' has more than %2 attributes.")
+                     .arg(element.tagName(), QString::number(m_limits.attributes)));
+            return;
+        }
         QMap<QString, QString> sorted;
         for (int i = 0; i < attributes.count(); ++i) {
             const QDomNode attribute = attributes.item(i);
             sorted.insert(attribute.nodeName(), attribute.nodeValue());
         }
         for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
-            checkName(it.key());
-            m_text += QLatin1Char(' ') + it.key() + QLatin1String("=\"");
-            writeChecked(it.value(), element, Context::Attribute);
-            m_text += QLatin1Char('"');
+            m_bytes += ' ';
+            append(nameOf(it.key()));
+            m_bytes += "=\"";
+            writeEscaped(it.value(), element, Context::Attribute);
+            m_bytes += '"';
         }
+    }
+
+    /** A section cannot hold its own end mark: it is split in two there. */
+    void writeSection(QString value, const QDomElement &parent)
+    {
+        checkCharacters(value, parent);
+        value.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
+        m_bytes += "<![CDATA[";
+        append(value.toUtf8());
+        m_bytes += "]]>";
     }
 
     void writeOther(const QDomNode &node)
     {
         const QString value = node.nodeValue();
+        checkCharacters(value, node.parentNode());
         if (node.isComment()) {
             if (value.contains(QLatin1String("--")) || value.endsWith(QLatin1Char('-'))) {
                 fail(tr("A comment holds '--' or ends in '-', which XML cannot carry."));
             }
-            m_text += QLatin1String("<!--") + value + QLatin1String("-->");
+            m_bytes += "<!--";
+            append(value.toUtf8());
+            m_bytes += "-->";
         } else if (node.isProcessingInstruction()) {
             if (value.contains(QLatin1String("?>"))) {
                 fail(tr("A processing instruction holds '?>', which XML cannot carry."));
             }
-            m_text += QLatin1String("<?") + node.nodeName();
+            m_bytes += "<?";
+            append(nameOf(node.nodeName()));
             if (!value.isEmpty()) {
-                m_text += QLatin1Char(' ') + value;
+                m_bytes += ' ';
+                append(value.toUtf8());
             }
-            m_text += QLatin1String("?>");
-        }
-        checkCharacters(value, node.parentNode().nodeName());
-    }
-
-    enum class Context { Text, Attribute, CData };
-
-    void writeChecked(const QString &value, const QDomElement &element, Context context)
-    {
-        checkCharacters(value, element.nodeName());
-        if (context == Context::CData) {
-            // A section cannot hold its own end mark: it is split in two there.
-            m_text += QLatin1String("<![CDATA[")
-                + QString(value).replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"))
-                + QLatin1String("]]>");
-            return;
-        }
-        for (const QChar c : value) {
-            writeEscaped(c, context);
+            m_bytes += "?>";
         }
     }
 
-    void writeEscaped(QChar c, Context context)
+    void writeEscaped(const QString &value, const QDomElement &element, Context context)
     {
-        switch (c.unicode()) {
+        const QChar *const end = value.cend();
+        const QChar *run = value.cbegin();
+        for (const QChar *c = run; c != end; ++c) {
+            const ushort unit = c->unicode();
+            const bool isPlain = unit > '>'
+                ? unit < 0x80
+                : unit >= ' ' && unit != '"' && unit != '&' && unit != '<' && unit != '>';
+            if (isPlain) {
+                m_bytes += static_cast<char>(unit);
+                continue;
+            }
+            if (unit < 0x80) {
+                writeMarkup(unit, context);
+                if (unit < ' ' && unit != '\t' && unit != '\n' && unit != '\r') {
+                    checkCharacters(value, element);
+                }
+                continue;
+            }
+            // The rest of the text at once, up to where ASCII begins again.
+            run = c;
+            while (c + 1 != end && (c + 1)->unicode() >= 0x80) {
+                ++c;
+            }
+            const QString part(run, static_cast<int>(c + 1 - run));
+            checkCharacters(part, element);
+            append(part.toUtf8());
+        }
+    }
+
+    /** A character that means something in XML, or would be changed by a reader as it stands. */
+    void writeMarkup(ushort unit, Context context)
+    {
+        switch (unit) {
         case '&':
-            m_text += QLatin1String("&amp;");
+            m_bytes += "&amp;";
             break;
         case '<':
-            m_text += QLatin1String("&lt;");
+            m_bytes += "&lt;";
             break;
         case '>':
-            m_text += QLatin1String("&gt;");
+            m_bytes += "&gt;";
             break;
         case '\r':
-            // As it stands a reader would turn it into a line feed.
-            m_text += QLatin1String("&#13;");
+            m_bytes += "&#13;";
             break;
         case '"':
         case '\t':
         case '\n':
             if (context == Context::Attribute) {
-                m_text += QStringLiteral("&#%1;").arg(c.unicode());
+                m_bytes += "&#" + std::to_string(unit) + ';';
                 break;
             }
             Q_FALLTHROUGH();
         default:
-            m_text += c;
+            m_bytes += static_cast<char>(unit);
         }
     }
 
-    void checkName(const QString &name)
+    /** The name in UTF-8. Few names stand in a document; each is checked and converted once. */
+    QByteArray nameOf(const QString &name)
     {
-        if (m_checkedNames.contains(name)) {
-            return;
+        QByteArray &utf8 = m_names[name];
+        if (utf8.isEmpty()) {
+            utf8 = name.toUtf8();
+            if (name.size() > m_limits.nameLength) {
+                fail(tr("A name has more than %1 characters.").arg(m_limits.nameLength));
+            } else if (!XmlText::isName(name)) {
+                fail(tr("'%1' cannot be the name of an element or attribute.").arg(name));
+            }
         }
-        m_checkedNames.insert(name);
-        if (!XmlText::isName(name)) {
-            fail(tr("'%1' cannot be the name of an element or attribute.").arg(name));
+        return utf8;
+    }
+
+    void checkCharacters(const QString &value, const QDomNode &element)
+    {
+        const int illegal = XmlText::indexOfIllegal(value);
+        if (illegal >= 0) {
+            const QString code = QString::number(value.at(illegal).unicode(), 16).toUpper();
+            fail(tr("The element '%1' holds the character U+%2, which XML cannot carry.")
+                     .arg(element.nodeName(), code.rightJustified(4, QLatin1Char('0'))));
         }
     }
 
-    void checkCharacters(const QString &value, const QString &elementName)
-    {
-        for (int i = 0; i < value.size(); ++i) {
-            const QChar c = value.at(i);
-            const ushort unit = c.unicode();
-            if (c.isHighSurrogate() && i + 1 < value.size() && value.at(i + 1).isLowSurrogate()) {
-                ++i;
-                continue;
-            }
-            const bool allowedControl = unit == '\t' || unit == '\n' || unit == '\r';
-            if ((unit < 0x20 && !allowedControl) || c.isSurrogate() || unit >= 0xfffe) {
-                fail(tr("The element '%1' holds the character U+%2, which XML cannot carry.")
-                         .arg(elementName,
-                              QString::number(unit, 16).toUpper().rightJustified(
-                                  4, QLatin1Char('0'))));
-                return;
-            }
-        }
-    }
+    static constexpr qint64 MaximumSize = std::numeric_limits<int>::max() / 2;
 
     const QString m_rootName;
-    // A document has few names; asking about each only once keeps that cheap.
-    QSet<QString> m_checkedNames;
-    QString m_text;
+    const SXmlLimits m_limits;
+    QHash<QString, QByteArray> m_names;
+    std::string m_bytes;
     QString m_reason;
 };
 
 } // namespace
 
 bool CIndentingXmlWriter::write(const QDomDocument &document, const QString &rootName,
-                                QByteArray &bytes, QString &reason) const
+                                const SXmlLimits &limits, QByteArray &bytes, QString &reason) const
 {
-    Output output(rootName);
+    Output output(rootName, limits);
     if (!output.write(document)) {
         reason = output.reason();
         return false;

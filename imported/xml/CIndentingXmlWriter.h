@@ -10,6 +10,6 @@
 class CIndentingXmlWriter : public IXmlWriter
 {
 public:
-    bool write(const QDomDocument &document, const QString &rootName, QByteArray &bytes,
-               QString &reason) const override;
+    bool write(const QDomDocument &document, const QString &rootName, const SXmlLimits &limits,
+               QByteArray &bytes, QString &reason) const override;
 };

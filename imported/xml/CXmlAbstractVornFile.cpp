@@ -2,8 +2,8 @@
 
 #include "imported/CDomDoc.h"
 #include "imported/CMessageBoardHelper.h"
+#include "imported/xml/CExpatXmlReader.h"
 #include "imported/xml/CIndentingXmlWriter.h"
-#include "imported/xml/CStreamXmlReader.h"
 #include "imported/xml/XmlText.h"
 #include "storage/FileStorage.h"
 
@@ -37,17 +37,26 @@ public:
         return false;
     }
 
+    void drop()
+    {
+        document = QDomDocument();
+        positions.clear();
+    }
+
     bool load(const QByteArray &bytes, const QString &origin, const QString &documentType,
               const QString &requiredVersion, QString &errorText)
     {
+        if (bytes.size() > limits.fileSize) {
+            return fail(origin, FileStorage::tooLarge(limits.fileSize), errorText);
+        }
         QDomDocument loaded;
         SXmlError error;
-        if (!reader->read(bytes, loaded, error)) {
-            QString place = QStringLiteral("%1:%2").arg(error.line).arg(error.column);
-            if (!origin.isEmpty()) {
-                place.prepend(origin + QLatin1Char(':'));
-            }
-            return fail(place, error.reason, errorText);
+        if (!reader->read(bytes, limits, loaded, keepsPositions ? &positions : nullptr, error)) {
+            positions.clear();
+            const QString place = QStringLiteral("%1:%2").arg(
+                QString::number(error.position.line), QString::number(error.position.column));
+            return fail(origin.isEmpty() ? place : origin + QLatin1Char(':') + place, error.reason,
+                        errorText);
         }
         QDomElement root = loaded.documentElement();
         if (root.tagName() != documentType) {
@@ -80,14 +89,18 @@ public:
             return fail(origin, tr("'%1' cannot be a document type.").arg(rootName), errorText);
         }
         QString reason;
-        return writer->write(document, rootName, bytes, reason) || fail(origin, reason, errorText);
+        return writer->write(document, rootName, limits, bytes, reason)
+            || fail(origin, reason, errorText);
     }
 
     CXmlAbstractVornFile *const q;
     ICLogfile *const logfile;
     QDomDocument document;
     QFileDevice::Permissions permissions;
-    const std::unique_ptr<const IXmlReader> reader = std::make_unique<CStreamXmlReader>();
+    SXmlLimits limits;
+    bool keepsPositions = false;
+    CXmlPositions positions;
+    const std::unique_ptr<const IXmlReader> reader = std::make_unique<CExpatXmlReader>();
     const std::unique_ptr<const IXmlWriter> writer = std::make_unique<CIndentingXmlWriter>();
 };
 
@@ -101,10 +114,10 @@ CXmlAbstractVornFile::~CXmlAbstractVornFile() = default;
 bool CXmlAbstractVornFile::open(const QString &path, const QString &documentType,
                                 const QString &requiredVersion, QString &errorText)
 {
-    d->document = QDomDocument();
+    d->drop();
     const QString nativePath = QDir::toNativeSeparators(path);
     QByteArray bytes;
-    const FileStorage::SResult read = FileStorage::read(path, bytes);
+    const FileStorage::SResult read = FileStorage::read(path, bytes, d->limits.fileSize);
     if (!read) {
         return d->fail(nativePath, read.reason, errorText);
     }
@@ -114,7 +127,7 @@ bool CXmlAbstractVornFile::open(const QString &path, const QString &documentType
 bool CXmlAbstractVornFile::open(const QByteArray &buffer, const QString &documentType,
                                 const QString &requiredVersion, QString &errorText)
 {
-    d->document = QDomDocument();
+    d->drop();
     return d->load(buffer, QString(), documentType, requiredVersion, errorText);
 }
 
@@ -212,9 +225,30 @@ QDomDocument CXmlAbstractVornFile::domDocument() const
     return d->document.documentElement().isNull() ? QDomDocument() : d->document;
 }
 
+SXmlLimits CXmlAbstractVornFile::limits() const
+{
+    return d->limits;
+}
+
+void CXmlAbstractVornFile::setLimits(const SXmlLimits &limits)
+{
+    d->limits = limits;
+    d->limits.depth = qMin(limits.depth, SXmlLimits::MaximumDepth);
+}
+
+void CXmlAbstractVornFile::keepPositions(bool keep)
+{
+    d->keepsPositions = keep;
+}
+
+SXmlPosition CXmlAbstractVornFile::position(const QDomElement &element) const
+{
+    return d->positions.position(element);
+}
+
 bool CXmlAbstractVornFile::createNewDocument(const QString &documentType, const QString &version)
 {
-    d->document = QDomDocument();
+    d->drop();
     if (!XmlText::isName(documentType)) {
         return false;
     }

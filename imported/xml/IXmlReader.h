@@ -1,16 +1,19 @@
 #pragma once
 
+#include "imported/SXmlLimits.h"
+#include "imported/SXmlPosition.h"
+#include "imported/xml/CXmlPositions.h"
+
 #include <QByteArray>
 #include <QDomDocument>
 #include <QString>
 
 /**
- * Where and why a document was refused. Line and column count from 1; they are those of the
- * character that could not be taken, or of the last one when the document ends too early.
+ * Where and why a document was refused: the character that could not be taken, or the beginning of
+ * what asked for too much or was never closed. Without a position the document as a whole is meant.
  */
 struct SXmlError {
-    qint64 line = 0;
-    qint64 column = 0;
+    SXmlPosition position;
     QString reason;
 };
 
@@ -23,7 +26,9 @@ public:
     /**
      * Reads one complete document. Text of elements that hold no child elements is kept exactly;
      * blank text between elements is layout and is dropped.
+     * @param positions is told where each element stands; may be null, which is faster
      * @return false, with @p error filled and @p document empty, when the bytes are refused
      */
-    virtual bool read(const QByteArray &bytes, QDomDocument &document, SXmlError &error) const = 0;
+    virtual bool read(const QByteArray &bytes, const SXmlLimits &limits, QDomDocument &document,
+                      CXmlPositions *positions, SXmlError &error) const = 0;
 };

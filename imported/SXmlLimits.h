@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtGlobal>
+
+/**
+ * How much a document may ask for: one that asks for more is refused while it is read, so that a
+ * broken or hostile file costs neither the process nor the machine. The defaults leave room for
+ * documents a hundred times as large as those of the largest machines.
+ */
+struct SXmlLimits {
+    /** Bytes of the file or buffer. */
+    qint64 fileSize = 128 * 1024 * 1024;
+    /**
+     * Elements inside each other, the root included; MaximumDepth at most, whatever is set. The
+     * document tree is copied and destroyed recursively, and so needs stack for each level.
+     */
+    int depth = 256;
+    /** Attributes of one element. */
+    int attributes = 256;
+    /** UTF-16 units of the name of an element, attribute or processing instruction. */
+    int nameLength = 1024;
+
+    static constexpr int MaximumDepth = 1000;
+};

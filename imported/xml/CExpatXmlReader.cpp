@@ -1,0 +1,501 @@
+#include "imported/xml/CExpatXmlReader.h"
+
+#include "imported/xml/StringCache.h"
+#include "imported/xml/XmlText.h"
+
+#include <QCoreApplication>
+#include <QDomImplementation>
+
+#include <QtEndian>
+
+#include <expat.h>
+
+#include <algorithm>
+
+#include <memory>
+#include <new>
+#include <vector>
+
+namespace {
+
+using Parser = std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)>;
+
+/** What expat does not know itself: the upper half of windows-1252 below the part of ISO-8859-1. */
+const int Windows1252[] = {
+    0x20AC, -1,     0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, -1,     0x017D, -1,     -1,     0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, -1,     0x017E, 0x0178,
+};
+const int Windows1252First = 0x80;
+
+int fillEncoding(void *, const XML_Char *name, XML_Encoding *encoding)
+{
+    if (qstricmp(name, "windows-1252") != 0) {
+        return XML_STATUS_ERROR;
+    }
+    for (int i = 0; i < 256; ++i) {
+        encoding->map[i] = i;
+    }
+    std::copy(std::begin(Windows1252), std::end(Windows1252), encoding->map + Windows1252First);
+    encoding->data = nullptr;
+    encoding->convert = nullptr;
+    encoding->release = nullptr;
+    return XML_STATUS_OK;
+}
+
+enum class Utf16 { No, LittleEndian, BigEndian };
+
+Utf16 utf16Of(const QByteArray &bytes)
+{
+    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith(QByteArray("<\0", 2))) {
+        return Utf16::LittleEndian;
+    }
+    if (bytes.startsWith("\xFE\xFF") || bytes.startsWith(QByteArray("\0<", 2))) {
+        return Utf16::BigEndian;
+    }
+    return Utf16::No;
+}
+
+/** The text in UTF-8, up to the first unit that is none; @p complete tells whether that is all. */
+QByteArray fromUtf16(const QByteArray &bytes, Utf16 order, bool &complete)
+{
+    QString text(bytes.size() / 2, Qt::Uninitialized);
+    if (order == Utf16::BigEndian) {
+        qFromBigEndian<quint16>(bytes.constData(), text.size(), text.data());
+    } else {
+        qFromLittleEndian<quint16>(bytes.constData(), text.size(), text.data());
+    }
+    const int lone = XmlText::indexOfLoneSurrogate(text);
+    const int end = lone < 0 ? text.size() : lone;
+    complete = lone < 0 && bytes.size() % 2 == 0;
+    const int start = text.startsWith(QChar::ByteOrderMark) ? 1 : 0;
+    return text.midRef(start, end - start).toUtf8();
+}
+
+/** The place behind the last character of @p utf8. */
+SXmlPosition endOf(const QByteArray &utf8)
+{
+    SXmlPosition end = {1, 1};
+    for (int i = 0; i < utf8.size(); ++i) {
+        const char c = utf8.at(i);
+        const bool isLineFeed = c == '\n' && (i == 0 || utf8.at(i - 1) != '\r');
+        if (c == '\r' || isLineFeed) {
+            ++end.line;
+            end.column = 1;
+        } else if (c != '\n' && (static_cast<uchar>(c) & 0xC0U) != 0x80U) {
+            ++end.column;
+        }
+    }
+    return end;
+}
+
+/** Names the first entity in a start tag that XML does not define itself; empty if there is none.
+ */
+QByteArray undeclaredEntity(const QByteArray &tag)
+{
+    for (int at = tag.indexOf('&'); at >= 0; at = tag.indexOf('&', at + 1)) {
+        const QByteArray name = tag.mid(at + 1, tag.indexOf(';', at) - at - 1);
+        if (!name.startsWith('#') && name != "lt" && name != "gt" && name != "amp" && name != "quot"
+            && name != "apos") {
+            return name;
+        }
+    }
+    return QByteArray();
+}
+
+QString toText(const XML_Char *utf8)
+{
+    return XmlText::fromUtf8(utf8, static_cast<int>(qstrlen(utf8)));
+}
+
+/** An open element, and what is known of its text so far. */
+struct SOpenElement {
+    QDomElement element;
+    int children = 0;
+    bool hasChildElements = false;
+    /** It holds text that is not blank: from then on blanks are text, too. */
+    bool holdsText = false;
+    // Where its own blanks begin among all that wait.
+    size_t firstBlank = 0;
+    int firstBlankByte = 0;
+};
+
+/** Blank text of which is not known yet whether it is layout; it stands before the child `index`.
+ */
+struct SBlank {
+    int index;
+    int size;
+};
+
+class Builder
+{
+    Q_DECLARE_TR_FUNCTIONS(CXmlAbstractVornFile)
+
+public:
+    Builder(const SXmlLimits &limits, CXmlPositions *positions)
+        : m_limits(limits), m_positions(positions), m_parser(nullptr, &XML_ParserFree)
+    {
+        // What is reserved stays when a text is taken and the next one begins.
+        m_text.reserve(CommonText);
+        m_blankBytes.reserve(CommonText);
+    }
+
+    bool build(const QByteArray &bytes, QDomDocument &document, SXmlError &error)
+    {
+        document = QDomDocument();
+        const Utf16 order = utf16Of(bytes);
+        bool complete = true;
+        m_isUtf16 = order != Utf16::No;
+        m_bytes = m_isUtf16 ? fromUtf16(bytes, order, complete) : bytes;
+        if (!parse(complete)) {
+            if (!m_isRefused) {
+                refuse(errorText());
+            }
+            error = m_error;
+            return false;
+        }
+        if (!complete) {
+            error = {endOf(m_bytes), tr("This is no valid UTF-16 text.")};
+            return false;
+        }
+        document = m_document;
+        return true;
+    }
+
+private:
+    bool parse(bool isComplete)
+    {
+        m_parser.reset(XML_ParserCreate(m_isUtf16 ? "UTF-8" : nullptr));
+        if (m_parser == nullptr) {
+            throw std::bad_alloc();
+        }
+        XML_Parser parser = m_parser.get();
+        XML_SetUserData(parser, this);
+        XML_SetUnknownEncodingHandler(parser, fillEncoding, nullptr);
+        XML_SetXmlDeclHandler(parser, &on<&Builder::takeDeclaration>);
+        XML_SetStartDoctypeDeclHandler(parser, &on<&Builder::takeDocumentType>);
+        XML_SetElementHandler(parser, &on<&Builder::startElement>, &on<&Builder::endElement>);
+        XML_SetCharacterDataHandler(parser, &on<&Builder::takeText>);
+        XML_SetCdataSectionHandler(parser, &on<&Builder::startCData>, &on<&Builder::endCData>);
+        XML_SetCommentHandler(parser, &on<&Builder::takeComment>);
+        XML_SetProcessingInstructionHandler(parser, &on<&Builder::takeInstruction>);
+        XML_SetSkippedEntityHandler(parser, &on<&Builder::refuseEntity>);
+        const XML_Status status = XML_Parse(parser, m_bytes.constData(), m_bytes.size(),
+                                            isComplete ? XML_TRUE : XML_FALSE);
+        return status == XML_STATUS_OK && !m_isRefused;
+    }
+
+    /** Nothing may be thrown through expat, and nothing is to come after a refusal. */
+    template <auto Handler, typename... Arguments>
+    static void on(void *builder, Arguments... arguments)
+    {
+        auto *self = static_cast<Builder *>(builder);
+        if (self->m_isRefused) {
+            return;
+        }
+        try {
+            (self->*Handler)(arguments...);
+        } catch (const std::bad_alloc &) {
+            self->refuse(tr("There is not enough memory to read the document."));
+        }
+    }
+
+    void refuse(const QString &reason)
+    {
+        m_isRefused = true;
+        m_error.reason = reason;
+        m_error.position = currentPosition();
+        XML_StopParser(m_parser.get(), XML_FALSE);
+    }
+
+    SXmlPosition currentPosition() const
+    {
+        return {static_cast<qint64>(XML_GetCurrentLineNumber(m_parser.get())),
+                static_cast<qint64>(XML_GetCurrentColumnNumber(m_parser.get())) + 1};
+    }
+
+    QString currentName() const
+    {
+        return m_open.empty() ? QString() : m_open.back().element.tagName();
+    }
+
+    QString errorText() const
+    {
+        const XML_Error code = XML_GetErrorCode(m_parser.get());
+        switch (code) {
+        case XML_ERROR_NO_ELEMENTS:
+            return m_open.empty()
+                ? tr("The document holds no element.")
+                : tr("The document ends before the element '%1' is closed.").arg(currentName());
+        case XML_ERROR_INVALID_TOKEN:
+        case XML_ERROR_SYNTAX:
+            return tr("This character cannot stand here.");
+        case XML_ERROR_UNCLOSED_TOKEN:
+            return tr("What begins here is not closed before the document ends.");
+        case XML_ERROR_UNCLOSED_CDATA_SECTION:
+            return tr("The CDATA section is not closed.");
+        case XML_ERROR_PARTIAL_CHAR:
+            return tr("The document ends within a character.");
+        case XML_ERROR_TAG_MISMATCH:
+            return tr("The element '%1' must be closed first.").arg(currentName());
+        case XML_ERROR_DUPLICATE_ATTRIBUTE:
+            return tr("The element has two attributes of this name.");
+        case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
+            return tr("There is something behind the root element.");
+        case XML_ERROR_UNDEFINED_ENTITY:
+            return tr("The entity is not declared.");
+        case XML_ERROR_BAD_CHAR_REF:
+            return tr("The reference is to a character that XML cannot carry.");
+        case XML_ERROR_MISPLACED_XML_PI:
+            return tr("The XML declaration must stand at the very beginning.");
+        case XML_ERROR_UNKNOWN_ENCODING:
+            return tr("The encoding is not known.");
+        case XML_ERROR_INCORRECT_ENCODING:
+            return tr("The document is not in the encoding that it declares.");
+        case XML_ERROR_XML_DECL:
+            return tr("The XML declaration is not well-formed.");
+        case XML_ERROR_NO_MEMORY:
+            return tr("There is not enough memory to read the document.");
+        default:
+            return QString::fromUtf8(XML_ErrorString(code));
+        }
+    }
+
+    void takeDeclaration(const XML_Char *version, const XML_Char *encoding, int)
+    {
+        if (version != nullptr && qstrcmp(version, "1.0") != 0) {
+            refuse(tr("The XML version '%1' is not known.").arg(QString::fromUtf8(version)));
+        } else if (m_isUtf16 && encoding != nullptr && qstrnicmp(encoding, "utf-16", 6) != 0) {
+            refuse(tr("The document is not in the encoding that it declares."));
+        }
+    }
+
+    void takeDocumentType(const XML_Char *name, const XML_Char *systemId, const XML_Char *publicId,
+                          int hasInternalSubset)
+    {
+        if (hasInternalSubset != 0) {
+            refuse(tr("A document type declaration with declarations of its own is not allowed."));
+            return;
+        }
+        m_hasExternalSubset = systemId != nullptr;
+        const QString rootName = nameOf(name);
+        if (m_isRefused) {
+            return;
+        }
+        QDomImplementation implementation;
+        const QDomDocument typed = implementation.createDocument(
+            QString(), rootName,
+            implementation.createDocumentType(rootName, QString::fromUtf8(publicId),
+                                              QString::fromUtf8(systemId)));
+        const QDomDocument before = m_document;
+        m_document = typed;
+        m_document.removeChild(m_document.documentElement());
+        for (QDomNode node = before.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            m_document.appendChild(m_document.importNode(node, true));
+        }
+    }
+
+    void refuseEntity(const XML_Char *name, int)
+    {
+        refuse(tr("The entity '%1' is not declared.").arg(QString::fromUtf8(name)));
+    }
+
+    QString nameOf(const XML_Char *name)
+    {
+        const QString result = m_names.string(name, static_cast<int>(qstrlen(name)));
+        if (result.size() > m_limits.nameLength) {
+            refuse(tr("A name has more than %1 characters.").arg(m_limits.nameLength));
+        }
+        return result;
+    }
+
+    void startElement(const XML_Char *name, const XML_Char **attributes)
+    {
+        flushText();
+        if (static_cast<int>(m_open.size()) >= m_limits.depth) {
+            refuse(tr("Elements are nested more than %1 deep.").arg(m_limits.depth));
+            return;
+        }
+        QDomElement element = m_document.createElement(nameOf(name));
+        if (*attributes != nullptr) {
+            takeAttributes(attributes, element);
+        }
+        if (m_isRefused) {
+            return;
+        }
+        append(element);
+        if (!m_open.empty()) {
+            m_open.back().hasChildElements = true;
+        }
+        SOpenElement open;
+        open.element = element;
+        open.firstBlank = m_blanks.size();
+        open.firstBlankByte = m_blankBytes.size();
+        m_open.push_back(open);
+        if (m_positions != nullptr) {
+            m_positions->insert(element, currentPosition());
+        }
+    }
+
+    void takeAttributes(const XML_Char **attributes, QDomElement &element)
+    {
+        if (m_hasExternalSubset) {
+            // expat takes such an entity for one that the subset declares, and leaves it out.
+            const QByteArray entity = undeclaredEntity(QByteArray::fromRawData(
+                m_bytes.constData() + XML_GetCurrentByteIndex(m_parser.get()),
+                XML_GetCurrentByteCount(m_parser.get())));
+            if (!entity.isEmpty()) {
+                refuseEntity(entity.constData(), 0);
+                return;
+            }
+        }
+        int count = 0;
+        for (const XML_Char **attribute = attributes; *attribute != nullptr; attribute += 2) {
+            if (++count > m_limits.attributes) {
+                refuse(tr("The element '%1' has more than %2 attributes.")
+                           .arg(element.tagName(), QString::number(m_limits.attributes)));
+                return;
+            }
+            const QString name = nameOf(attribute[0]);
+            element.setAttribute(
+                name, m_texts.string(attribute[1], static_cast<int>(qstrlen(attribute[1]))));
+        }
+    }
+
+    void endElement(const XML_Char *)
+    {
+        flushText();
+        const SOpenElement &open = m_open.back();
+        if (!open.holdsText && !open.hasChildElements) {
+            insertBlanks();
+        }
+        dropBlanks();
+        m_open.pop_back();
+    }
+
+    void takeText(const XML_Char *text, int size) { m_text.append(text, size); }
+
+    void flushText()
+    {
+        if (m_text.isEmpty()) {
+            return;
+        }
+        // Outside the root there is only layout; expat refuses everything else.
+        if (!m_open.empty()) {
+            SOpenElement &open = m_open.back();
+            if (!open.holdsText && XmlText::isBlank(m_text)) {
+                m_blanks.push_back({open.children, m_text.size()});
+                m_blankBytes += m_text;
+            } else {
+                holdText();
+                append(
+                    m_document.createTextNode(m_texts.string(m_text.constData(), m_text.size())));
+            }
+        }
+        m_text.resize(0);
+    }
+
+    /** From here on the element's blanks are text. */
+    void holdText()
+    {
+        SOpenElement &open = m_open.back();
+        if (!open.holdsText) {
+            open.holdsText = true;
+            insertBlanks();
+            dropBlanks();
+        }
+    }
+
+    void insertBlanks()
+    {
+        SOpenElement &open = m_open.back();
+        QDomNode next = open.element.firstChild();
+        int index = 0;
+        int at = open.firstBlankByte;
+        for (size_t i = open.firstBlank; i < m_blanks.size(); ++i) {
+            for (; index < m_blanks[i].index; ++index) {
+                next = next.nextSibling();
+            }
+            const QDomText text = m_document.createTextNode(
+                m_texts.string(m_blankBytes.constData() + at, m_blanks[i].size));
+            at += m_blanks[i].size;
+            if (next.isNull()) {
+                open.element.appendChild(text);
+            } else {
+                open.element.insertBefore(text, next);
+            }
+        }
+    }
+
+    void dropBlanks()
+    {
+        const SOpenElement &open = m_open.back();
+        m_blanks.resize(open.firstBlank);
+        m_blankBytes.resize(open.firstBlankByte);
+    }
+
+    void startCData()
+    {
+        flushText();
+        holdText();
+    }
+
+    void endCData()
+    {
+        append(m_document.createCDATASection(XmlText::fromUtf8(m_text.constData(), m_text.size())));
+        m_text.resize(0);
+    }
+
+    void takeComment(const XML_Char *text)
+    {
+        flushText();
+        append(m_document.createComment(toText(text)));
+    }
+
+    void takeInstruction(const XML_Char *target, const XML_Char *data)
+    {
+        flushText();
+        const QString name = nameOf(target);
+        if (!m_isRefused) {
+            append(m_document.createProcessingInstruction(name, toText(data)));
+        }
+    }
+
+    void append(const QDomNode &node)
+    {
+        if (m_open.empty()) {
+            m_document.appendChild(node);
+        } else {
+            m_open.back().element.appendChild(node);
+            ++m_open.back().children;
+        }
+    }
+
+    static constexpr int CommonText = 4096;
+
+    const SXmlLimits m_limits;
+    CXmlPositions *const m_positions;
+    Parser m_parser;
+    QByteArray m_bytes;
+    bool m_isUtf16 = false;
+    bool m_hasExternalSubset = false;
+    bool m_isRefused = false;
+    SXmlError m_error;
+
+    QDomDocument m_document;
+    std::vector<SOpenElement> m_open;
+    QByteArray m_text;
+    std::vector<SBlank> m_blanks;
+    QByteArray m_blankBytes;
+    // Few names and many equal texts stand in a document: each is kept once.
+    StringCache m_names;
+    StringCache m_texts;
+};
+
+} // namespace
+
+bool CExpatXmlReader::read(const QByteArray &bytes, const SXmlLimits &limits,
+                           QDomDocument &document, CXmlPositions *positions, SXmlError &error) const
+{
+    return Builder(limits, positions).build(bytes, document, error);
+}
