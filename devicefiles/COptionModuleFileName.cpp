@@ -1,5 +1,7 @@
 #include "devicefiles/COptionModuleFileName.h"
 
+#include "elements/FieldList.h"
+
 #include <QCoreApplication>
 
 #include <tuple>
@@ -318,7 +320,7 @@ QDataStream &operator<<(QDataStream &stream, const COptionModuleFileName &name)
 
 QDataStream &operator>>(QDataStream &stream, COptionModuleFileName &name)
 {
-    std::apply([&stream](auto &...field) { (stream >> ... >> field); },
+    std::apply([&stream](auto &...field) { (FieldList::readField(stream, field), ...); },
                COptionModuleFileName::SOMFileName::fields(name.m_name));
     return stream;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "storage/BoundedStream.h"
+
 #include <QDataStream>
+#include <QHostAddress>
 #include <QList>
 #include <QMap>
 #include <QSharedDataPointer>
@@ -59,6 +62,37 @@ void readField(QDataStream &stream, Field &field)
     stream >> field;
 }
 
+inline void readField(QDataStream &stream, QString &text)
+{
+    BoundedStream::read(stream, text);
+}
+
+/** As Qt's own operator, which reads the scope of an address without a bound. */
+inline void readField(QDataStream &stream, QHostAddress &address)
+{
+    address.clear();
+    qint8 protocol = QAbstractSocket::UnknownNetworkLayerProtocol;
+    stream >> protocol;
+    if (protocol == QAbstractSocket::IPv4Protocol) {
+        quint32 number = 0;
+        stream >> number;
+        address.setAddress(number);
+    } else if (protocol == QAbstractSocket::IPv6Protocol) {
+        Q_IPV6ADDR bytes = {};
+        for (quint8 &byte : bytes.c) {
+            stream >> byte;
+        }
+        QString scope;
+        BoundedStream::read(stream, scope);
+        address.setAddress(bytes);
+        address.setScopeId(scope);
+    } else if (protocol == QAbstractSocket::AnyIPProtocol) {
+        address = QHostAddress(QHostAddress::Any);
+    } else if (protocol != QAbstractSocket::UnknownNetworkLayerProtocol) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+    }
+}
+
 /**
  * Qt's own operator takes the count for granted and reserves memory for it; a few broken bytes
  * could ask for all there is. As there, a list that cannot be read to its end is left empty.
@@ -71,7 +105,7 @@ void readList(QDataStream &stream, List &list)
     stream >> count;
     for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
         typename List::value_type item;
-        stream >> item;
+        readField(stream, item);
         list.append(item);
     }
     if (stream.status() != QDataStream::Ok) {
@@ -100,7 +134,8 @@ void readField(QDataStream &stream, QMap<Key, Value> &map)
     for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
         Key key = Key();
         Value value;
-        stream >> key >> value;
+        readField(stream, key);
+        readField(stream, value);
         map.insert(key, value);
     }
     if (stream.status() != QDataStream::Ok) {

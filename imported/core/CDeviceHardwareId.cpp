@@ -1,5 +1,7 @@
 #include "imported/CDeviceHardwareId.h"
 
+#include "storage/BoundedStream.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -193,7 +195,9 @@ QDataStream &operator>>(QDataStream &stream, CDeviceHardwareId &id)
     quint16 platform = 0;
     quint16 version = 0;
     quint16 revision = 0;
-    stream >> prefix >> name >> platform >> version >> revision;
+    BoundedStream::read(stream, prefix);
+    BoundedStream::read(stream, name);
+    stream >> platform >> version >> revision;
     id.setPrefix(prefix);
     id.setName(name);
     id.setPlatform(platform);
