@@ -12,8 +12,9 @@
  * itself. The regular expressions are case-sensitive and stand beside their texts, so that a
  * caller can build its own expression or validator from the same pattern.
  *
- * The strings may be read from any thread. A QRegExp keeps the captures of its last match even
- * when it is constant: copy one before matching with it in a second thread.
+ * The strings may be read from any thread. A QRegExp changes itself even when it is constant: it is
+ * compiled when it is first used or copied, and keeps the captures of its last match. So only one
+ * thread may touch these; any other one builds its own from the text of the pattern.
  */
 namespace NDeviceConf {
 
