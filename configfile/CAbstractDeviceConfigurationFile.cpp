@@ -1,9 +1,12 @@
 #include "configfile/CAbstractDeviceConfigurationFile.h"
 
+#include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
 #include "vocabulary/TextTables.h"
 
 #include <QDomDocument>
+
+#include <array>
 
 using namespace NVornXmlTags;
 
@@ -19,13 +22,65 @@ QMap<QString, Value> valuesByText(const TextTables::Table<Value> &table)
     return values;
 }
 
-/** @p parent if it is an element of the given kind already, else a new one at its end. */
-QDomElement entryIn(QDomElement parent, const QString &tag)
+/** One "File" or "Plugin" that is written: a present one is filled again, a new one is built. */
+class Entry
 {
-    if (parent.tagName() == tag || parent.tagName() == TAG_FILE) {
-        return parent;
+public:
+    /** @p parent if it is an element of the given kind already, else a new one at its end. */
+    Entry(CXmlAbstractVornFile &file, const QDomElement &parent, const QString &tag)
+        : m_file(file), m_document(parent.ownerDocument()), m_element(parent),
+          m_isNew(parent.tagName() != tag && parent.tagName() != TAG_FILE)
+    {
+        if (m_isNew) {
+            m_element = m_document.createElement(tag);
+            QDomElement(parent).appendChild(m_element);
+        }
     }
-    return parent.appendChild(parent.ownerDocument().createElement(tag)).toElement();
+
+    void setAttribute(const QString &name, const QString &value)
+    {
+        m_element.setAttribute(name, value);
+    }
+
+    void setValue(const QString &tag, const QString &value)
+    {
+        if (!m_isNew) {
+            m_file.setNodeValue(tag, value, m_element);
+            return;
+        }
+        // A new one has no such child yet: there is nothing to look for.
+        QDomElement child = m_document.createElement(tag);
+        if (!value.isEmpty()) {
+            child.appendChild(m_document.createTextNode(value));
+        }
+        m_element.appendChild(child);
+    }
+
+private:
+    CXmlAbstractVornFile &m_file;
+    QDomDocument m_document;
+    QDomElement m_element;
+    const bool m_isNew;
+};
+
+/** The texts of the first child of each name, in the order of the names, found in one walk. */
+template <size_t Count>
+std::array<QString, Count> childTexts(const QDomElement &parent,
+                                      const QString *const (&tags)[Count])
+{
+    std::array<QString, Count> texts;
+    std::array<bool, Count> found = {};
+    for (QDomElement child = parent.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        const QString name = child.tagName();
+        for (size_t i = 0; i < Count; ++i) {
+            if (!found[i] && name == *tags[i]) {
+                found[i] = true;
+                texts[i] = CDomDoc::text(child);
+            }
+        }
+    }
+    return texts;
 }
 
 bool isFilled(const QDomElement &element, const QString &tag)
@@ -138,11 +193,11 @@ void CAbstractDeviceConfigurationFile::appendFileElement(const CFileElement &fil
     if (parent.isNull()) {
         return;
     }
-    const QDomElement entry = entryIn(parent, TAG_FILE);
-    setNodeValue(TAG_NAME, file.fileName(), entry);
-    setNodeValue(TAG_COMMENT, file.comment(), entry);
-    setNodeValue(TAG_DEVICE_DIR, file.devicePath(), entry);
-    setNodeValue(TAG_PROJECT_DIR, file.projectPath(), entry);
+    Entry entry(*this, parent, TAG_FILE);
+    entry.setValue(TAG_NAME, file.fileName());
+    entry.setValue(TAG_COMMENT, file.comment());
+    entry.setValue(TAG_DEVICE_DIR, file.devicePath());
+    entry.setValue(TAG_PROJECT_DIR, file.projectPath());
 }
 
 void CAbstractDeviceConfigurationFile::insertFileElement(const CFileElement &file,
@@ -164,10 +219,12 @@ void CAbstractDeviceConfigurationFile::fileElement(CFileElement &file,
 {
     file.clear();
     if (isFilled(element, TAG_FILE)) {
-        file.setFileName(getNodeValue(TAG_NAME, element));
-        file.setComment(getNodeValue(TAG_COMMENT, element));
-        file.setDevicePath(getNodeValue(TAG_DEVICE_DIR, element));
-        file.setProjectPath(getNodeValue(TAG_PROJECT_DIR, element));
+        const auto [name, comment, deviceDirectory, projectDirectory] =
+            childTexts(element, {&TAG_NAME, &TAG_COMMENT, &TAG_DEVICE_DIR, &TAG_PROJECT_DIR});
+        file.setFileName(name);
+        file.setComment(comment);
+        file.setDevicePath(deviceDirectory);
+        file.setProjectPath(projectDirectory);
     }
 }
 
@@ -175,9 +232,9 @@ void CAbstractDeviceConfigurationFile::fileElements(QList<CFileElement> &files,
                                                     const QDomElement &element) const
 {
     files.clear();
+    CFileElement file;
     for (QDomElement entry = element.firstChildElement(TAG_FILE); !entry.isNull();
          entry = entry.nextSiblingElement(TAG_FILE)) {
-        CFileElement file;
         fileElement(file, entry);
         if (!file.isNull()) {
             files.append(file);
@@ -199,10 +256,12 @@ void CAbstractDeviceConfigurationFile::pluginElement(CPluginElement &plugin,
 {
     plugin.clear();
     if (isFilled(element, TAG_PLUGIN)) {
-        plugin.setName(getNodeValue(TAG_NAME, element));
-        plugin.setVersion(getNodeValue(TAG_VERSION, element));
+        const auto [name, version, priorityText] =
+            childTexts(element, {&TAG_NAME, &TAG_VERSION, &TAG_PRIORITY});
+        plugin.setName(name);
+        plugin.setVersion(version);
         bool ok = false;
-        const int priority = getNodeValue(TAG_PRIORITY, element).toInt(&ok);
+        const int priority = priorityText.toInt(&ok);
         if (ok) {
             plugin.setPriority(priority);
         }
@@ -215,10 +274,10 @@ void CAbstractDeviceConfigurationFile::appendParamFileElement(const CParamFileEl
     if (!file.isValid() || parent.isNull()) {
         return;
     }
-    QDomElement entry = entryIn(parent, TAG_FILE);
+    Entry entry(*this, parent, TAG_FILE);
     entry.setAttribute(ATTR_TYPE, typeToStr(file.type()));
-    setNodeValue(TAG_NAME, file.name(), entry);
-    setNodeValue(TAG_COMMENT, file.comment(), entry);
+    entry.setValue(TAG_NAME, file.name());
+    entry.setValue(TAG_COMMENT, file.comment());
 }
 
 void CAbstractDeviceConfigurationFile::insertParamFileElement(const CParamFileElement &file,
@@ -235,9 +294,10 @@ void CAbstractDeviceConfigurationFile::paramFileElement(CParamFileElement &file,
 {
     file.clear();
     if (isFilled(element, TAG_FILE)) {
+        const auto [name, comment] = childTexts(element, {&TAG_NAME, &TAG_COMMENT});
         file.setType(strToType(element.attribute(ATTR_TYPE)));
-        file.setName(getNodeValue(TAG_NAME, element));
-        file.setComment(getNodeValue(TAG_COMMENT, element));
+        file.setName(name);
+        file.setComment(comment);
     }
 }
 
@@ -266,7 +326,7 @@ CAbstractDeviceConfigurationFile::strToDeviceClass(const QString &text) const
 void CAbstractDeviceConfigurationFile::appendFileString(const QString &fileName, QDomElement parent)
 {
     if (!parent.isNull()) {
-        setNodeValue(TAG_NAME, fileName, entryIn(parent, TAG_FILE));
+        Entry(*this, parent, TAG_FILE).setValue(TAG_NAME, fileName);
     }
 }
 
@@ -288,10 +348,10 @@ void CAbstractDeviceConfigurationFile::appendPluginElement(const CPluginElement 
     if (parent.isNull()) {
         return;
     }
-    const QDomElement entry = entryIn(parent, TAG_PLUGIN);
-    setNodeValue(TAG_NAME, plugin.name(), entry);
-    setNodeValue(TAG_VERSION, plugin.version(), entry);
-    setNodeValue(TAG_PRIORITY, QString::number(plugin.priority()), entry);
+    Entry entry(*this, parent, TAG_PLUGIN);
+    entry.setValue(TAG_NAME, plugin.name());
+    entry.setValue(TAG_VERSION, plugin.version());
+    entry.setValue(TAG_PRIORITY, QString::number(plugin.priority()));
 }
 
 void CAbstractDeviceConfigurationFile::setFileElements(const QList<CFileElement> &files,

@@ -429,7 +429,7 @@ bool CDeviceConfigurationFile10::appendAdditionalFile(const CFileElement &file)
     if (!hasDocument() || file.isNull()) {
         return false;
     }
-    insertFileElement(file, domElement(TAG_FILES, configDomElement(QDomElement())));
+    appendFileElement(file, domElement(TAG_FILES, configDomElement(QDomElement())));
     return true;
 }
 

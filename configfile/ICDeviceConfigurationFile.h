@@ -138,7 +138,10 @@ public:
     virtual QList<CFileElement> additionalFiles() const = 0;
     virtual bool setAdditionalFiles(const QList<CFileElement> &files) = 0;
     virtual bool containsAdditionalFile(const CFileElement &file) const = 0;
-    /** Appends the file unless an equal one is there; false for a null one. */
+    /**
+     * Appends the file, whatever is there: a long list is appended to as fast as a short one. False
+     * for a null file.
+     */
     virtual bool appendAdditionalFile(const CFileElement &file) = 0;
     /** Removes the first equal file; false when there is none. */
     virtual bool removeAdditionalFile(const CFileElement &file) = 0;

@@ -1054,8 +1054,11 @@ void tst_ConfigurationFile10::additionalFiles()
     QVERIFY(!file.containsAdditionalFile(b));
     QVERIFY(!file.removeAdditionalFile(b));
     QVERIFY(file.appendAdditionalFile(b));
-    QVERIFY(file.additionalFiles() == (QList<CFileElement>{a, b}));
+    // Appending does not look for an equal one, and removing takes the first.
+    QVERIFY(file.additionalFiles() == (QList<CFileElement>{a, a, b}));
     QVERIFY(file.containsAdditionalFile(a));
+    QVERIFY(file.removeAdditionalFile(a));
+    QVERIFY(file.additionalFiles() == (QList<CFileElement>{a, b}));
     QVERIFY(file.removeAdditionalFile(a));
     QVERIFY(!file.containsAdditionalFile(a));
     QVERIFY(file.setAdditionalFiles({b, a, b}));
