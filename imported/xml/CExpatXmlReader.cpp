@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <new>
+#include <string>
 #include <vector>
 
 namespace {
@@ -105,26 +106,31 @@ QByteArray undeclaredEntity(const QByteArray &tag)
 
 QString toText(const XML_Char *utf8)
 {
-    return XmlText::fromUtf8(utf8, static_cast<int>(qstrlen(utf8)));
+    return XmlText::fromUtf8(utf8, qstrlen(utf8));
 }
 
 /** An open element, and what is known of its text so far. */
 struct SOpenElement {
+    SOpenElement(const QDomElement &opened, size_t blank, size_t blankByte)
+        : element(opened), firstBlank(blank), firstBlankByte(blankByte)
+    {
+    }
+
     QDomElement element;
     int children = 0;
     bool hasChildElements = false;
     /** It holds text that is not blank: from then on blanks are text, too. */
     bool holdsText = false;
     // Where its own blanks begin among all that wait.
-    size_t firstBlank = 0;
-    int firstBlankByte = 0;
+    size_t firstBlank;
+    size_t firstBlankByte;
 };
 
 /** Blank text of which is not known yet whether it is layout; it stands before the child `index`.
  */
 struct SBlank {
     int index;
-    int size;
+    size_t size;
 };
 
 class Builder
@@ -135,9 +141,6 @@ public:
     Builder(const SXmlLimits &limits, CXmlPositions *positions)
         : m_limits(limits), m_positions(positions), m_parser(nullptr, &XML_ParserFree)
     {
-        // What is reserved stays when a text is taken and the next one begins.
-        m_text.reserve(CommonText);
-        m_blankBytes.reserve(CommonText);
     }
 
     bool build(const QByteArray &bytes, QDomDocument &document, SXmlError &error)
@@ -180,6 +183,7 @@ private:
         XML_SetCommentHandler(parser, &on<&Builder::takeComment>);
         XML_SetProcessingInstructionHandler(parser, &on<&Builder::takeInstruction>);
         XML_SetSkippedEntityHandler(parser, &on<&Builder::refuseEntity>);
+        // At once: in parts, expat would look at the beginning of a long token with each of them.
         const XML_Status status = XML_Parse(parser, m_bytes.constData(), m_bytes.size(),
                                             isComplete ? XML_TRUE : XML_FALSE);
         return status == XML_STATUS_OK && !m_isRefused;
@@ -302,7 +306,7 @@ private:
 
     QString nameOf(const XML_Char *name)
     {
-        const QString result = m_names.string(name, static_cast<int>(qstrlen(name)));
+        const QString result = m_names.string(name, qstrlen(name));
         if (result.size() > m_limits.nameLength) {
             refuse(tr("A name has more than %1 characters.").arg(m_limits.nameLength));
         }
@@ -327,11 +331,7 @@ private:
         if (!m_open.empty()) {
             m_open.back().hasChildElements = true;
         }
-        SOpenElement open;
-        open.element = element;
-        open.firstBlank = m_blanks.size();
-        open.firstBlankByte = m_blankBytes.size();
-        m_open.push_back(open);
+        m_open.emplace_back(element, m_blanks.size(), m_blankBytes.size());
         if (m_positions != nullptr) {
             m_positions->insert(element, currentPosition());
         }
@@ -357,8 +357,7 @@ private:
                 return;
             }
             const QString name = nameOf(attribute[0]);
-            element.setAttribute(
-                name, m_texts.string(attribute[1], static_cast<int>(qstrlen(attribute[1]))));
+            element.setAttribute(name, m_texts.string(attribute[1], qstrlen(attribute[1])));
         }
     }
 
@@ -373,26 +372,47 @@ private:
         m_open.pop_back();
     }
 
-    void takeText(const XML_Char *text, int size) { m_text.append(text, size); }
+    void takeText(const XML_Char *text, int size)
+    {
+        const auto length = static_cast<size_t>(size);
+        m_isBlank = m_isBlank && XmlText::isBlank(text, length);
+        m_text.append(text, length);
+    }
 
     void flushText()
     {
-        if (m_text.isEmpty()) {
+        if (m_text.empty()) {
             return;
         }
         // Outside the root there is only layout; expat refuses everything else.
         if (!m_open.empty()) {
             SOpenElement &open = m_open.back();
-            if (!open.holdsText && XmlText::isBlank(m_text)) {
+            if (!open.holdsText && m_isBlank) {
                 m_blanks.push_back({open.children, m_text.size()});
                 m_blankBytes += m_text;
             } else {
                 holdText();
-                append(
-                    m_document.createTextNode(m_texts.string(m_text.constData(), m_text.size())));
+                append(textNode(m_texts.string(m_text.data(), m_text.size())));
             }
         }
-        m_text.resize(0);
+        dropText();
+    }
+
+    void dropText()
+    {
+        m_text.clear();
+        m_isBlank = true;
+    }
+
+    /** A copy of a text node shares its name, for which each new one would allocate memory. */
+    QDomNode textNode(const QString &text)
+    {
+        if (m_textPattern.isNull()) {
+            m_textPattern = m_document.createTextNode(QLatin1String(""));
+        }
+        QDomNode node = m_textPattern.cloneNode(false);
+        node.setNodeValue(text);
+        return node;
     }
 
     /** From here on the element's blanks are text. */
@@ -411,13 +431,13 @@ private:
         SOpenElement &open = m_open.back();
         QDomNode next = open.element.firstChild();
         int index = 0;
-        int at = open.firstBlankByte;
+        size_t at = open.firstBlankByte;
         for (size_t i = open.firstBlank; i < m_blanks.size(); ++i) {
             for (; index < m_blanks[i].index; ++index) {
                 next = next.nextSibling();
             }
-            const QDomText text = m_document.createTextNode(
-                m_texts.string(m_blankBytes.constData() + at, m_blanks[i].size));
+            const QDomNode text =
+                textNode(m_texts.string(m_blankBytes.data() + at, m_blanks[i].size));
             at += m_blanks[i].size;
             if (next.isNull()) {
                 open.element.appendChild(text);
@@ -442,8 +462,8 @@ private:
 
     void endCData()
     {
-        append(m_document.createCDATASection(XmlText::fromUtf8(m_text.constData(), m_text.size())));
-        m_text.resize(0);
+        append(m_document.createCDATASection(XmlText::fromUtf8(m_text.data(), m_text.size())));
+        dropText();
     }
 
     void takeComment(const XML_Char *text)
@@ -471,8 +491,6 @@ private:
         }
     }
 
-    static constexpr int CommonText = 4096;
-
     const SXmlLimits m_limits;
     CXmlPositions *const m_positions;
     Parser m_parser;
@@ -483,10 +501,12 @@ private:
     SXmlError m_error;
 
     QDomDocument m_document;
+    QDomText m_textPattern;
     std::vector<SOpenElement> m_open;
-    QByteArray m_text;
+    std::string m_text; // not yet appended, in UTF-8
+    bool m_isBlank = true;
     std::vector<SBlank> m_blanks;
-    QByteArray m_blankBytes;
+    std::string m_blankBytes;
     // Few names and many equal texts stand in a document: each is kept once.
     StringCache m_names;
     StringCache m_texts;

@@ -23,28 +23,22 @@ public:
 
     bool write(const QDomDocument &document)
     {
-        m_bytes = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+        m_chunk = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
         writeDocumentType(document.doctype());
         for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling()) {
             if (node.isElement()) {
                 writeElement(node.toElement(), nameOf(m_rootName), 1);
-                m_bytes += '\n';
+                m_chunk += '\n';
             } else if (node.isComment() || isInstruction(node)) {
                 writeOther(node);
-                m_bytes += '\n';
+                m_chunk += '\n';
             }
         }
-        const qint64 maximumSize = qMin<qint64>(m_limits.fileSize, MaximumSize);
-        if (m_bytes.size() > static_cast<size_t>(qMax<qint64>(0, maximumSize))) {
-            fail(tr("The file would be larger than %1 bytes.").arg(maximumSize));
-        }
+        takeChunk();
         return m_reason.isEmpty();
     }
 
-    QByteArray bytes() const
-    {
-        return QByteArray(m_bytes.data(), static_cast<int>(m_bytes.size()));
-    }
+    QByteArray bytes() const { return m_bytes; }
 
     QString reason() const { return m_reason; }
 
@@ -66,7 +60,19 @@ private:
 
     void append(const QByteArray &bytes)
     {
-        m_bytes.append(bytes.constData(), static_cast<size_t>(bytes.size()));
+        m_chunk.append(bytes.constData(), static_cast<size_t>(bytes.size()));
+    }
+
+    /** Long documents grow in large steps: growing costs a copy, and few of them cost little. */
+    void takeChunk()
+    {
+        const qint64 maximumSize = qMin(m_limits.fileSize, MaximumSize);
+        if (m_bytes.size() + static_cast<qint64>(m_chunk.size()) > maximumSize) {
+            fail(tr("The file would be larger than %1 bytes.").arg(maximumSize));
+        } else {
+            m_bytes.append(m_chunk.data(), static_cast<int>(m_chunk.size()));
+        }
+        m_chunk.clear();
     }
 
     void writeDocumentType(const QDomDocumentType &type)
@@ -74,18 +80,18 @@ private:
         if (type.isNull() || type.name().isEmpty()) {
             return;
         }
-        m_bytes += "<!DOCTYPE ";
+        m_chunk += "<!DOCTYPE ";
         append(nameOf(m_rootName));
         if (!type.publicId().isEmpty()) {
-            m_bytes += " PUBLIC ";
+            m_chunk += " PUBLIC ";
             append(quoted(type.publicId()));
-            m_bytes += ' ';
+            m_chunk += ' ';
             append(quoted(type.systemId()));
         } else if (!type.systemId().isEmpty()) {
-            m_bytes += " SYSTEM ";
+            m_chunk += " SYSTEM ";
             append(quoted(type.systemId()));
         }
-        m_bytes += ">\n";
+        m_chunk += ">\n";
     }
 
     /** In a document type nothing can be escaped; a text holds at most one kind of quotes. */
@@ -101,17 +107,17 @@ private:
             fail(tr("Elements are nested more than %1 deep.").arg(m_limits.depth));
             return;
         }
-        m_bytes += '<';
+        m_chunk += '<';
         append(name);
         if (element.hasAttributes()) {
             writeAttributes(element);
         }
         const QDomNode first = element.firstChild();
         if (first.isNull()) {
-            m_bytes += "/>";
+            m_chunk += "/>";
             return;
         }
-        m_bytes += '>';
+        m_chunk += '>';
         const bool isLeaf = first.isText() && first.nextSibling().isNull();
         if (isLeaf || XmlText::holdsText(element)) {
             for (QDomNode node = first; !node.isNull(); node = node.nextSibling()) {
@@ -120,9 +126,12 @@ private:
         } else {
             writeIndented(first, element, depth);
         }
-        m_bytes += "</";
+        m_chunk += "</";
         append(name);
-        m_bytes += '>';
+        m_chunk += '>';
+        if (m_chunk.size() > ChunkSize) {
+            takeChunk();
+        }
     }
 
     void writeIndented(const QDomNode &first, const QDomElement &parent, int depth)
@@ -138,8 +147,8 @@ private:
 
     void startLine(int indentation)
     {
-        m_bytes += '\n';
-        m_bytes.append(static_cast<size_t>(indentation), ' ');
+        m_chunk += '\n';
+        m_chunk.append(static_cast<size_t>(indentation), ' ');
     }
 
     void writeNode(const QDomNode &node, const QDomElement &parent, int depth)
@@ -173,11 +182,11 @@ private:
             sorted.insert(attribute.nodeName(), attribute.nodeValue());
         }
         for (auto it = sorted.cbegin(); it != sorted.cend(); ++it) {
-            m_bytes += ' ';
+            m_chunk += ' ';
             append(nameOf(it.key()));
-            m_bytes += "=\"";
+            m_chunk += "=\"";
             writeEscaped(it.value(), element, Context::Attribute);
-            m_bytes += '"';
+            m_chunk += '"';
         }
     }
 
@@ -186,9 +195,9 @@ private:
     {
         checkCharacters(value, parent);
         value.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
-        m_bytes += "<![CDATA[";
+        m_chunk += "<![CDATA[";
         append(value.toUtf8());
-        m_bytes += "]]>";
+        m_chunk += "]]>";
     }
 
     void writeOther(const QDomNode &node)
@@ -199,20 +208,20 @@ private:
             if (value.contains(QLatin1String("--")) || value.endsWith(QLatin1Char('-'))) {
                 fail(tr("A comment holds '--' or ends in '-', which XML cannot carry."));
             }
-            m_bytes += "<!--";
+            m_chunk += "<!--";
             append(value.toUtf8());
-            m_bytes += "-->";
+            m_chunk += "-->";
         } else if (node.isProcessingInstruction()) {
             if (value.contains(QLatin1String("?>"))) {
                 fail(tr("A processing instruction holds '?>', which XML cannot carry."));
             }
-            m_bytes += "<?";
+            m_chunk += "<?";
             append(nameOf(node.nodeName()));
             if (!value.isEmpty()) {
-                m_bytes += ' ';
+                m_chunk += ' ';
                 append(value.toUtf8());
             }
-            m_bytes += "?>";
+            m_chunk += "?>";
         }
     }
 
@@ -226,7 +235,7 @@ private:
                 ? unit < 0x80
                 : unit >= ' ' && unit != '"' && unit != '&' && unit != '<' && unit != '>';
             if (isPlain) {
-                m_bytes += static_cast<char>(unit);
+                m_chunk += static_cast<char>(unit);
                 continue;
             }
             if (unit < 0x80) {
@@ -252,27 +261,27 @@ private:
     {
         switch (unit) {
         case '&':
-            m_bytes += "&amp;";
+            m_chunk += "&amp;";
             break;
         case '<':
-            m_bytes += "&lt;";
+            m_chunk += "&lt;";
             break;
         case '>':
-            m_bytes += "&gt;";
+            m_chunk += "&gt;";
             break;
         case '\r':
-            m_bytes += "&#13;";
+            m_chunk += "&#13;";
             break;
         case '"':
         case '\t':
         case '\n':
             if (context == Context::Attribute) {
-                m_bytes += "&#" + std::to_string(unit) + ';';
+                m_chunk += "&#" + std::to_string(unit) + ';';
                 break;
             }
             Q_FALLTHROUGH();
         default:
-            m_bytes += static_cast<char>(unit);
+            m_chunk += static_cast<char>(unit);
         }
     }
 
@@ -302,11 +311,13 @@ private:
     }
 
     static constexpr qint64 MaximumSize = std::numeric_limits<int>::max() / 2;
+    static constexpr size_t ChunkSize = 1 << 16;
 
     const QString m_rootName;
     const SXmlLimits m_limits;
     QHash<QString, QByteArray> m_names;
-    std::string m_bytes;
+    std::string m_chunk; // what is not yet among the bytes
+    QByteArray m_bytes;
     QString m_reason;
 };
 

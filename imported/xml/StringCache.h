@@ -2,7 +2,6 @@
 
 #include "imported/xml/XmlText.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -16,36 +15,40 @@ class StringCache
 {
 public:
     /** @p size in bytes; the bytes are valid UTF-8. */
-    QString string(const char *utf8, int size)
+    QString string(const char *utf8, size_t size)
     {
         if (size > MaximumSize) {
             return XmlText::fromUtf8(utf8, size);
         }
         SEntry &entry = m_entries[slot(utf8, size)];
-        if (entry.utf8.size() != size
-            || std::memcmp(entry.utf8.constData(), utf8, static_cast<size_t>(size)) != 0) {
-            entry.utf8 = QByteArray(utf8, size);
+        if (entry.size != size || std::memcmp(entry.utf8, utf8, size) != 0) {
+            entry.size = size;
+            std::memcpy(entry.utf8, utf8, size);
             entry.text = XmlText::fromUtf8(utf8, size);
         }
         return entry.text;
     }
 
 private:
+    static constexpr size_t MaximumSize = 64;
+    static constexpr size_t Slots = 512;
+
     struct SEntry {
-        QByteArray utf8;
+        size_t size = 0;
+        char utf8[MaximumSize];
         QString text = QLatin1String("");
     };
 
-    static constexpr int MaximumSize = 128;
-    static constexpr size_t Slots = 512;
-
-    static size_t slot(const char *utf8, int size)
+    /** Names and paths differ at one of their ends; the middle is not worth the time. */
+    static size_t slot(const char *utf8, size_t size)
     {
-        quint32 hash = 2166136261U;
-        for (int i = 0; i < size; ++i) {
-            hash = (hash ^ static_cast<uchar>(utf8[i])) * 16777619U;
-        }
-        return (hash ^ (hash >> 15)) % Slots;
+        quint64 first = 0;
+        quint64 last = 0;
+        const size_t length = qMin(size, sizeof(first));
+        std::memcpy(&first, utf8, length);
+        std::memcpy(&last, utf8 + size - length, length);
+        const quint64 hash = (first * 31 + last + size) * Q_UINT64_C(0x9E3779B97F4A7C15);
+        return static_cast<size_t>(hash >> 32) % Slots;
     }
 
     std::array<SEntry, Slots> m_entries;

@@ -3,18 +3,16 @@
 #include <expat.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace XmlText {
 
 namespace {
 
-template <typename Text>
-bool holdsOnlyBlanks(const Text &text)
+template <typename Unit>
+bool isBlankUnit(Unit unit)
 {
-    return std::all_of(text.cbegin(), text.cend(), [](auto c) {
-        return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n')
-            || c == QLatin1Char('\r');
-    });
+    return unit == ' ' || unit == '\t' || unit == '\n' || unit == '\r';
 }
 
 bool isPairAt(const QString &text, int index)
@@ -44,18 +42,21 @@ int indexOf(const QString &text, Predicate matches)
 
 bool isBlank(const QString &text)
 {
-    return holdsOnlyBlanks(text);
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return isBlankUnit(c.unicode()); });
 }
 
-bool isBlank(const QByteArray &utf8)
+bool isBlank(const char *utf8, size_t size)
 {
-    return holdsOnlyBlanks(QLatin1String(utf8));
+    return std::all_of(utf8, utf8 + size, isBlankUnit<char>);
 }
 
-QString fromUtf8(const char *utf8, int size)
+QString fromUtf8(const char *utf8, size_t size)
 {
-    const QString text = QString::fromUtf8(utf8, size);
-    const bool beginsWithMark = QByteArray::fromRawData(utf8, size).startsWith("\xEF\xBB\xBF");
+    static const char mark[] = {'\xEF', '\xBB', '\xBF'};
+    const QString text = QString::fromUtf8(utf8, static_cast<int>(size));
+    const bool beginsWithMark =
+        size >= sizeof(mark) && std::equal(std::begin(mark), std::end(mark), utf8);
     return beginsWithMark ? QChar(QChar::ByteOrderMark) + text : text;
 }
 
@@ -93,7 +94,7 @@ bool isName(const QString &text)
     XML_Parser parser = XML_ParserCreate("UTF-8");
     XML_SetUserData(parser, &found);
     XML_SetStartElementHandler(parser, [](void *name, const XML_Char *tagName, const XML_Char **) {
-        *static_cast<QString *>(name) = fromUtf8(tagName, static_cast<int>(qstrlen(tagName)));
+        *static_cast<QString *>(name) = fromUtf8(tagName, qstrlen(tagName));
     });
     const bool isElement =
         XML_Parse(parser, tag.constData(), tag.size(), XML_TRUE) == XML_STATUS_OK;

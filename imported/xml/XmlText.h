@@ -7,10 +7,10 @@ namespace XmlText {
 
 /** Whether there is nothing but what XML calls white space; a no-break space is not. */
 bool isBlank(const QString &text);
-bool isBlank(const QByteArray &utf8);
+bool isBlank(const char *utf8, size_t size);
 
 /** The text of valid UTF-8, as it stands: QString drops a byte-order mark that it begins with. */
-QString fromUtf8(const char *utf8, int size);
+QString fromUtf8(const char *utf8, size_t size);
 
 /** The first unit that is half of a pair without its other half; -1 if there is none. */
 int indexOfLoneSurrogate(const QString &text);
