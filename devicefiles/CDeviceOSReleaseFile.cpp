@@ -102,8 +102,9 @@ EFileResult CDeviceOSReleaseFile::open(const QString &fileName)
 {
     d->map.clear();
     QByteArray content;
-    d->errorText = FileStorage::read(fileName, content).reason;
-    if (!d->errorText.isEmpty()) {
+    const FileStorage::SResult read = FileStorage::read(fileName, content);
+    d->errorText = read.reason;
+    if (!read) {
         return FILE_RESULT_READ_FAILURE;
     }
     return openFromBuffer(content);
@@ -120,8 +121,9 @@ EFileResult CDeviceOSReleaseFile::save(const QString &fileName)
 {
     QByteArray content;
     saveToBuffer(content);
-    d->errorText = FileStorage::replace(fileName, content).reason;
-    return d->errorText.isEmpty() ? FILE_RESULT_SUCCESS : FILE_RESULT_WRITE_FAILURE;
+    const FileStorage::SResult saved = FileStorage::replace(fileName, content);
+    d->errorText = saved.reason;
+    return saved ? FILE_RESULT_SUCCESS : FILE_RESULT_WRITE_FAILURE;
 }
 
 QString CDeviceOSReleaseFile::errorText() const

@@ -15,7 +15,7 @@ jobs=$(nproc)
 # shellcheck disable=SC2034
 {
     build_packages=(g++ cmake ninja-build qtbase5-dev libexpat1-dev pkg-config python3-minimal)
-    test_packages=("${build_packages[@]}" git tzdata)
+    test_packages=("${build_packages[@]}" git tzdata strace)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)
     tidy_packages=("${test_packages[@]}" clang-tidy-14)

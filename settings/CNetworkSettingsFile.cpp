@@ -56,11 +56,10 @@ EFileResult CNetworkSettingsFile::open(const QString &fileName)
 {
     QByteArray content;
     QHash<QString, QString> values;
-    m_errorText = FileStorage::read(fileName, content).reason;
-    if (m_errorText.isEmpty() && !NetworkText::readValues(content, values)) {
-        m_errorText = qt_error_string(ENOMEM);
-    }
-    if (!m_errorText.isEmpty()) {
+    const FileStorage::SResult read = FileStorage::read(fileName, content);
+    const bool isRead = read && NetworkText::readValues(content, values);
+    m_errorText = read && !isRead ? qt_error_string(ENOMEM) : read.reason;
+    if (!isRead) {
         return FILE_RESULT_FAILURE;
     }
     for (const NetworkText::SKey &key : NetworkText::keys()) {

@@ -78,13 +78,17 @@ QByteArray directoryOf(const QByteArray &name)
     return name.left(name.lastIndexOf('/') + 1);
 }
 
-/** Where the links from @p name end, also when nothing is there yet. */
+/** Where the links from @p name end, also when nothing is there; empty, with errno, on failure. */
 QByteArray followLinks(QByteArray name)
 {
     for (int i = 0; i < MaxLinks; ++i) {
         QByteArray target(PATH_MAX, Qt::Uninitialized);
         const ssize_t size =
             readlink(name.constData(), target.data(), static_cast<size_t>(target.size()));
+        const bool isNoLink = errno == EINVAL || errno == ENOENT || errno == ENOTDIR;
+        if (size < 0 && !isNoLink) {
+            return QByteArray();
+        }
         if (size <= 0 || size == target.size()) {
             break;
         }
@@ -245,12 +249,11 @@ SResult overwrite(const QString &path, const QByteArray &name, const QByteArray 
     if (!file.isOpen()) {
         return failure(NOT_OPENED, errno);
     }
-    if (permissions && fchmod(file.get(), toMode(permissions)) != 0) {
-        return failure(NOT_FINISHED, errno);
-    }
     const bool hasSpace =
         content.size() <= before.size() || reserve(file.get(), content.size()) == 0;
-    if (hasSpace && rewrite(file.get(), content) == 0) {
+    // The mode comes last: it is not taken back.
+    if (hasSpace && rewrite(file.get(), content) == 0
+        && (!permissions || fchmod(file.get(), toMode(permissions)) == 0)) {
         return SResult();
     }
     const int error = errno;
@@ -273,9 +276,11 @@ bool holds(const QString &path, const struct stat &status, const QByteArray &con
 /** Gives a file that has its content already the rest of what replace() promises. */
 SResult confirm(int fd, const struct stat &status, QFileDevice::Permissions permissions)
 {
-    const bool hasMode = !permissions || (status.st_mode & ALLPERMS) == toMode(permissions)
-        || fchmod(fd, toMode(permissions)) == 0;
-    return hasMode && sync(fd) == 0 ? SResult() : notConfirmed(errno);
+    if (permissions && (status.st_mode & ALLPERMS) != toMode(permissions)
+        && fchmod(fd, toMode(permissions)) != 0) {
+        return failure(NOT_FINISHED, errno);
+    }
+    return sync(fd) == 0 ? SResult() : notConfirmed(errno);
 }
 
 SResult writeTo(Descriptor &device, const QByteArray &content)
@@ -326,9 +331,13 @@ SResult read(const QString &path, QByteArray &content, qint64 maximumSize)
 SResult replace(const QString &path, const QByteArray &content,
                 QFileDevice::Permissions permissions)
 {
-    const QByteArray name = followLinks(systemName(path));
-    if (name.isEmpty()) {
+    const QByteArray givenName = systemName(path);
+    if (givenName.isEmpty()) {
         return failure(NOT_OPENED, ENOENT);
+    }
+    const QByteArray name = followLinks(givenName);
+    if (name.isEmpty()) {
+        return failure(NOT_OPENED, errno);
     }
     Descriptor old(open(name.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     const bool isNew = !old.isOpen() && errno == ENOENT;

@@ -92,6 +92,8 @@ bool isName(const QString &text)
     const QByteArray tag = '<' + text.toUtf8() + "/>";
     QString found;
     XML_Parser parser = XML_ParserCreate("UTF-8");
+    // Without a salt of its own expat asks the system for a random one; one name needs none.
+    XML_SetHashSalt(parser, 1);
     XML_SetUserData(parser, &found);
     XML_SetStartElementHandler(parser, [](void *name, const XML_Char *tagName, const XML_Char **) {
         *static_cast<QString *>(name) = fromUtf8(tagName, qstrlen(tagName));
