@@ -172,6 +172,11 @@ private slots:
     void unwritableText_data();
     void unwritableText();
 
+    void positions();
+    void positionsOfOtherElements();
+    void limitsOfSaving_data();
+    void limitsOfSaving();
+
     void saveTwice();
     void saveAfterChange_data();
     void saveAfterChange();
@@ -873,6 +878,117 @@ void tst_CXmlAbstractVornFile::unwritableText()
         QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
         // The document itself stays.
         QCOMPARE(inAttribute ? element.attribute(text("a")) : file.getNodeValue(element), value);
+    }
+}
+
+void tst_CXmlAbstractVornFile::positions()
+{
+    const QByteArray bytes = "<?xml version=\"1.0\"?>\n<!-- \xC3\xA9 -->\n"
+                             "<VornDeviceConfig version=\"1.0\">\r\n"
+                             "\t<A>\xC3\xA9\xF0\x9F\x98\x80</A><B\n a='&lt;'/>\n"
+                             "<B><A/></B></VornDeviceConfig>";
+    TestFile file;
+    file.keepPositions(true);
+    QVERIFY(file.openBytes(bytes));
+    const QDomElement root = file.root();
+    const auto place = [&file](const QDomElement &element) {
+        const SXmlPosition position = file.position(element);
+        return QPair<qint64, qint64>(position.line, position.column);
+    };
+    using Place = QPair<qint64, qint64>;
+    const QDomElement a = root.firstChildElement(text("A"));
+    const QDomElement firstB = root.firstChildElement(text("B"));
+    const QDomElement secondB = firstB.nextSiblingElement(text("B"));
+    QCOMPARE(place(root), Place(3, 1));
+    QCOMPARE(place(a), Place(4, 2));
+    QCOMPARE(place(firstB), Place(4, 11)); // characters, not bytes
+    QCOMPARE(place(secondB), Place(6, 1));
+    QCOMPARE(place(secondB.firstChildElement()), Place(6, 4));
+    QVERIFY(file.position(a).isKnown());
+
+    // The places are those in the file, whatever happens to the document.
+    QDomElement parent = root;
+    parent.insertBefore(secondB, a);
+    parent.removeChild(firstB);
+    QCOMPARE(place(secondB), Place(6, 1));
+    QCOMPARE(place(firstB), Place(4, 11));
+}
+
+void tst_CXmlAbstractVornFile::positionsOfOtherElements()
+{
+    const MessageCatcher catcher;
+    TestFile file;
+    const auto isKnown = [&file](const QDomElement &element) {
+        return file.position(element).isKnown();
+    };
+    QVERIFY(!isKnown(QDomElement()));
+    QVERIFY(file.openBytes(document("<Device/>")));
+    QVERIFY(!isKnown(file.root())); // not asked for
+
+    file.keepPositions(true);
+    QVERIFY(file.openBytes(document("<Device/>")));
+    const QDomElement before = file.root();
+    QVERIFY(isKnown(before));
+    QVERIFY(!isKnown(file.domElement(text("New"), QDomElement())));
+    // Many new ones after the read ones are gone: none may take the place of another in memory.
+    file.root().removeChild(file.root().firstChildElement(text("Device")));
+    for (int i = 0; i < 100; ++i) {
+        QVERIFY(!isKnown(file.domElement(QStringLiteral("New%1").arg(i), QDomElement())));
+    }
+
+    QVERIFY(!file.openBytes("<VornDeviceConfig><A>"));
+    QVERIFY(!isKnown(before));
+    QVERIFY(file.openBytes(document("<Device/>")));
+    QVERIFY(file.createNewDocument(Type, Version));
+    QVERIFY(!isKnown(file.root()));
+    file.keepPositions(false);
+    QVERIFY(file.openBytes(document("<Device/>")));
+    QVERIFY(!isKnown(file.root()));
+}
+
+void tst_CXmlAbstractVornFile::limitsOfSaving_data()
+{
+    QTest::addColumn<int>("fileSize");
+    QTest::addColumn<int>("depth");
+    QTest::addColumn<int>("attributes");
+    QTest::addColumn<int>("nameLength");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("all just met") << 118 << 2 << 3 << 16 << QString();
+    QTest::newRow("file size") << 117 << 2 << 3 << 16 << text("than 117 bytes");
+    QTest::newRow("depth") << 118 << 1 << 3 << 16 << text("more than 1 deep");
+    QTest::newRow("attributes") << 118 << 2 << 2 << 16 << text("'Device' has more than 2 attrib");
+    QTest::newRow("name") << 118 << 2 << 3 << 15 << text("more than 15 char");
+}
+
+/** What could not be read again is not written. */
+void tst_CXmlAbstractVornFile::limitsOfSaving()
+{
+    QFETCH(int, fileSize);
+    QFETCH(int, depth);
+    QFETCH(int, attributes);
+    QFETCH(int, nameLength);
+    QFETCH(QString, reason);
+
+    TestFile file;
+    QVERIFY(file.openBytes(document("<Device a=\"\" b=\"\" c=\"\"/>")));
+    SXmlLimits limits;
+    limits.fileSize = fileSize;
+    limits.depth = depth;
+    limits.attributes = attributes;
+    limits.nameLength = nameLength;
+    file.setLimits(limits);
+    const MessageCatcher catcher;
+    QByteArray buffer = "as it was";
+    QString error;
+    QCOMPARE(file.save(buffer, error), reason.isEmpty());
+    if (reason.isEmpty()) {
+        QCOMPARE(buffer.size(), fileSize);
+        QVERIFY(file.openBytes(buffer));
+    } else {
+        QVERIFY2(error.contains(reason), qPrintable(error));
+        QCOMPARE(catcher.criticals(), QStringList{error});
+        QCOMPARE(buffer, QByteArray("as it was"));
     }
 }
 

@@ -11,6 +11,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <cerrno>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -204,6 +205,11 @@ private slots:
 
     void replaces_data();
     void replaces();
+    void unchangedIsNotWritten_data();
+    void unchangedIsNotWritten();
+    void permissionsOfUnchanged();
+    void causes_data();
+    void causes();
     void relativePath_data() { addSavers(); }
     void relativePath();
     void links_data();
@@ -304,6 +310,101 @@ void tst_replacingfiles::replaces()
     QCOMPARE(saver.save(path()), 0);
     QCOMPARE(Files::read(path()), saver.text());
     QCOMPARE(entries(), QStringList{u"file"_s});
+}
+
+void tst_replacingfiles::unchangedIsNotWritten_data()
+{
+    QTest::addColumn<SSaver>("saver");
+    QTest::addColumn<bool>("isLink");
+    QTest::addColumn<bool>("isChanged");
+
+    for (const SSaver &saver : Savers) {
+        for (const bool isLink : {false, true}) {
+            for (const bool isChanged : {false, true}) {
+                QTest::addRow("%s, %s%s", saver.name, isChanged ? "changed" : "unchanged",
+                              isLink ? ", through a link" : "")
+                    << saver << isLink << isChanged;
+            }
+        }
+    }
+}
+
+void tst_replacingfiles::unchangedIsNotWritten()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(bool, isLink);
+    QFETCH(bool, isChanged);
+
+    QByteArray old = saver.text();
+    if (isChanged) {
+        old.back() = ' '; // as many bytes
+    }
+    QVERIFY(Files::write(path(), old));
+    const timespec longAgo[] = {{1000, 5}, {2000, 7}};
+    QCOMPARE(utimensat(AT_FDCWD, native(path()).constData(), longAgo, 0), 0);
+    QVERIFY(!isLink || QFile::link(u"file"_s, path(u"link"_s)));
+    const ino_t number = statusOf(path()).st_ino;
+
+    QCOMPARE(saver.save(path(isLink ? u"link"_s : u"file"_s)), 0);
+    QCOMPARE(Files::read(path()), saver.text());
+    const struct stat status = statusOf(path());
+    QCOMPARE(status.st_ino == number, !isChanged);
+    QCOMPARE(status.st_mtim.tv_sec == 2000 && status.st_mtim.tv_nsec == 7, !isChanged);
+    QCOMPARE(entries().size(), isLink ? 2 : 1);
+}
+
+void tst_replacingfiles::permissionsOfUnchanged()
+{
+    QVERIFY(Files::write(path(), xmlText()));
+    QVERIFY(setMode(path(), 0600));
+    const ino_t number = statusOf(path()).st_ino;
+    XmlFile file;
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadOther);
+    QString error;
+    QVERIFY2(file.save(path(), error), qPrintable(error));
+    QCOMPARE(modeOf(path()), 0604);
+    QCOMPARE(statusOf(path()).st_ino, number);
+}
+
+void tst_replacingfiles::causes_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("cause");
+
+    QTest::newRow("no directory") << u"nothing/file"_s << ENOENT;
+    QTest::newRow("directory") << u"."_s << EISDIR;
+    QTest::newRow("no name") << u""_s << ENOENT;
+    QTest::newRow("disk that is full") << u"/dev/full"_s << ENOSPC;
+}
+
+/** The small files tell by a number that they failed, and by a text of the system why. */
+void tst_replacingfiles::causes()
+{
+    QFETCH(QString, name);
+    QFETCH(int, cause);
+
+    const QString fileName = name.isEmpty() || name.startsWith(u'/') ? name : path(name);
+    CNetworkSettingsFile network;
+    CDeviceOSReleaseFile release;
+    fill(release);
+    QVERIFY(network.errorText().isEmpty());
+    QVERIFY(release.errorText().isEmpty());
+    QVERIFY(network.save(fileName) != NvrnGlobal::FILE_RESULT_SUCCESS);
+    QVERIFY(release.save(fileName) != NvrnGlobal::FILE_RESULT_SUCCESS);
+    QCOMPARE(network.errorText(), qt_error_string(cause));
+    QCOMPARE(release.errorText(), qt_error_string(cause));
+
+    // A success takes the text back; what is read fails in the same words.
+    QCOMPARE(network.save(path()), NvrnGlobal::FILE_RESULT_SUCCESS);
+    QCOMPARE(release.save(path()), NvrnGlobal::FILE_RESULT_SUCCESS);
+    QCOMPARE(network.errorText(), QString());
+    QCOMPARE(release.errorText(), QString());
+    if (cause != ENOSPC) {
+        QVERIFY(network.open(fileName) != NvrnGlobal::FILE_RESULT_SUCCESS);
+        QVERIFY(release.open(fileName) != NvrnGlobal::FILE_RESULT_SUCCESS);
+        QCOMPARE(network.errorText(), qt_error_string(cause));
+        QCOMPARE(release.errorText(), qt_error_string(cause));
+    }
 }
 
 void tst_replacingfiles::relativePath()
