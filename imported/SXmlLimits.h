@@ -17,6 +17,11 @@ struct SXmlLimits {
     int depth = 256;
     /** Attributes of one element. */
     int attributes = 256;
+    /**
+     * Elements, attributes, texts, comments, CDATA sections and processing instructions together:
+     * each takes some hundred bytes of memory, however short it is in the file.
+     */
+    int nodes = 5 * 1000 * 1000;
     /** UTF-16 units of the name of an element, attribute or processing instruction. */
     int nameLength = 1024;
 

@@ -951,14 +951,17 @@ void tst_CXmlAbstractVornFile::limitsOfSaving_data()
     QTest::addColumn<int>("fileSize");
     QTest::addColumn<int>("depth");
     QTest::addColumn<int>("attributes");
+    QTest::addColumn<int>("nodes");
     QTest::addColumn<int>("nameLength");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("all just met") << 118 << 2 << 3 << 16 << QString();
-    QTest::newRow("file size") << 117 << 2 << 3 << 16 << text("than 117 bytes");
-    QTest::newRow("depth") << 118 << 1 << 3 << 16 << text("more than 1 deep");
-    QTest::newRow("attributes") << 118 << 2 << 2 << 16 << text("'Device' has more than 2 attrib");
-    QTest::newRow("name") << 118 << 2 << 3 << 15 << text("more than 15 char");
+    QTest::newRow("all just met") << 146 << 2 << 3 << 9 << 16 << QString();
+    QTest::newRow("file size") << 145 << 2 << 3 << 9 << 16 << text("than 145 bytes");
+    QTest::newRow("depth") << 146 << 1 << 3 << 9 << 16 << text("more than 1 deep");
+    QTest::newRow("attributes") << 146 << 2 << 2 << 9 << 16
+                                << text("'Device' has more than 2 attrib");
+    QTest::newRow("nodes") << 146 << 2 << 3 << 8 << 16 << text("more than 8 nodes");
+    QTest::newRow("name") << 146 << 2 << 3 << 9 << 15 << text("more than 15 char");
 }
 
 /** What could not be read again is not written. */
@@ -967,15 +970,18 @@ void tst_CXmlAbstractVornFile::limitsOfSaving()
     QFETCH(int, fileSize);
     QFETCH(int, depth);
     QFETCH(int, attributes);
+    QFETCH(int, nodes);
     QFETCH(int, nameLength);
     QFETCH(QString, reason);
 
     TestFile file;
-    QVERIFY(file.openBytes(document("<Device a=\"\" b=\"\" c=\"\"/>")));
+    // Two elements, four attributes with that of the root, a text, a section and a comment.
+    QVERIFY(file.openBytes(document("<Device a=\"\" b=\"\" c=\"\">d<![CDATA[]]><!----></Device>")));
     SXmlLimits limits;
     limits.fileSize = fileSize;
     limits.depth = depth;
     limits.attributes = attributes;
+    limits.nodes = nodes;
     limits.nameLength = nameLength;
     file.setLimits(limits);
     const MessageCatcher catcher;

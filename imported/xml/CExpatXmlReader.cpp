@@ -356,7 +356,11 @@ private:
                            .arg(element.tagName(), QString::number(m_limits.attributes)));
                 return;
             }
+            countNode();
             const QString name = nameOf(attribute[0]);
+            if (m_isRefused) {
+                return;
+            }
             element.setAttribute(name, m_texts.string(attribute[1], qstrlen(attribute[1])));
         }
     }
@@ -439,6 +443,7 @@ private:
             const QDomNode text =
                 textNode(m_texts.string(m_blankBytes.data() + at, m_blanks[i].size));
             at += m_blanks[i].size;
+            countNode();
             if (next.isNull()) {
                 open.element.appendChild(text);
             } else {
@@ -481,8 +486,16 @@ private:
         }
     }
 
+    void countNode()
+    {
+        if (++m_nodes > m_limits.nodes && !m_isRefused) {
+            refuse(tr("The document has more than %1 nodes.").arg(m_limits.nodes));
+        }
+    }
+
     void append(const QDomNode &node)
     {
+        countNode();
         if (m_open.empty()) {
             m_document.appendChild(node);
         } else {
@@ -500,6 +513,7 @@ private:
     bool m_isRefused = false;
     SXmlError m_error;
 
+    int m_nodes = 0;
     QDomDocument m_document;
     QDomText m_textPattern;
     std::vector<SOpenElement> m_open;

@@ -101,8 +101,17 @@ private:
         return quote + text.toUtf8() + quote;
     }
 
+    void countNodes(int count)
+    {
+        m_nodes += count;
+        if (m_nodes > m_limits.nodes) {
+            fail(tr("The document has more than %1 nodes.").arg(m_limits.nodes));
+        }
+    }
+
     void writeElement(const QDomElement &element, const QByteArray &name, int depth)
     {
+        countNodes(1);
         if (depth > m_limits.depth) {
             fail(tr("Elements are nested more than %1 deep.").arg(m_limits.depth));
             return;
@@ -158,6 +167,7 @@ private:
             writeElement(node.toElement(), nameOf(node.nodeName()), depth + 1);
             break;
         case QDomNode::TextNode:
+            countNodes(1);
             writeEscaped(node.nodeValue(), parent, Context::Text);
             break;
         case QDomNode::CDATASectionNode:
@@ -176,6 +186,7 @@ private:
                      .arg(element.tagName(), QString::number(m_limits.attributes)));
             return;
         }
+        countNodes(attributes.count());
         QMap<QString, QString> sorted;
         for (int i = 0; i < attributes.count(); ++i) {
             const QDomNode attribute = attributes.item(i);
@@ -193,6 +204,7 @@ private:
     /** A section cannot hold its own end mark: it is split in two there. */
     void writeSection(QString value, const QDomElement &parent)
     {
+        countNodes(1 + value.count(QLatin1String("]]>")));
         checkCharacters(value, parent);
         value.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
         m_chunk += "<![CDATA[";
@@ -202,6 +214,7 @@ private:
 
     void writeOther(const QDomNode &node)
     {
+        countNodes(1);
         const QString value = node.nodeValue();
         checkCharacters(value, node.parentNode());
         if (node.isComment()) {
@@ -316,6 +329,7 @@ private:
     const QString m_rootName;
     const SXmlLimits m_limits;
     QHash<QString, QByteArray> m_names;
+    int m_nodes = 0;
     std::string m_chunk; // what is not yet among the bytes
     QByteArray m_bytes;
     QString m_reason;
