@@ -57,9 +57,9 @@ QString tooLarge(qint64 maximumSize);
  * of that alone is told as NOT_CONFIRMED. A directory that may not be read cannot be synced.
  *
  * The file keeps its mode, owner and group; one that may not be given away belongs to whoever
- * replaces it. A symbolic link stays one, and its target is replaced; other hard links keep the old content. A
- * character device is written to, not replaced; directories, pipes and disks are refused. A file
- * that may not be written is left alone, even if its directory may be.
+ * replaces it. A symbolic link stays one, and its target is replaced; other hard links keep the old
+ * content. A character device is written to, not replaced; directories, pipes and disks are
+ * refused. A file that may not be written is left alone, even if its directory may be.
  *
  * @param permissions of the file; none keeps those of the old file, or takes the process's default
  */
