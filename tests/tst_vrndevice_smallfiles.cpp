@@ -54,6 +54,7 @@ private slots:
     void networkSetWarnsOfAnotherSubnet();
     void networkSetLosesNoLine_data();
     void networkSetLosesNoLine();
+    void networkNotSaved_data();
     void networkNotSaved();
     void networkCheck();
     void networkCheckFindsNothing();
@@ -329,13 +330,25 @@ void tst_vrndevice_smallfiles::networkSetLosesNoLine()
     QCOMPARE(Files::read(path(Network)), content);
 }
 
+void tst_vrndevice_smallfiles::networkNotSaved_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("no directory") << u"missing/x"_s << u"No such file or directory"_s;
+    QTest::newRow("too long a name") << QString(300, u'x') << u"File name too long"_s;
+}
+
 void tst_vrndevice_smallfiles::networkNotSaved()
 {
-    const SResult result = run(u"network set missing/x --create MODE=DHCP"_s);
+    QFETCH(QString, file);
+    QFETCH(QString, reason);
+
+    const SResult result = run(u"network set %1 --create MODE=DHCP"_s.arg(file));
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.output.isEmpty());
-    QVERIFY2(result.errors.contains(u"missing/x: The file could not be saved"_s),
-             qPrintable(result.errors));
+    QCOMPARE(result.errors,
+             u"vrndevice: error: %1: The file could not be saved: %2\n"_s.arg(file, reason));
 }
 
 void tst_vrndevice_smallfiles::networkCheck()
