@@ -386,6 +386,10 @@ void addEncodingRows(const RefusedRows &rows)
 
     rows.addUnmarked("ISO-8859-1 bytes as UTF-8", []() { return declared("UTF-8", "\xE9"); });
     rows.addUnmarked("UTF-16 declared, UTF-8 found", []() { return declared("UTF-16", "a"); });
+    for (const char *encoding : {"ISO-8859-1", "windows-1252"}) {
+        rows.addUnmarked(encoding + QByteArray(" declared behind a mark of UTF-8"),
+                         [encoding]() { return "\xEF\xBB\xBF" + declared(encoding, "a"); });
+    }
     rows.addUnmarked("UTF-16LE declared, UTF-8 found", []() { return declared("UTF-16LE", "a"); });
     rows.addUnmarked("US-ASCII declared, more found",
                      []() { return declared("US-ASCII", "\xC3\xA9"); });

@@ -90,8 +90,7 @@ SXmlPosition endOf(const QByteArray &utf8)
     return end;
 }
 
-/** Names the first entity in a start tag that XML does not define itself; empty if there is none.
- */
+/** The first entity in a start tag that XML does not define itself; empty if there is none. */
 QByteArray undeclaredEntity(const QByteArray &tag)
 {
     for (int at = tag.indexOf('&'); at >= 0; at = tag.indexOf('&', at + 1)) {
@@ -126,8 +125,7 @@ struct SOpenElement {
     size_t firstBlankByte;
 };
 
-/** Blank text of which is not known yet whether it is layout; it stands before the child `index`.
- */
+/** Blank text before the child `index`; whether it is layout is not known yet. */
 struct SBlank {
     int index;
     size_t size;
@@ -148,8 +146,13 @@ public:
         document = QDomDocument();
         const Utf16 order = utf16Of(bytes);
         bool complete = true;
-        m_isUtf16 = order != Utf16::No;
-        m_bytes = m_isUtf16 ? fromUtf16(bytes, order, complete) : bytes;
+        if (order != Utf16::No) {
+            m_markedEncoding = "utf-16";
+            m_bytes = fromUtf16(bytes, order, complete);
+        } else {
+            m_markedEncoding = bytes.startsWith("\xEF\xBB\xBF") ? "utf-8" : "";
+            m_bytes = bytes;
+        }
         if (!parse(complete)) {
             if (!m_isRefused) {
                 refuse(errorText());
@@ -168,10 +171,8 @@ public:
 private:
     bool parse(bool isComplete)
     {
-        m_parser.reset(XML_ParserCreate(m_isUtf16 ? "UTF-8" : nullptr));
-        if (m_parser == nullptr) {
-            throw std::bad_alloc();
-        }
+        m_parser.reset(XML_ParserCreate(m_markedEncoding == "utf-16" ? "UTF-8" : nullptr));
+        Q_CHECK_PTR(m_parser.get());
         XML_Parser parser = m_parser.get();
         XML_SetUserData(parser, this);
         XML_SetUnknownEncodingHandler(parser, fillEncoding, nullptr);
@@ -200,12 +201,15 @@ private:
         try {
             (self->*Handler)(arguments...);
         } catch (const std::bad_alloc &) {
-            self->refuse(tr("There is not enough memory to read the document."));
+            self->refuse(XmlText::outOfMemory());
         }
     }
 
     void refuse(const QString &reason)
     {
+        if (m_isRefused) {
+            return;
+        }
         m_isRefused = true;
         m_error.reason = reason;
         m_error.position = currentPosition();
@@ -259,7 +263,7 @@ private:
         case XML_ERROR_XML_DECL:
             return tr("The XML declaration is not well-formed.");
         case XML_ERROR_NO_MEMORY:
-            return tr("There is not enough memory to read the document.");
+            return XmlText::outOfMemory();
         default:
             return QString::fromUtf8(XML_ErrorString(code));
         }
@@ -269,7 +273,8 @@ private:
     {
         if (version != nullptr && qstrcmp(version, "1.0") != 0) {
             refuse(tr("The XML version '%1' is not known.").arg(QString::fromUtf8(version)));
-        } else if (m_isUtf16 && encoding != nullptr && qstrnicmp(encoding, "utf-16", 6) != 0) {
+        } else if (encoding != nullptr
+                   && !QByteArray(encoding).toLower().startsWith(m_markedEncoding)) {
             refuse(tr("The document is not in the encoding that it declares."));
         }
     }
@@ -488,7 +493,7 @@ private:
 
     void countNode()
     {
-        if (++m_nodes > m_limits.nodes && !m_isRefused) {
+        if (++m_nodes > m_limits.nodes) {
             refuse(tr("The document has more than %1 nodes.").arg(m_limits.nodes));
         }
     }
@@ -508,7 +513,7 @@ private:
     CXmlPositions *const m_positions;
     Parser m_parser;
     QByteArray m_bytes;
-    bool m_isUtf16 = false;
+    QByteArray m_markedEncoding; // how its first bytes say that it is encoded; empty if they do not
     bool m_hasExternalSubset = false;
     bool m_isRefused = false;
     SXmlError m_error;
@@ -531,5 +536,11 @@ private:
 bool CExpatXmlReader::read(const QByteArray &bytes, const SXmlLimits &limits,
                            QDomDocument &document, CXmlPositions *positions, SXmlError &error) const
 {
-    return Builder(limits, positions).build(bytes, document, error);
+    try {
+        return Builder(limits, positions).build(bytes, document, error);
+    } catch (const std::bad_alloc &) {
+        document = QDomDocument();
+        error = {SXmlPosition(), XmlText::outOfMemory()};
+        return false;
+    }
 }

@@ -7,6 +7,7 @@
 #include <QMap>
 
 #include <limits>
+#include <new>
 #include <string>
 
 namespace {
@@ -340,11 +341,16 @@ private:
 bool CIndentingXmlWriter::write(const QDomDocument &document, const QString &rootName,
                                 const SXmlLimits &limits, QByteArray &bytes, QString &reason) const
 {
-    Output output(rootName, limits);
-    if (!output.write(document)) {
-        reason = output.reason();
+    try {
+        Output output(rootName, limits);
+        if (!output.write(document)) {
+            reason = output.reason();
+            return false;
+        }
+        bytes = output.bytes();
+        return true;
+    } catch (const std::bad_alloc &) {
+        reason = XmlText::outOfMemory();
         return false;
     }
-    bytes = output.bytes();
-    return true;
 }

@@ -53,10 +53,13 @@ public:
         SXmlError error;
         if (!reader->read(bytes, limits, loaded, keepsPositions ? &positions : nullptr, error)) {
             positions.clear();
-            const QString place = QStringLiteral("%1:%2").arg(
-                QString::number(error.position.line), QString::number(error.position.column));
-            return fail(origin.isEmpty() ? place : origin + QLatin1Char(':') + place, error.reason,
-                        errorText);
+            QStringList place = {origin};
+            if (error.position.isKnown()) {
+                place << QString::number(error.position.line)
+                      << QString::number(error.position.column);
+            }
+            place.removeAll(QString());
+            return fail(place.join(QLatin1Char(':')), error.reason, errorText);
         }
         QDomElement root = loaded.documentElement();
         if (root.tagName() != documentType) {

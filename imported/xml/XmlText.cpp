@@ -1,5 +1,7 @@
 #include "imported/xml/XmlText.h"
 
+#include <QCoreApplication>
+
 #include <expat.h>
 
 #include <algorithm>
@@ -49,6 +51,12 @@ bool isBlank(const QString &text)
 bool isBlank(const char *utf8, size_t size)
 {
     return std::all_of(utf8, utf8 + size, isBlankUnit<char>);
+}
+
+QString outOfMemory()
+{
+    return QCoreApplication::translate("CXmlAbstractVornFile",
+                                       "There is not enough memory for the document.");
 }
 
 QString fromUtf8(const char *utf8, size_t size)

@@ -9,6 +9,9 @@ namespace XmlText {
 bool isBlank(const QString &text);
 bool isBlank(const char *utf8, size_t size);
 
+/** Why neither reading nor writing can go on, for the user. */
+QString outOfMemory();
+
 /** The text of valid UTF-8, as it stands: QString drops a byte-order mark that it begins with. */
 QString fromUtf8(const char *utf8, size_t size);
 
