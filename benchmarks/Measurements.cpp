@@ -42,7 +42,7 @@ bool Measurements::run(bool quick)
     // The library takes its options from a command line only.
     char program[] = "speed";
     char mixed[] = "--benchmark_enable_random_interleaving=true";
-    char repetitions[] = "--benchmark_repetitions=15";
+    char repetitions[] = "--benchmark_repetitions=9";
     char once[] = "--benchmark_repetitions=1";
     char time[] = "--benchmark_min_time=0.02";
     char shortTime[] = "--benchmark_min_time=0.01";

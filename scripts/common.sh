@@ -19,6 +19,7 @@ jobs=$(nproc)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)
     tidy_packages=("${test_packages[@]}" clang-tidy-14)
+    benchmark_packages=("${build_packages[@]}" libbenchmark-dev libpugixml-dev libxml2-dev)
     chroot_packages=(debootstrap git util-linux)
     shell_packages=(git shellcheck)
 }
