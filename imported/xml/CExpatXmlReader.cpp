@@ -309,9 +309,10 @@ private:
         refuse(tr("The entity '%1' is not declared.").arg(QString::fromUtf8(name)));
     }
 
-    QString nameOf(const XML_Char *name)
+    /** Valid until the next call. */
+    const QString &nameOf(const XML_Char *name)
     {
-        const QString result = m_names.string(name, qstrlen(name));
+        const QString &result = m_names.string(name, qstrlen(name));
         if (result.size() > m_limits.nameLength) {
             refuse(tr("A name has more than %1 characters.").arg(m_limits.nameLength));
         }
@@ -362,7 +363,7 @@ private:
                 return;
             }
             countNode();
-            const QString name = nameOf(attribute[0]);
+            const QString &name = nameOf(attribute[0]);
             if (m_isRefused) {
                 return;
             }
@@ -438,6 +439,9 @@ private:
     void insertBlanks()
     {
         SOpenElement &open = m_open.back();
+        if (m_blanks.size() == open.firstBlank) {
+            return;
+        }
         QDomNode next = open.element.firstChild();
         int index = 0;
         size_t at = open.firstBlankByte;
@@ -485,7 +489,7 @@ private:
     void takeInstruction(const XML_Char *target, const XML_Char *data)
     {
         flushText();
-        const QString name = nameOf(target);
+        const QString &name = nameOf(target);
         if (!m_isRefused) {
             append(m_document.createProcessingInstruction(name, toText(data)));
         }

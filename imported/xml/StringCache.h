@@ -14,11 +14,11 @@
 class StringCache
 {
 public:
-    /** @p size in bytes; the bytes are valid UTF-8. */
-    QString string(const char *utf8, size_t size)
+    /** @p size in bytes; the bytes are valid UTF-8. The result is valid until the next call. */
+    const QString &string(const char *utf8, size_t size)
     {
         if (size > MaximumSize) {
-            return XmlText::fromUtf8(utf8, size);
+            return m_long = XmlText::fromUtf8(utf8, size);
         }
         SEntry &entry = m_entries[slot(utf8, size)];
         if (entry.size != size || std::memcmp(entry.utf8, utf8, size) != 0) {
@@ -31,12 +31,12 @@ public:
 
 private:
     static constexpr size_t MaximumSize = 64;
-    static constexpr size_t Slots = 512;
+    static constexpr size_t Slots = 128; // what is used often stays in the processor's cache
 
     struct SEntry {
-        size_t size = 0;
+        size_t size = MaximumSize + 1; // as no text in the cache
         char utf8[MaximumSize];
-        QString text = QLatin1String("");
+        QString text;
     };
 
     /** Names and paths differ at one of their ends; the middle is not worth the time. */
@@ -52,4 +52,5 @@ private:
     }
 
     std::array<SEntry, Slots> m_entries;
+    QString m_long;
 };
