@@ -7,6 +7,7 @@
 #include <QDomImplementation>
 
 #include <QtEndian>
+#include <QVarLengthArray>
 
 #include <expat.h>
 
@@ -14,7 +15,6 @@
 
 #include <memory>
 #include <new>
-#include <string>
 #include <vector>
 
 namespace {
@@ -103,14 +103,22 @@ QByteArray undeclaredEntity(const QByteArray &tag)
     return QByteArray();
 }
 
+int lengthOf(const XML_Char *utf8)
+{
+    return static_cast<int>(qstrlen(utf8));
+}
+
 QString toText(const XML_Char *utf8)
 {
-    return XmlText::fromUtf8(utf8, qstrlen(utf8));
+    return XmlText::fromUtf8(utf8, lengthOf(utf8));
 }
+
+/** Text in UTF-8; the space of a short one is there already. */
+using Bytes = QVarLengthArray<char, 1024>;
 
 /** An open element, and what is known of its text so far. */
 struct SOpenElement {
-    SOpenElement(const QDomElement &opened, size_t blank, size_t blankByte)
+    SOpenElement(const QDomElement &opened, size_t blank, int blankByte)
         : element(opened), firstBlank(blank), firstBlankByte(blankByte)
     {
     }
@@ -122,13 +130,13 @@ struct SOpenElement {
     bool holdsText = false;
     // Where its own blanks begin among all that wait.
     size_t firstBlank;
-    size_t firstBlankByte;
+    int firstBlankByte;
 };
 
 /** Blank text before the child `index`; whether it is layout is not known yet. */
 struct SBlank {
     int index;
-    size_t size;
+    int size;
 };
 
 class Builder
@@ -312,7 +320,7 @@ private:
     /** Valid until the next call. */
     const QString &nameOf(const XML_Char *name)
     {
-        const QString &result = m_names.string(name, qstrlen(name));
+        const QString &result = m_names.string(name, lengthOf(name));
         if (result.size() > m_limits.nameLength) {
             refuse(tr("A name has more than %1 characters.").arg(m_limits.nameLength));
         }
@@ -367,7 +375,7 @@ private:
             if (m_isRefused) {
                 return;
             }
-            element.setAttribute(name, m_texts.string(attribute[1], qstrlen(attribute[1])));
+            element.setAttribute(name, m_texts.string(attribute[1], lengthOf(attribute[1])));
         }
     }
 
@@ -384,14 +392,13 @@ private:
 
     void takeText(const XML_Char *text, int size)
     {
-        const auto length = static_cast<size_t>(size);
-        m_isBlank = m_isBlank && XmlText::isBlank(text, length);
-        m_text.append(text, length);
+        m_isBlank = m_isBlank && XmlText::isBlank(text, size);
+        m_text.append(text, size);
     }
 
     void flushText()
     {
-        if (m_text.empty()) {
+        if (m_text.isEmpty()) {
             return;
         }
         // Outside the root there is only layout; expat refuses everything else.
@@ -399,7 +406,7 @@ private:
             SOpenElement &open = m_open.back();
             if (!open.holdsText && m_isBlank) {
                 m_blanks.push_back({open.children, m_text.size()});
-                m_blankBytes += m_text;
+                m_blankBytes.append(m_text.constData(), m_text.size());
             } else {
                 holdText();
                 append(textNode(m_texts.string(m_text.data(), m_text.size())));
@@ -444,7 +451,7 @@ private:
         }
         QDomNode next = open.element.firstChild();
         int index = 0;
-        size_t at = open.firstBlankByte;
+        int at = open.firstBlankByte;
         for (size_t i = open.firstBlank; i < m_blanks.size(); ++i) {
             for (; index < m_blanks[i].index; ++index) {
                 next = next.nextSibling();
@@ -526,10 +533,10 @@ private:
     QDomDocument m_document;
     QDomText m_textPattern;
     std::vector<SOpenElement> m_open;
-    std::string m_text; // not yet appended, in UTF-8
+    Bytes m_text; // not yet appended, in UTF-8
     bool m_isBlank = true;
     std::vector<SBlank> m_blanks;
-    std::string m_blankBytes;
+    Bytes m_blankBytes;
     // Few names and many equal texts stand in a document: each is kept once.
     StringCache m_names;
     StringCache m_texts;

@@ -15,39 +15,40 @@ class StringCache
 {
 public:
     /** @p size in bytes; the bytes are valid UTF-8. The result is valid until the next call. */
-    const QString &string(const char *utf8, size_t size)
+    const QString &string(const char *utf8, int size)
     {
         if (size > MaximumSize) {
             return m_long = XmlText::fromUtf8(utf8, size);
         }
         SEntry &entry = m_entries[slot(utf8, size)];
-        if (entry.size != size || std::memcmp(entry.utf8, utf8, size) != 0) {
+        if (entry.size != size || std::memcmp(entry.utf8, utf8, static_cast<size_t>(size)) != 0) {
             entry.size = size;
-            std::memcpy(entry.utf8, utf8, size);
+            std::memcpy(entry.utf8, utf8, static_cast<size_t>(size));
             entry.text = XmlText::fromUtf8(utf8, size);
         }
         return entry.text;
     }
 
 private:
-    static constexpr size_t MaximumSize = 64;
+    static constexpr int MaximumSize = 64;
     static constexpr size_t Slots = 128; // what is used often stays in the processor's cache
 
     struct SEntry {
-        size_t size = MaximumSize + 1; // as no text in the cache
+        int size = MaximumSize + 1; // as no text in the cache
         char utf8[MaximumSize];
         QString text;
     };
 
     /** Names and paths differ at one of their ends; the middle is not worth the time. */
-    static size_t slot(const char *utf8, size_t size)
+    static size_t slot(const char *utf8, int size)
     {
         quint64 first = 0;
         quint64 last = 0;
-        const size_t length = qMin(size, sizeof(first));
+        const auto length = qMin(static_cast<size_t>(size), sizeof(first));
         std::memcpy(&first, utf8, length);
         std::memcpy(&last, utf8 + size - length, length);
-        const quint64 hash = (first * 31 + last + size) * Q_UINT64_C(0x9E3779B97F4A7C15);
+        const quint64 hash =
+            (first * 31 + last + static_cast<quint64>(size)) * Q_UINT64_C(0x9E3779B97F4A7C15);
         return static_cast<size_t>(hash >> 32) % Slots;
     }
 

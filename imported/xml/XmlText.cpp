@@ -5,6 +5,7 @@
 #include <expat.h>
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace XmlText {
@@ -15,6 +16,21 @@ template <typename Unit>
 bool isBlankUnit(Unit unit)
 {
     return unit == ' ' || unit == '\t' || unit == '\n' || unit == '\r';
+}
+
+/** Worth asking: the decoder of UTF-8 costs twice as much as that of a text without any. */
+bool isAscii(const char *utf8, int size)
+{
+    quint64 all = 0;
+    quint64 part = 0;
+    const int step = sizeof(part);
+    for (; size >= step; utf8 += step, size -= step) {
+        std::memcpy(&part, utf8, sizeof(part));
+        all |= part;
+    }
+    part = 0;
+    std::memcpy(&part, utf8, static_cast<size_t>(size));
+    return ((all | part) & Q_UINT64_C(0x8080808080808080)) == 0;
 }
 
 bool isPairAt(const QString &text, int index)
@@ -48,7 +64,7 @@ bool isBlank(const QString &text)
                        [](QChar c) { return isBlankUnit(c.unicode()); });
 }
 
-bool isBlank(const char *utf8, size_t size)
+bool isBlank(const char *utf8, int size)
 {
     return std::all_of(utf8, utf8 + size, isBlankUnit<char>);
 }
@@ -59,12 +75,15 @@ QString outOfMemory()
                                        "There is not enough memory for the document.");
 }
 
-QString fromUtf8(const char *utf8, size_t size)
+QString fromUtf8(const char *utf8, int size)
 {
+    if (isAscii(utf8, size)) {
+        return QString::fromLatin1(utf8, size);
+    }
     static const char mark[] = {'\xEF', '\xBB', '\xBF'};
-    const QString text = QString::fromUtf8(utf8, static_cast<int>(size));
-    const bool beginsWithMark =
-        size >= sizeof(mark) && std::equal(std::begin(mark), std::end(mark), utf8);
+    const QString text = QString::fromUtf8(utf8, size);
+    const bool beginsWithMark = size >= static_cast<int>(sizeof(mark))
+        && std::equal(std::begin(mark), std::end(mark), utf8);
     return beginsWithMark ? QChar(QChar::ByteOrderMark) + text : text;
 }
 
@@ -104,7 +123,7 @@ bool isName(const QString &text)
     XML_SetHashSalt(parser, 1);
     XML_SetUserData(parser, &found);
     XML_SetStartElementHandler(parser, [](void *name, const XML_Char *tagName, const XML_Char **) {
-        *static_cast<QString *>(name) = fromUtf8(tagName, qstrlen(tagName));
+        *static_cast<QString *>(name) = fromUtf8(tagName, static_cast<int>(qstrlen(tagName)));
     });
     const bool isElement =
         XML_Parse(parser, tag.constData(), tag.size(), XML_TRUE) == XML_STATUS_OK;

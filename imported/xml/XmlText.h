@@ -7,13 +7,13 @@ namespace XmlText {
 
 /** Whether there is nothing but what XML calls white space; a no-break space is not. */
 bool isBlank(const QString &text);
-bool isBlank(const char *utf8, size_t size);
+bool isBlank(const char *utf8, int size);
 
 /** Why neither reading nor writing can go on, for the user. */
 QString outOfMemory();
 
 /** The text of valid UTF-8, as it stands: QString drops a byte-order mark that it begins with. */
-QString fromUtf8(const char *utf8, size_t size);
+QString fromUtf8(const char *utf8, int size);
 
 /** The first unit that is half of a pair without its other half; -1 if there is none. */
 int indexOfLoneSurrogate(const QString &text);
