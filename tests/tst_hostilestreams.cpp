@@ -3,6 +3,7 @@
 #include "settings/CDeviceSettings.h"
 #include "settings/CNetworkSettings.h"
 #include "support/AllocationCounter.h"
+#include "support/ClassChecks.h"
 #include "support/Files.h"
 #include "support/SampleConfiguration.h"
 #include "support/ScriptedDevice.h"
@@ -17,8 +18,23 @@
 // Streams that break off, lie about counts, or come from devices that fail: reading ends with a
 // status, takes no more memory than the bytes that are there explain, and leaves a usable value.
 
-using Check = void (*)();
-Q_DECLARE_METATYPE(Check)
+using namespace ClassChecks;
+
+CLASS_NAME(CDeviceHardwareId)
+CLASS_NAME(CBaseElement)
+CLASS_NAME(CFileElement)
+CLASS_NAME(CParamFileElement)
+CLASS_NAME(CPluginElement)
+CLASS_NAME(CDescriptionElement)
+CLASS_NAME(CSubDeviceBaseElement)
+CLASS_NAME(CSubDeviceKD2Element)
+CLASS_NAME(CSubDeviceKD3Element)
+CLASS_NAME(CSubDeviceElement)
+CLASS_NAME(CDeviceBaseElement)
+CLASS_NAME(CDeviceSettings)
+CLASS_NAME(CNetworkSettings)
+CLASS_NAME(CDeviceCommData)
+CLASS_NAME(COptionModuleFileName)
 
 namespace {
 
@@ -26,10 +42,6 @@ namespace {
 const int SmallChange = 64 * 1024;
 /** The heap that reading may take, in sizes of what can be read. */
 const int MemoryFactor = 16;
-
-template <typename... Class>
-struct ClassList {
-};
 
 /** Every class that has an operator of its own to read it. */
 using StreamClasses =
@@ -41,32 +53,6 @@ using StreamClasses =
 /** A value with something in each field, and no more: all bytes of its stream form are damaged. */
 template <typename T>
 T sample() = delete;
-
-template <typename T>
-const char *className() = delete;
-
-#define NAMED(Class) \
-    template <> \
-    const char *className<Class>() \
-    { \
-        return #Class; \
-    }
-
-NAMED(CDeviceHardwareId)
-NAMED(CBaseElement)
-NAMED(CFileElement)
-NAMED(CParamFileElement)
-NAMED(CPluginElement)
-NAMED(CDescriptionElement)
-NAMED(CSubDeviceBaseElement)
-NAMED(CSubDeviceKD2Element)
-NAMED(CSubDeviceKD3Element)
-NAMED(CSubDeviceElement)
-NAMED(CDeviceBaseElement)
-NAMED(CDeviceSettings)
-NAMED(CNetworkSettings)
-NAMED(CDeviceCommData)
-NAMED(COptionModuleFileName)
 
 #undef NAMED
 
@@ -444,33 +430,7 @@ void checkNoDevice()
     QVERIFY(outcome.isUsable);
 }
 
-template <typename T>
-struct Tag {
-    using Type = T;
-};
-
-template <typename CheckOf, typename... Class>
-void rowsOf(CheckOf checkOf, ClassList<Class...>)
-{
-    QTest::addColumn<Check>("check");
-    ((QTest::newRow(className<Class>()) << checkOf(Tag<Class>())), ...);
-}
-
-#define ROWS(check) \
-    rowsOf([](auto type) -> Check { return &check<typename decltype(type)::Type>; }, \
-           StreamClasses())
-
-template <typename... Class>
-QStringList classNames(ClassList<Class...>)
-{
-    return {QString::fromLatin1(className<Class>())...};
-}
-
-void run()
-{
-    QFETCH(Check, check);
-    check();
-}
+#define ROWS(check) rowsOf(CHECK_OF(check), StreamClasses())
 
 } // namespace
 

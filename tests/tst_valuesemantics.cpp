@@ -11,6 +11,7 @@
 #include "elements/CSubDeviceKD3ElementEdit.h"
 #include "settings/CDeviceSettings.h"
 #include "settings/CNetworkSettings.h"
+#include "support/ClassChecks.h"
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
@@ -25,14 +26,27 @@
 // these it does not compile, and everyClassIsListed() and everyRecordIsListed() find a header
 // without an entry. Where a class differs on purpose, a switch next to its sample says so.
 
-using Check = void (*)();
-Q_DECLARE_METATYPE(Check)
+using namespace ClassChecks;
+
+CLASS_NAME(CBaseElement)
+CLASS_NAME(CFileElement)
+CLASS_NAME(CParamFileElement)
+CLASS_NAME(CPluginElement)
+CLASS_NAME(CDescriptionElement)
+CLASS_NAME(CSubDeviceBaseElement)
+CLASS_NAME(CSubDeviceKD2Element)
+CLASS_NAME(CSubDeviceKD2ElementEdit)
+CLASS_NAME(CSubDeviceKD3Element)
+CLASS_NAME(CSubDeviceKD3ElementEdit)
+CLASS_NAME(CSubDeviceElement)
+CLASS_NAME(CDeviceBaseElement)
+CLASS_NAME(CDeviceElement)
+CLASS_NAME(CDeviceSettings)
+CLASS_NAME(CNetworkSettings)
+CLASS_NAME(CDeviceCommData)
+CLASS_NAME(COptionModuleFileName)
 
 namespace {
-
-template <typename... Class>
-struct ClassList {
-};
 
 template <typename... Left, typename... Right>
 ClassList<Left..., Right...> joined(ClassList<Left...>, ClassList<Right...>);
@@ -60,9 +74,6 @@ CFileElement file(const QString &name)
     result.setComment(u"comment"_s);
     return result;
 }
-
-template <typename T>
-const char *className();
 
 /** A value with something in each field. */
 template <typename T>
@@ -120,12 +131,6 @@ Changes<T> baseChanges()
 }
 
 template <>
-const char *className<CBaseElement>()
-{
-    return "CBaseElement";
-}
-
-template <>
 CBaseElement sample()
 {
     return baseSample<CBaseElement>();
@@ -135,12 +140,6 @@ template <>
 Changes<CBaseElement> changes()
 {
     return baseChanges<CBaseElement>() << [](CBaseElement &e) { e.setDriveId(9); };
-}
-
-template <>
-const char *className<CFileElement>()
-{
-    return "CFileElement";
 }
 
 template <>
@@ -158,12 +157,6 @@ Changes<CFileElement> changes()
         [](CFileElement &f) { f.setProjectPath(u"x"_s); },
         [](CFileElement &f) { f.setComment(u"x"_s); },
     };
-}
-
-template <>
-const char *className<CParamFileElement>()
-{
-    return "CParamFileElement";
 }
 
 template <>
@@ -192,12 +185,6 @@ Changes<CParamFileElement> changes()
 }
 
 template <>
-const char *className<CPluginElement>()
-{
-    return "CPluginElement";
-}
-
-template <>
 CPluginElement sample()
 {
     CPluginElement element;
@@ -215,12 +202,6 @@ Changes<CPluginElement> changes()
         [](CPluginElement &p) { p.setPriority(9); },
         [](CPluginElement &p) { p.setVersion(u"x"_s); },
     };
-}
-
-template <>
-const char *className<CDescriptionElement>()
-{
-    return "CDescriptionElement";
 }
 
 template <>
@@ -275,12 +256,6 @@ Changes<T> subDeviceChanges()
 }
 
 template <>
-const char *className<CSubDeviceBaseElement>()
-{
-    return "CSubDeviceBaseElement";
-}
-
-template <>
 CSubDeviceBaseElement sample()
 {
     return subDeviceSample<CSubDeviceBaseElement>();
@@ -314,12 +289,6 @@ Changes<T> kd2Changes()
 }
 
 template <>
-const char *className<CSubDeviceKD2Element>()
-{
-    return "CSubDeviceKD2Element";
-}
-
-template <>
 CSubDeviceKD2Element sample()
 {
     return kd2Sample<CSubDeviceKD2Element>();
@@ -329,12 +298,6 @@ template <>
 Changes<CSubDeviceKD2Element> changes()
 {
     return kd2Changes<CSubDeviceKD2Element>();
-}
-
-template <>
-const char *className<CSubDeviceKD2ElementEdit>()
-{
-    return "CSubDeviceKD2ElementEdit";
 }
 
 template <>
@@ -350,12 +313,6 @@ Changes<CSubDeviceKD2ElementEdit> changes()
 }
 
 template <>
-const char *className<CSubDeviceKD3Element>()
-{
-    return "CSubDeviceKD3Element";
-}
-
-template <>
 CSubDeviceKD3Element sample()
 {
     return subDeviceSample<CSubDeviceKD3Element>();
@@ -365,12 +322,6 @@ template <>
 Changes<CSubDeviceKD3Element> changes()
 {
     return subDeviceChanges<CSubDeviceKD3Element>();
-}
-
-template <>
-const char *className<CSubDeviceKD3ElementEdit>()
-{
-    return "CSubDeviceKD3ElementEdit";
 }
 
 template <>
@@ -388,12 +339,6 @@ Changes<CSubDeviceKD3ElementEdit> changes()
 /** An empty container of sub-devices equals nothing, not even another one: so it is wanted. */
 template <>
 constexpr bool DefaultEqualsDefault<CSubDeviceElement> = false;
-
-template <>
-const char *className<CSubDeviceElement>()
-{
-    return "CSubDeviceElement";
-}
 
 template <>
 CSubDeviceElement sample()
@@ -473,12 +418,6 @@ Changes<T> deviceChanges()
 }
 
 template <>
-const char *className<CDeviceBaseElement>()
-{
-    return "CDeviceBaseElement";
-}
-
-template <>
 CDeviceBaseElement sample()
 {
     return deviceSample<CDeviceBaseElement>();
@@ -491,12 +430,6 @@ Changes<CDeviceBaseElement> changes()
 }
 
 template <>
-const char *className<CDeviceElement>()
-{
-    return "CDeviceElement";
-}
-
-template <>
 CDeviceElement sample()
 {
     return deviceSample<CDeviceElement>();
@@ -506,12 +439,6 @@ template <>
 Changes<CDeviceElement> changes()
 {
     return deviceChanges<CDeviceElement>();
-}
-
-template <>
-const char *className<CDeviceSettings>()
-{
-    return "CDeviceSettings";
 }
 
 template <>
@@ -532,12 +459,6 @@ Changes<CDeviceSettings> changes()
         [](CDeviceSettings &s) { s.setSubDeviceName(u"x"_s, 3); },
         [](CDeviceSettings &s) { s.setSubDeviceName(u""_s, 4); },
     };
-}
-
-template <>
-const char *className<CNetworkSettings>()
-{
-    return "CNetworkSettings";
 }
 
 /** It tells addresses, which null settings have none of. */
@@ -582,12 +503,6 @@ Changes<CNetworkSettings> changes()
 }
 
 template <>
-const char *className<CDeviceCommData>()
-{
-    return "CDeviceCommData";
-}
-
-template <>
 CDeviceCommData sample()
 {
     CDeviceCommData data;
@@ -629,12 +544,6 @@ Changes<CDeviceCommData> overlookedChanges()
     return {[](CDeviceCommData &d) {
         d.setConnectionState(NvrnGlobal::CONNECTION_STATE_DISCONNECTED);
     }};
-}
-
-template <>
-const char *className<COptionModuleFileName>()
-{
-    return "COptionModuleFileName";
 }
 
 template <>
@@ -876,20 +785,7 @@ void checkInLists()
     QVERIFY(isDefault(list.at(1)));
 }
 
-#define CHECK_OF(check) [](auto type) -> Check { return &check<typename decltype(type)::Type>; }
 #define ROWS(check) rowsOf(CHECK_OF(check), ValueClasses())
-
-template <typename T>
-struct Tag {
-    using Type = T;
-};
-
-template <typename CheckOf, typename... Class>
-void rowsOf(CheckOf checkOf, ClassList<Class...>)
-{
-    QTest::addColumn<Check>("check");
-    ((QTest::newRow(className<Class>()) << checkOf(Tag<Class>())), ...);
-}
 
 void rowIf(bool wanted, const char *name, Check check)
 {
@@ -914,18 +810,6 @@ void overlookedRows(ClassList<Class...>)
     (rowIf(!overlookedChanges<Class>().isEmpty(), className<Class>(),
            &checkOverlookedChanges<Class>),
      ...);
-}
-
-template <typename... Class>
-QStringList classNames(ClassList<Class...>)
-{
-    return {QString::fromLatin1(className<Class>())...};
-}
-
-void run()
-{
-    QFETCH(Check, check);
-    check();
 }
 
 } // namespace
