@@ -9,7 +9,7 @@
  */
 struct SXmlLimits {
     /** Bytes of the file or buffer. */
-    qint64 fileSize = 128 * 1024 * 1024;
+    qint64 fileSize = Q_INT64_C(128) * 1024 * 1024;
     /**
      * Elements inside each other, the root included; MaximumDepth at most, whatever is set. The
      * document tree is copied and destroyed recursively, and so needs stack for each level.

@@ -32,7 +32,7 @@ struct SResult {
 };
 
 /** Bytes; a thousand times what the small files of a device have. */
-const qint64 SmallFile = 16 * 1024 * 1024;
+const qint64 SmallFile = Q_INT64_C(16) * 1024 * 1024;
 
 /**
  * Reads the file @p path; @p content is empty on failure. Only a regular file is read: a directory

@@ -94,7 +94,7 @@ SXmlPosition endOf(const QByteArray &utf8)
 QByteArray undeclaredEntity(const QByteArray &tag)
 {
     for (int at = tag.indexOf('&'); at >= 0; at = tag.indexOf('&', at + 1)) {
-        const QByteArray name = tag.mid(at + 1, tag.indexOf(';', at) - at - 1);
+        QByteArray name = tag.mid(at + 1, tag.indexOf(';', at) - at - 1);
         if (!name.startsWith('#') && name != "lt" && name != "gt" && name != "amp" && name != "quot"
             && name != "apos") {
             return name;
