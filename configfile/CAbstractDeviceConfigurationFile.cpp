@@ -49,11 +49,9 @@ public:
             return;
         }
         // A new one has no such child yet: there is nothing to look for.
-        QDomElement child = m_document.createElement(tag);
-        if (!value.isEmpty()) {
-            child.appendChild(m_document.createTextNode(value));
-        }
+        const QDomElement child = m_document.createElement(tag);
         m_element.appendChild(child);
+        CDomDoc::setText(value, child);
     }
 
 private:

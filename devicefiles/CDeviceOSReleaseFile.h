@@ -65,8 +65,8 @@ public:
     NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer);
 
     /**
-     * Why the last open() or save() of a file failed, as the operating system tells it, for example
-     * "No space left on device"; empty when it did not.
+     * Why the last open() or save() of a file failed, for the user and mostly in the words of
+     * the system, like "No space left on device"; empty when it did not.
      */
     QString errorText() const;
 

@@ -4,8 +4,8 @@
 
 /**
  * How much a document may ask for: one that asks for more is refused while it is read, so that a
- * broken or hostile file costs neither the process nor the machine. The defaults leave room for
- * documents a hundred times as large as those of the largest machines.
+ * broken or hostile file costs neither the process nor the machine. The defaults take the document
+ * of a device with 100,000 files, of some 25 million bytes, several times over.
  */
 struct SXmlLimits {
     /** Bytes of the file or buffer. */

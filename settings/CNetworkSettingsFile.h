@@ -70,8 +70,8 @@ public:
     /** As above, with the name of the file last opened or saved; FILE_RESULT_FAILURE without. */
     NvrnGlobal::EFileResult save();
     /**
-     * Why the last open() or save() failed, as the operating system tells it, for example
-     * "No space left on device"; empty when it did not.
+     * Why the last open() or save() failed, for the user and mostly in the words of
+     * the system, like "No space left on device"; empty when it did not.
      */
     QString errorText() const;
 

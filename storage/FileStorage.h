@@ -31,7 +31,7 @@ struct SResult {
     explicit operator bool() const { return outcome == DONE; }
 };
 
-/** Bytes; a thousand times what the small files of a device have. */
+/** Bytes; far more than any of the small files of a device needs. */
 const qint64 SmallFile = Q_INT64_C(16) * 1024 * 1024;
 
 /**

@@ -242,8 +242,7 @@ private:
     void writeEscaped(const QString &value, const QDomElement &element, Context context)
     {
         const QChar *const end = value.cend();
-        const QChar *run = value.cbegin();
-        for (const QChar *c = run; c != end; ++c) {
+        for (const QChar *c = value.cbegin(); c != end; ++c) {
             const ushort unit = c->unicode();
             const bool isPlain = unit > '>'
                 ? unit < 0x80
@@ -255,12 +254,12 @@ private:
             if (unit < 0x80) {
                 writeMarkup(unit, context);
                 if (unit < ' ' && unit != '\t' && unit != '\n' && unit != '\r') {
-                    checkCharacters(value, element);
+                    checkCharacters(QString(*c), element);
                 }
                 continue;
             }
             // The rest of the text at once, up to where ASCII begins again.
-            run = c;
+            const QChar *const run = c;
             while (c + 1 != end && (c + 1)->unicode() >= 0x80) {
                 ++c;
             }
