@@ -171,6 +171,7 @@ private slots:
     void markupSetByHandle();
     void unwritableText_data();
     void unwritableText();
+    void manyUnwritableCharacters();
 
     void positions();
     void positionsOfOtherElements();
@@ -879,6 +880,23 @@ void tst_CXmlAbstractVornFile::unwritableText()
         // The document itself stays.
         QCOMPARE(inAttribute ? element.attribute(text("a")) : file.getNodeValue(element), value);
     }
+}
+
+/** Searched from the beginning of the text for each of them, this would not end. */
+void tst_CXmlAbstractVornFile::manyUnwritableCharacters()
+{
+    const int half = 500000;
+    TestFile file;
+    QVERIFY(file.openBytes(document("<Name/>")));
+    file.setNodeValue(text("Name"),
+                      QString(half, QLatin1Char('a')) + QString(half, QLatin1Char('\x01')),
+                      QDomElement());
+    const MessageCatcher catcher;
+    QByteArray buffer;
+    QString error;
+    QVERIFY(!file.save(buffer, error));
+    QVERIFY2(error.contains(text("'Name' holds the character U+0001")), qPrintable(error));
+    QVERIFY(buffer.isEmpty());
 }
 
 void tst_CXmlAbstractVornFile::positions()
