@@ -57,6 +57,15 @@ set(VRN_PUBLIC_HEADERS
     imported/VrnImportedExport.h
 )
 
+if(TARGET vrnCommissioning)
+    list(APPEND VRN_PUBLIC_HEADERS
+        commissioning/CConfigurationItems.h
+        commissioning/CDeviceManifest.h
+        commissioning/SConfigurationFinding.h
+        commissioning/VrnCommissioningExport.h
+    )
+endif()
+
 foreach(header IN LISTS VRN_PUBLIC_HEADERS)
     get_filename_component(folder "${header}" DIRECTORY)
     install(FILES "${PROJECT_SOURCE_DIR}/${header}"
@@ -66,6 +75,9 @@ endforeach()
 set(installed_libraries vrnDeviceCore)
 if(NOT VRN_USE_MAKER_LIBRARIES)
     list(APPEND installed_libraries vrnCore vrnLogfiles vrnXml)
+endif()
+if(TARGET vrnCommissioning)
+    list(APPEND installed_libraries vrnCommissioning)
 endif()
 install(TARGETS ${installed_libraries}
     EXPORT vrnDeviceCoreTargets

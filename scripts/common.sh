@@ -14,7 +14,7 @@ jobs=$(nproc)
 # One list per purpose. The tests need tzdata because they also run in foreign time zones.
 # shellcheck disable=SC2034
 {
-    build_packages=(g++ cmake ninja-build qtbase5-dev libexpat1-dev pkg-config python3-minimal)
+    build_packages=(g++ cmake ninja-build qtbase5-dev libexpat1-dev libarchive-dev pkg-config python3-minimal)
     test_packages=("${build_packages[@]}" git tzdata strace)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)

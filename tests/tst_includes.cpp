@@ -8,9 +8,9 @@ namespace {
 
 // From the ground up: a folder may include itself and those before it.
 const QStringList Folders = {
-    QStringLiteral("storage"),     QStringLiteral("imported"),   QStringLiteral("vocabulary"),
-    QStringLiteral("elements"),    QStringLiteral("configfile"), QStringLiteral("settings"),
-    QStringLiteral("devicefiles"), QStringLiteral("tools"),
+    QStringLiteral("storage"),     QStringLiteral("imported"),      QStringLiteral("vocabulary"),
+    QStringLiteral("elements"),    QStringLiteral("configfile"),    QStringLiteral("settings"),
+    QStringLiteral("devicefiles"), QStringLiteral("commissioning"), QStringLiteral("tools"),
 };
 
 // The device element asks the directory layout, which is built from a device element. The headers

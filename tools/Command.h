@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/Texts.h"
+
 #include <QCommandLineParser>
 #include <QList>
 #include <QString>
@@ -10,17 +12,27 @@ enum EExitCode {
     EXIT_DONE = 0,
     /** The command could not do what was asked; the file is as it was. */
     EXIT_NOT_DONE = 1,
+    /** Something was found: faults, differences, conflicts. */
+    EXIT_FINDINGS = 1,
     EXIT_BAD_USAGE = 2,
     /** The input is missing or cannot be read. */
     EXIT_UNREADABLE_INPUT = 3
 };
 
+class CommandLine;
+
+/** One row of the table of commands, from which help, manual page and completion are made. */
 struct SCommand {
     /** One word, or two: that of a group of commands, and its own. */
     QString name;
-    QString summary;
-    /** Runs with the command's own arguments and returns an exit code. */
-    int (*run)(const SCommand &command, const QStringList &arguments);
+    /** Untranslated, see summary(). */
+    const char *summaryText;
+    /** Tells which arguments and options the command takes. */
+    void (*describe)(CommandLine &line);
+    /** Runs with the command line that was given and returns an exit code. */
+    int (*run)(const CommandLine &line);
+
+    QString summary() const { return Texts::tr(summaryText); }
 };
 
 /** All commands, in the order of their names. */
@@ -30,24 +42,58 @@ QList<SCommand> commands();
 class CommandRegistration
 {
 public:
-    CommandRegistration(const char *name, const char *summary,
-                        int (*run)(const SCommand &, const QStringList &));
+    /** @param summary marked with QT_TRANSLATE_NOOP("vrndevice", …) */
+    CommandRegistration(const char *name, const char *summary, void (*describe)(CommandLine &),
+                        int (*run)(const CommandLine &));
 };
 
 /** The command line of one command, with the options that every command has. */
 class CommandLine
 {
 public:
+    struct SArgument {
+        QString name;
+        QString description;
+        bool isRepeated = false;
+        bool isOptional = false;
+    };
+
+    struct SOption {
+        /** Without hyphens: a long name, or a single letter for a short one. */
+        QStringList names;
+        QString description;
+        /** Empty for a switch. */
+        QString valueName;
+        /** The only values that make sense; empty when anything may be given. */
+        QStringList choices;
+    };
+
     explicit CommandLine(const SCommand &command);
 
     /** Adds an argument that must be given. */
     void addArgument(const QString &name, const QString &description);
+    /** Adds an argument that may be given; only optional ones can follow it. */
+    void addOptionalArgument(const QString &name, const QString &description);
     /** Adds arguments of which at least one must be given; nothing can follow them. */
     void addArguments(const QString &name, const QString &description);
     /** Without @p valueName the option is a switch. */
     void addOption(const QString &name, const QString &description,
+                   const QString &valueName = QString(), const QStringList &choices = {});
+    /** As above, with a short name of one letter beside the long one. */
+    void addOption(QChar letter, const QString &name, const QString &description,
                    const QString &valueName = QString());
+    /** @param example what follows the name of the command */
     void addExample(const QString &example);
+
+    /** What the command is and takes, in the order in which it was added. */
+    QString name() const;
+    QString summary() const;
+    QList<SArgument> describedArguments() const;
+    QList<SOption> describedOptions() const;
+    /** Whole command lines. */
+    QStringList examples() const;
+    /** One line that begins with "vrndevice". */
+    QString usage() const;
 
     /**
      * @return whether the command should run; otherwise it is done, with exitCode(), and help or
@@ -56,6 +102,7 @@ public:
     bool parse(const QStringList &arguments);
     int exitCode() const;
 
+    /** Empty for an optional argument that is not given. */
     QString argument(int index) const;
     /** The arguments from @p index on. */
     QStringList arguments(int index) const;
@@ -69,11 +116,14 @@ public:
     int badUsage(const QString &what) const;
 
 private:
+    void add(const SOption &option);
+    void add(const SArgument &argument);
+
     const QString m_name;
     const QString m_summary;
     QCommandLineParser m_parser;
-    QStringList m_argumentNames;
-    bool m_lastIsRepeated = false;
-    QString m_examples;
+    QList<SArgument> m_arguments;
+    QList<SOption> m_options;
+    QStringList m_examples;
     int m_exitCode = EXIT_DONE;
 };

@@ -15,7 +15,7 @@ void printCommands(const QList<SCommand> &list, Output &out)
     out.stream() << "\nCommands:\n";
     QList<QStringList> rows;
     for (const SCommand &command : list) {
-        rows.append({QStringLiteral("  ") + command.name, command.summary});
+        rows.append({QStringLiteral("  ") + command.name, command.summary()});
     }
     out.printColumns(rows);
 }
@@ -88,7 +88,8 @@ int main(int argc, char *argv[])
     }
     for (const SCommand &command : commands()) {
         if (command.name == name) {
-            return command.run(command, arguments);
+            CommandLine line(command);
+            return line.parse(arguments) ? command.run(line) : line.exitCode();
         }
     }
     printError(QStringLiteral("There is no command '%1'. Try 'vrndevice --help'.").arg(name));

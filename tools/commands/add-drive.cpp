@@ -23,9 +23,8 @@ CSubDeviceElement newDrive(const QString &type)
     return CSubDeviceElement();
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to change."));
     line.addOption(TypeOption, QStringLiteral("Series of the drive: KD2_drive or KD3_drive."),
                    QStringLiteral("TYPE"));
@@ -35,9 +34,10 @@ int run(const SCommand &command, const QStringList &arguments)
     line.addOption(IdOption, QStringLiteral("Drive number 0 to 254; by default the next free one."),
                    QStringLiteral("NUMBER"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --type KD3_drive --name Gripper"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     CSubDeviceElement drive = newDrive(line.value(TypeOption));
     if (drive.type() == NvrnDeviceCore::ELEMENT_UNKNOWN) {
         return line.badUsage(QStringLiteral("--type must be KD2_drive or KD3_drive."));
@@ -82,6 +82,8 @@ int run(const SCommand &command, const QStringList &arguments)
     return out.finish();
 }
 
-const CommandRegistration Registration("add-drive", "Add a drive to the device.", run);
+const CommandRegistration Registration("add-drive",
+                                       QT_TRANSLATE_NOOP("vrndevice", "Add a drive to the device."),
+                                       describe, run);
 
 } // namespace

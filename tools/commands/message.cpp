@@ -21,15 +21,15 @@ void print(int code, const QString &message, const QString &description, QTextSt
     }
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArguments(QStringLiteral("CODE"),
                       QStringLiteral("Code of a system message, 1024 to 1151 (0x400 to 0x47f)."));
     line.addExample(QStringLiteral("1098 0x400"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     QList<int> codes;
     for (const QString &text : line.arguments(0)) {
         bool isCode = false;
@@ -67,7 +67,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return errors.isEmpty() ? exitCode : EXIT_NOT_DONE;
 }
 
-const CommandRegistration Registration("message", "Tell what system messages of a device mean.",
-                                       run);
+const CommandRegistration
+    Registration("message",
+                 QT_TRANSLATE_NOOP("vrndevice", "Tell what system messages of a device mean."),
+                 describe, run);
 
 } // namespace

@@ -80,16 +80,16 @@ QStringList toRow(const COptionModuleFileName &name)
             name.text()};
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArguments(QStringLiteral("NAME"),
                       QStringLiteral("File name of option-module firmware, also with directories; "
                                      "the file need not be there."));
     line.addExample(QStringLiteral("OM1_EC_H2_V1_3.bin"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     QJsonArray array;
     QList<QStringList> rows = {{QStringLiteral("FILE"), QStringLiteral("SLOT"),
                                 QStringLiteral("INTERFACE"), QStringLiteral("HARDWARE"),
@@ -122,7 +122,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return errors.isEmpty() ? exitCode : EXIT_NOT_DONE;
 }
 
-const CommandRegistration
-    Registration("module", "Tell what a firmware file for an option module is for.", run);
+const CommandRegistration Registration(
+    "module",
+    QT_TRANSLATE_NOOP("vrndevice", "Tell what a firmware file for an option module is for."),
+    describe, run);
 
 } // namespace

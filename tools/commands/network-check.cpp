@@ -7,14 +7,14 @@
 
 namespace {
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to check."));
     line.addExample(QStringLiteral("network.conf"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     const QString path = line.argument(0);
     QList<CNetworkSettingsCheck::SFinding> findings;
     CNetworkSettingsFile file;
@@ -42,7 +42,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return findings.isEmpty() ? exitCode : EXIT_NOT_DONE;
 }
 
-const CommandRegistration Registration("network check", "Find what is wrong with a network.conf.",
-                                       run);
+const CommandRegistration Registration("network check",
+                                       QT_TRANSLATE_NOOP("vrndevice",
+                                                         "Find what is wrong with a network.conf."),
+                                       describe, run);
 
 } // namespace

@@ -56,18 +56,18 @@ void warnOfRest(const QString &path, CNetworkSettingsFile &file)
     }
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to change."));
     line.addArguments(QStringLiteral("KEY=VALUE"),
                       QStringLiteral("A key of the file and its new value."));
     line.addOption(CreateOption,
                    QStringLiteral("Start from the defaults if there is no such file."));
     line.addExample(QStringLiteral("network.conf MODE=STATIC ADDRESS=192.168.1.10"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     const QStringList assignments = line.arguments(1);
     for (const QString &assignment : assignments) {
         const QString key = assignment.section(QLatin1Char('='), 0, 0);
@@ -102,7 +102,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return printContent(file, line.wantsJson());
 }
 
-const CommandRegistration Registration("network set", "Change Ethernet settings in a network.conf.",
-                                       run);
+const CommandRegistration
+    Registration("network set",
+                 QT_TRANSLATE_NOOP("vrndevice", "Change Ethernet settings in a network.conf."),
+                 describe, run);
 
 } // namespace

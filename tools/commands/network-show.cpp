@@ -4,14 +4,14 @@
 
 namespace {
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to show."));
     line.addExample(QStringLiteral("network.conf"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     const QString path = line.argument(0);
     CNetworkSettingsFile file;
     if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
@@ -20,8 +20,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return printContent(file, line.wantsJson());
 }
 
-const CommandRegistration
-    Registration("network show", "Show the Ethernet settings that a device reads from a file.",
-                 run);
+const CommandRegistration Registration(
+    "network show",
+    QT_TRANSLATE_NOOP("vrndevice", "Show the Ethernet settings that a device reads from a file."),
+    describe, run);
 
 } // namespace

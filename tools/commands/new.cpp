@@ -10,17 +10,17 @@ namespace {
 const QString ClassOption = QStringLiteral("class");
 const QString NameOption = QStringLiteral("name");
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to create."));
     line.addOption(ClassOption, QStringLiteral("Class of the device: kc2 or kd3."),
                    QStringLiteral("CLASS"));
     line.addOption(NameOption, QStringLiteral("Name of the device."), QStringLiteral("NAME"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --class kd3 --name Wrapper"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     const QString path = line.argument(0);
     const QString name = line.value(NameOption);
     CDeviceConfigurationFile10 file(nullptr);
@@ -55,6 +55,8 @@ int run(const SCommand &command, const QStringList &arguments)
     return out.finish();
 }
 
-const CommandRegistration Registration("new", "Create a configuration with one device.", run);
+const CommandRegistration
+    Registration("new", QT_TRANSLATE_NOOP("vrndevice", "Create a configuration with one device."),
+                 describe, run);
 
 } // namespace

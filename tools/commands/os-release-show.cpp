@@ -26,14 +26,14 @@ QList<SItem> items()
     };
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The os-release to show."));
     line.addExample(QStringLiteral("os-release"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     const QString path = line.argument(0);
     CDeviceOSReleaseFile file;
     if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
@@ -55,7 +55,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return out.finish();
 }
 
-const CommandRegistration
-    Registration("os-release show", "Show what the operating system of a device is made of.", run);
+const CommandRegistration Registration(
+    "os-release show",
+    QT_TRANSLATE_NOOP("vrndevice", "Show what the operating system of a device is made of."),
+    describe, run);
 
 } // namespace

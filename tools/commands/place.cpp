@@ -54,14 +54,14 @@ void print(const QList<SPlacedFile> &files, Output &out)
     out.printColumns(rows);
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to read."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     CDeviceConfigurationFile10 file(nullptr);
     CDeviceElement device;
     if (!readDevice(line.argument(0), file, device)) {
@@ -83,8 +83,10 @@ int run(const SCommand &command, const QStringList &arguments)
     return out.finish();
 }
 
-const CommandRegistration
-    Registration("place", "List every file with its directories on the device and in the project.",
-                 run);
+const CommandRegistration Registration(
+    "place",
+    QT_TRANSLATE_NOOP("vrndevice",
+                      "List every file with its directories on the device and in the project."),
+    describe, run);
 
 } // namespace

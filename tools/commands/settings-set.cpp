@@ -26,9 +26,8 @@ bool setDriveName(const QString &assignment, CDeviceSettings &settings)
     return isAssignment;
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The settings document to change."));
     line.addOption(NameOption, QStringLiteral("Name of the device."), QStringLiteral("NAME"));
     line.addOption(DriveOption,
@@ -37,9 +36,10 @@ int run(const SCommand &command, const QStringList &arguments)
     line.addOption(CreateOption, QStringLiteral("Start a new document if there is no such file."));
     line.addExample(
         QStringLiteral("settings.3conf --name Wrapper --drive 0=Infeed --drive 1=Knife"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     CDeviceSettings changes;
     for (const QString &assignment : line.values(DriveOption)) {
         if (!setDriveName(assignment, changes)) {
@@ -72,6 +72,8 @@ int run(const SCommand &command, const QStringList &arguments)
     return printContent(settings, line.wantsJson());
 }
 
-const CommandRegistration Registration("settings set", "Name a device and its drives.", run);
+const CommandRegistration
+    Registration("settings set", QT_TRANSLATE_NOOP("vrndevice", "Name a device and its drives."),
+                 describe, run);
 
 } // namespace

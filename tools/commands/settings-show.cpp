@@ -4,14 +4,14 @@
 
 namespace {
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The settings document to show."));
     line.addExample(QStringLiteral("settings.3conf"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     CDeviceSettingsFile file(nullptr);
     if (file.open(line.argument(0), settingsVersion()) != NvrnGlobal::FILE_RESULT_SUCCESS) {
         return EXIT_UNREADABLE_INPUT;
@@ -19,7 +19,9 @@ int run(const SCommand &command, const QStringList &arguments)
     return printContent(file.deviceSettings(), line.wantsJson());
 }
 
-const CommandRegistration Registration("settings show", "Show the names that a device was given.",
-                                       run);
+const CommandRegistration Registration("settings show",
+                                       QT_TRANSLATE_NOOP("vrndevice",
+                                                         "Show the names that a device was given."),
+                                       describe, run);
 
 } // namespace

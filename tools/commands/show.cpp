@@ -1,6 +1,7 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 #include "tools/Command.h"
 #include "tools/ConfigurationJson.h"
+#include "tools/Input.h"
 #include "tools/Output.h"
 
 namespace {
@@ -115,16 +116,16 @@ SNode deviceNode(const CDeviceElement &device, const CDeviceConfigurationFile10 
     return node;
 }
 
-int run(const SCommand &command, const QStringList &arguments)
+void describe(CommandLine &line)
 {
-    CommandLine line(command);
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to show."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
-    if (!line.parse(arguments)) {
-        return line.exitCode();
-    }
+}
+
+int run(const CommandLine &line)
+{
     CDeviceConfigurationFile10 file(nullptr);
-    if (!file.open(line.argument(0))) {
+    if (!openConfiguration(line.argument(0), file)) {
         return EXIT_UNREADABLE_INPUT;
     }
     Output out;
@@ -143,6 +144,8 @@ int run(const SCommand &command, const QStringList &arguments)
     return out.finish();
 }
 
-const CommandRegistration Registration("show", "Show a configuration as a tree.", run);
+const CommandRegistration
+    Registration("show", QT_TRANSLATE_NOOP("vrndevice", "Show a configuration as a tree."),
+                 describe, run);
 
 } // namespace

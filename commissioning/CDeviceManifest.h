@@ -1,0 +1,56 @@
+#pragma once
+
+#include "commissioning/VrnCommissioningExport.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QList>
+#include <QString>
+
+/**
+ * What a device tree consists of: the size and the SHA-256 sum of every file, so that what is
+ * missing, surplus or changed can be found later, on the device or in the project.
+ *
+ * A value: it may be copied, and distinct ones may be used from different threads.
+ */
+class VRNCOMMISSIONING_EXPORT CDeviceManifest
+{
+    Q_DECLARE_TR_FUNCTIONS(CDeviceManifest)
+
+public:
+    struct SEntry {
+        /** Relative to the root of the device, with forward slashes: "velkor/conf/a.xml". */
+        QString devicePath;
+        /** Relative to the project's directory; empty when it does not come from there. */
+        QString projectPath;
+        /** Bytes. */
+        qint64 size = 0;
+        /** 64 lower-case hexadecimal digits. */
+        QByteArray sha256;
+    };
+
+    /** "manifest.json": its name in the root of a staged tree, and in a project's directory. */
+    static QString fileName();
+
+    /** In the order of their device paths, by UTF-16 units. */
+    QList<SEntry> entries() const;
+    void setEntries(const QList<SEntry> &entries);
+
+    /** The manifest as JSON, the same bytes for the same entries. */
+    QByteArray toJson() const;
+    /**
+     * Reads what toJson() wrote; anything else is refused, and so are device paths that are
+     * absolute, lead out of the root or appear twice. On failure this manifest is unchanged.
+     * @param errorText why it was refused, for the user
+     */
+    bool readJson(const QByteArray &json, QString &errorText);
+
+    /**
+     * Reads the regular file @p path for its size and sum, in small memory.
+     * @param errorText why it cannot be read, for the user
+     */
+    static bool measure(const QString &path, qint64 &size, QByteArray &sha256, QString &errorText);
+
+private:
+    QList<SEntry> m_entries;
+};
