@@ -174,10 +174,11 @@ private:
                        Texts::tr("\"%1\" cannot be the name of a file.").arg(element.fileName()));
             return;
         }
+        const bool hasPlace = m_hasPlaces && findPlace(element, file);
         if (!m_project.isEmpty()) {
             findSource(file);
         }
-        if (m_hasPlaces && findPlace(element, file)) {
+        if (hasPlace) {
             place(file);
         }
     }
