@@ -62,6 +62,8 @@ if(TARGET vrnCommissioning)
         commissioning/CConfigurationCheck.h
         commissioning/CConfigurationItems.h
         commissioning/CDeviceManifest.h
+        commissioning/CStagedTree.h
+        commissioning/CStagingPlan.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )
