@@ -60,7 +60,10 @@ set(VRN_PUBLIC_HEADERS
 if(TARGET vrnCommissioning)
     list(APPEND VRN_PUBLIC_HEADERS
         commissioning/CConfigurationItems.h
+        commissioning/CConfigurationOverview.h
+        commissioning/CConfigurationReport.h
         commissioning/CDeviceManifest.h
+        commissioning/CItemFindings.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )
