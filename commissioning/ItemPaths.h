@@ -1,5 +1,7 @@
 #pragma once
 
+#include "commissioning/CConfigurationItems.h"
+
 #include <QHash>
 #include <QString>
 
@@ -12,13 +14,10 @@ public:
     /** The path of the next entry, whose key may have been there before. */
     QString next(const QString &key)
     {
-        QString escaped = key;
-        escaped.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
-        escaped.replace(QLatin1Char(']'), QStringLiteral("\\]"));
+        const QString path = CConfigurationItems::entryPath(m_list, key);
         const int occurrence = ++m_occurrences[key];
-        return occurrence == 1
-            ? QStringLiteral("%1[%2]").arg(m_list, escaped)
-            : QStringLiteral("%1[%2][%3]").arg(m_list, escaped, QString::number(occurrence));
+        return occurrence == 1 ? path
+                               : QStringLiteral("%1[%2]").arg(path, QString::number(occurrence));
     }
 
 private:
