@@ -36,6 +36,18 @@ using SDrive = CConfigurationOverview::SDrive;
 const int DriveNumbers = 256;
 const int NoDriveNumber = 255;
 
+/** Without a description in the document there is none: not one of today. */
+CDescriptionElement description(const CDeviceConfigurationFile10 &file)
+{
+    CDescriptionElement result = file.description();
+    if (file.findDescriptionElement().isNull()) {
+        result.setVersion(QString());
+        result.setCreationDate(QDate());
+        result.setRevisionDate(QDate());
+    }
+    return result;
+}
+
 /** A device of that place in the directory layout, to ask it where one entry lies. */
 CDeviceElement withoutFiles(const CDeviceElement &device)
 {
@@ -46,12 +58,21 @@ CDeviceElement withoutFiles(const CDeviceElement &device)
     return result;
 }
 
-QList<SFile> listedFiles(const QList<CFileElement> &files, const QString &list, EDeviceFile kind)
+/** The files of a list; an entry that tells nothing is left out, but counts where keys repeat. */
+QList<SFile> listedFiles(const CDeviceConfigurationFile10 &file, const QDomElement &listElement,
+                         const QString &list, EDeviceFile kind)
 {
     ItemPaths paths(list);
     QList<SFile> result;
-    for (const CFileElement &file : files) {
-        result.append({paths.next(file.fileName()), kind, file});
+    const QString &tag = NVornXmlTags::TAG_FILE;
+    for (QDomElement child = listElement.firstChildElement(tag); !child.isNull();
+         child = child.nextSiblingElement(tag)) {
+        CFileElement element;
+        file.fileElement(element, child);
+        const QString item = paths.next(element.fileName());
+        if (!element.isNull()) {
+            result.append({item, kind, element});
+        }
     }
     return result;
 }
@@ -213,7 +234,7 @@ int named(const QList<SFile> &files)
 CConfigurationOverview::CConfigurationOverview(const CDeviceConfigurationFile10 &file)
     : d(new CConfigurationOverviewPrivate)
 {
-    d->description = file.description();
+    d->description = ::description(file);
     d->metaData = file.metaData();
     d->hasDevice = file.configuration(d->device);
     if (!d->hasDevice) {
@@ -230,10 +251,11 @@ CConfigurationOverview::CConfigurationOverview(const CDeviceConfigurationFile10 
     d->etherCatMaster = {QStringLiteral("device.etherCatMasterFile"), DEVICE_FILE_ETHERCAT_MASTER,
                          device.etherCatMasterFile()};
     d->fpgaFiles = ::fpgaFiles(device);
-    d->opcUaFiles =
-        listedFiles(device.opcUaFiles(), QStringLiteral("device.opcUaFiles"), DEVICE_FILE_OPC_UA);
+    const QDomElement opcUa = file.findOpcUAElement();
+    d->opcUaFiles = listedFiles(file, opcUa.firstChildElement(NVornXmlTags::TAG_OPCUA_FILES),
+                                QStringLiteral("device.opcUaFiles"), DEVICE_FILE_OPC_UA);
     d->additionalFiles =
-        listedFiles(device.additionalFiles(), QStringLiteral("files"), DEVICE_FILE_ADDITIONAL);
+        listedFiles(file, file.findFilesElement(), QStringLiteral("files"), DEVICE_FILE_ADDITIONAL);
     d->plugins = ::plugins(device);
     d->options = ::options(device.options());
 }

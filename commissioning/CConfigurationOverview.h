@@ -62,7 +62,7 @@ public:
     explicit CConfigurationOverview(const CDeviceConfigurationFile10 &file);
     ~CConfigurationOverview();
 
-    /** A default-constructed description when the document has none. */
+    /** Empty texts and invalid dates when the document has none. */
     const CDescriptionElement &description() const;
     const CXMLMetaData &metaData() const;
 

@@ -24,6 +24,9 @@ using Element = HtmlWriter::Element;
 using SFile = CConfigurationOverview::SFile;
 using SDrive = CConfigurationOverview::SDrive;
 
+/** Further ones are folded away, so that the drawing is not out of sight. */
+const int SummaryLength = 12;
+
 QString kindText(EDeviceFile kind)
 {
     switch (kind) {
@@ -134,8 +137,10 @@ private:
 
     void writeFindings();
     void writeSummary();
+    void writeSummary(int first, int end);
     void writeFindingsOfWhole();
     QString place(const SConfigurationFinding &finding) const;
+    void writeSeverity(const SConfigurationFinding &finding);
     void writeFinding(int index);
     void writeFindings(const QStringList &items);
     bool hasFindings(const QStringList &items) const;
@@ -311,19 +316,34 @@ void Page::writeFindings()
 
 void Page::writeSummary()
 {
-    const QList<SConfigurationFinding> all = m_findings.all();
-    const Element list(m_out, "ol", {{"class", QStringLiteral("card summary")}});
-    for (int i = 0; i < all.size(); ++i) {
-        const SConfigurationFinding &finding = all.at(i);
-        const bool isError = finding.severity == SConfigurationFinding::ERROR;
+    const int count = m_findings.all().size();
+    const Element card(m_out, "div", {{"class", QStringLiteral("card summary")}});
+    writeSummary(0, std::min(count, SummaryLength));
+    if (count > SummaryLength) {
+        const Element details(m_out, "details");
+        m_out.element("summary", Texts::tr("Further findings: %1").arg(count - SummaryLength));
+        writeSummary(SummaryLength, count);
+    }
+}
+
+void Page::writeSummary(int first, int end)
+{
+    const Element list(m_out, "ol", {{"start", QString::number(first + 1)}});
+    for (int i = first; i < end; ++i) {
+        const SConfigurationFinding finding = m_findings.at(i);
         m_out.lineBreak();
         const Element entry(m_out, "li");
-        m_out.element(
-            "span", isError ? Texts::tr("Error") : Texts::tr("Warning"),
-            {{"class", isError ? QStringLiteral("badge error") : QStringLiteral("badge warning")}});
+        writeSeverity(finding);
         {
-            const Element link(m_out, "a", {{"href", QStringLiteral("#finding-%1").arg(i + 1)}});
-            m_out.element("bdi", finding.message);
+            const Element message(m_out, "div", {{"class", QStringLiteral("message")}});
+            {
+                const Element link(m_out, "a",
+                                   {{"href", QStringLiteral("#finding-%1").arg(i + 1)}});
+                m_out.element("bdi", finding.message);
+            }
+            if (!finding.item.isEmpty()) {
+                m_out.element("code", finding.item, {{"dir", QStringLiteral("auto")}});
+            }
         }
         m_out.element("span", place(finding), {{"class", QStringLiteral("where")}});
     }
@@ -339,9 +359,17 @@ void Page::writeFindingsOfWhole()
     }
 }
 
+void Page::writeSeverity(const SConfigurationFinding &finding)
+{
+    const bool isError = finding.severity == SConfigurationFinding::ERROR;
+    m_out.element(
+        "span", isError ? Texts::tr("Error") : Texts::tr("Warning"),
+        {{"class", isError ? QStringLiteral("badge error") : QStringLiteral("badge warning")}});
+}
+
 void Page::writeFinding(int index)
 {
-    const SConfigurationFinding finding = m_findings.all().at(index);
+    const SConfigurationFinding finding = m_findings.at(index);
     const bool isError = finding.severity == SConfigurationFinding::ERROR;
     m_out.lineBreak();
     const Element entry(m_out, "li",
@@ -349,9 +377,7 @@ void Page::writeFinding(int index)
                          {"class", isError ? QStringLiteral("error") : QStringLiteral("warning")}});
     {
         const Element paragraph(m_out, "p");
-        m_out.element(
-            "span", isError ? Texts::tr("Error") : Texts::tr("Warning"),
-            {{"class", isError ? QStringLiteral("badge error") : QStringLiteral("badge warning")}});
+        writeSeverity(finding);
         m_out.element("bdi", finding.message);
     }
     const auto line = [this](const QString &label, const QString &text) {
@@ -362,9 +388,12 @@ void Page::writeFinding(int index)
             m_out.element("bdi", text);
         }
     };
-    line(Texts::tr("Found:"), finding.found);
+    // Most messages quote what was found.
+    if (!finding.message.contains(finding.found)) {
+        line(Texts::tr("Found:"), finding.found);
+    }
     line(Texts::tr("Expected:"), finding.expected);
-    line(Texts::tr("How to mend it:"), finding.hint);
+    line(Texts::tr("Hint:"), finding.hint);
     const Element paragraph(m_out, "p", {{"class", QStringLiteral("place")}});
     m_out.element("code", finding.rule);
     const auto part = [this](const QString &text) {
@@ -418,7 +447,7 @@ DeviceDrawing::SModule Page::module(const SDrive &drive) const
     const CSubDeviceElement &element = drive.drive;
     DeviceDrawing::SModule module;
     module.number = QString::number(element.driveId());
-    module.name = element.name();
+    module.name = orDash(element.name());
     module.isOldSeries = element.isKD2();
     module.series = element.isKD2() ? QStringLiteral("KD2") : QStringLiteral("KD3");
     module.busNumber = QString::number(element.busId());
@@ -449,13 +478,14 @@ void Page::writeDrawing()
 {
     const CDeviceElement &device = m_overview.device();
     DeviceDrawing::SDevice drawn;
-    drawn.name = device.name();
+    drawn.name = orDash(device.name());
     drawn.title = Texts::tr("Device %1. Drives on its bus: %2.")
                       .arg(device.name(), QString::number(m_overview.drives().size()));
     drawn.target = QStringLiteral("device");
     drawn.details = QStringList{
         device.productName(),
         Texts::tr("Class %1").arg(CDeviceElement::deviceClassString(device.deviceClass()))};
+    drawn.details.removeAll(QString());
     if (!m_overview.etherCatMaster().file.isNull()) {
         drawn.sockets.append(QStringLiteral("EtherCAT"));
     }

@@ -23,6 +23,7 @@ public:
 
     /** All findings, as they were given. */
     QList<SConfigurationFinding> all() const { return m_findings; }
+    SConfigurationFinding at(int index) const { return m_findings.value(index); }
     /** Positions in all() of those that belong to @p item itself, in their order. */
     QList<int> at(const QString &item) const { return m_at.value(item); }
     /** The item to which the finding at the position @p index in all() belongs. */
