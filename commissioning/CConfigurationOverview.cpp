@@ -58,21 +58,12 @@ CDeviceElement withoutFiles(const CDeviceElement &device)
     return result;
 }
 
-/** The files of a list; an entry that tells nothing is left out, but counts where keys repeat. */
-QList<SFile> listedFiles(const CDeviceConfigurationFile10 &file, const QDomElement &listElement,
-                         const QString &list, EDeviceFile kind)
+QList<SFile> listedFiles(const QList<CFileElement> &files, const QString &list, EDeviceFile kind)
 {
     ItemPaths paths(list);
     QList<SFile> result;
-    const QString &tag = NVornXmlTags::TAG_FILE;
-    for (QDomElement child = listElement.firstChildElement(tag); !child.isNull();
-         child = child.nextSiblingElement(tag)) {
-        CFileElement element;
-        file.fileElement(element, child);
-        const QString item = paths.next(element.fileName());
-        if (!element.isNull()) {
-            result.append({item, kind, element});
-        }
+    for (const CFileElement &file : files) {
+        result.append({paths.next(file.fileName()), kind, file});
     }
     return result;
 }
@@ -171,10 +162,11 @@ public:
         for (QDomElement child = element.firstChildElement(tag); !child.isNull();
              child = child.nextSiblingElement(tag)) {
             const QString text = file.getNodeValue(NVornXmlTags::TAG_DRIVE_NO, child);
-            const QString item = paths.next(text);
             bool ok = false;
             const uint number = text.toUInt(&ok);
-            if (ok && number < DriveNumbers && m_items[number].isEmpty()) {
+            const bool isNumber = ok && number < DriveNumbers;
+            const QString item = paths.next(isNumber ? QString::number(number) : text);
+            if (isNumber && m_items[number].isEmpty()) {
                 m_items[number] = item;
                 m_isTold[number] = true;
             } else {
@@ -251,11 +243,10 @@ CConfigurationOverview::CConfigurationOverview(const CDeviceConfigurationFile10 
     d->etherCatMaster = {QStringLiteral("device.etherCatMasterFile"), DEVICE_FILE_ETHERCAT_MASTER,
                          device.etherCatMasterFile()};
     d->fpgaFiles = ::fpgaFiles(device);
-    const QDomElement opcUa = file.findOpcUAElement();
-    d->opcUaFiles = listedFiles(file, opcUa.firstChildElement(NVornXmlTags::TAG_OPCUA_FILES),
-                                QStringLiteral("device.opcUaFiles"), DEVICE_FILE_OPC_UA);
+    d->opcUaFiles =
+        listedFiles(device.opcUaFiles(), QStringLiteral("device.opcUaFiles"), DEVICE_FILE_OPC_UA);
     d->additionalFiles =
-        listedFiles(file, file.findFilesElement(), QStringLiteral("files"), DEVICE_FILE_ADDITIONAL);
+        listedFiles(device.additionalFiles(), QStringLiteral("files"), DEVICE_FILE_ADDITIONAL);
     d->plugins = ::plugins(device);
     d->options = ::options(device.options());
 }

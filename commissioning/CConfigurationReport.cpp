@@ -154,6 +154,7 @@ private:
     void writeDrive(const SDrive &drive);
 
     void writeFiles();
+    void writeSingleFiles();
     QList<SRow> rows(const QList<SFile> &files) const;
     QList<SRow> parameterRows() const;
     QList<SRow> fpgaRows() const;
@@ -585,13 +586,28 @@ void Page::writeDrive(const SDrive &drive)
 
 // Files
 
+/** Files of which there is one at most; one that is missing may have been found to be. */
+void Page::writeSingleFiles()
+{
+    QList<SFile> files;
+    QStringList missing;
+    for (const SFile &file :
+         {m_overview.dictionary(), m_overview.faultTexts(), m_overview.etherCatMaster()}) {
+        if (file.file.isNull()) {
+            missing.append(file.item);
+        } else {
+            files.append(file);
+        }
+    }
+    writeGroup(Texts::tr("Object dictionary, fault texts, bus configuration"), missing,
+               rows(files));
+}
+
 QList<Page::SRow> Page::rows(const QList<SFile> &files) const
 {
     QList<SRow> result;
     for (const SFile &file : files) {
-        if (!file.file.isNull()) {
-            result.append({file.item, kindText(file.kind), file.file, QString()});
-        }
+        result.append({file.item, kindText(file.kind), file.file, QString()});
     }
     return result;
 }
@@ -635,9 +651,7 @@ void Page::writeFiles()
     writeGroup(Texts::tr("Configuration"), {}, rows({m_overview.configurationFile()}));
     writeGroup(Texts::tr("Parameter files"), {QStringLiteral("device.parameterFiles")},
                parameterRows());
-    writeGroup(
-        Texts::tr("Object dictionary, fault texts, bus configuration"), {},
-        rows({m_overview.dictionary(), m_overview.faultTexts(), m_overview.etherCatMaster()}));
+    writeSingleFiles();
     writeGroup(Texts::tr("FPGA images"),
                {QStringLiteral("device.fpgaFiles"), QStringLiteral("device.activeFpgaFile")},
                fpgaRows());
@@ -786,7 +800,10 @@ void Page::writePlugin(const CConfigurationOverview::SPlugin &plugin)
     }
     const int priority = plugin.plugin.priority();
     const bool hasPriority = priority != std::numeric_limits<int>::min();
-    m_out.element("td", orDash(plugin.plugin.version()), {{"data-label", Texts::tr("Version")}});
+    {
+        const Element version(m_out, "td", {{"data-label", Texts::tr("Version")}});
+        m_out.element("bdi", orDash(plugin.plugin.version()));
+    }
     m_out.element("td", orDash(hasPriority ? QString::number(priority) : QString()),
                   {{"data-label", Texts::tr("Priority")}});
     writeDirectory(Texts::tr("On the device"), plugin.library.devicePath());
