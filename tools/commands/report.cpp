@@ -42,7 +42,8 @@ int run(const CommandLine &line)
     if (line.wantsJson() && !isFile) {
         return line.badUsage(Texts::tr("--json needs --output with the name of a file."));
     }
-    if (isFile && QFileInfo(path) == QFileInfo(line.argument(0))) {
+    // Two files that are missing would pass for one.
+    if (isFile && QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(line.argument(0))) {
         return line.badUsage(Texts::tr("The page would overwrite the configuration."));
     }
     CDeviceConfigurationFile10 file(nullptr);
