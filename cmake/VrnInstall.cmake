@@ -67,6 +67,10 @@ if(TARGET vrnCommissioning)
         commissioning/CDeviceManifest.h
         commissioning/CStagedTree.h
         commissioning/CStagingPlan.h
+        commissioning/CConfigurationOverview.h
+        commissioning/CConfigurationReport.h
+        commissioning/CDeviceManifest.h
+        commissioning/CItemFindings.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )
