@@ -1,5 +1,5 @@
-# What is installed: the libraries, the tool, the public headers in their folders, the CMake package
-# and the pkg-config file.
+# What is installed: the libraries, the tool, the public headers in their folders, the schemas of the
+# documents, the CMake package and the pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
@@ -71,6 +71,12 @@ foreach(header IN LISTS VRN_PUBLIC_HEADERS)
     install(FILES "${PROJECT_SOURCE_DIR}/${header}"
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vrnDeviceCore/${folder}")
 endforeach()
+
+install(FILES
+    "${PROJECT_SOURCE_DIR}/schemas/DeviceConfiguration.xsd"
+    "${PROJECT_SOURCE_DIR}/schemas/DeviceSettings.xsd"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/vrnDeviceCore/schemas"
+)
 
 set(installed_libraries vrnDeviceCore)
 if(NOT VRN_USE_MAKER_LIBRARIES)
