@@ -59,6 +59,7 @@ set(VRN_PUBLIC_HEADERS
 
 if(TARGET vrnCommissioning)
     list(APPEND VRN_PUBLIC_HEADERS
+        commissioning/CConfigurationCheck.h
         commissioning/CConfigurationItems.h
         commissioning/CDeviceManifest.h
         commissioning/SConfigurationFinding.h
