@@ -60,7 +60,10 @@ set(VRN_PUBLIC_HEADERS
 if(TARGET vrnCommissioning)
     list(APPEND VRN_PUBLIC_HEADERS
         commissioning/CConfigurationCheck.h
+        commissioning/CConfigurationComparison.h
         commissioning/CConfigurationItems.h
+        commissioning/CConfigurationMerge.h
+        commissioning/CConfigurationPatch.h
         commissioning/CDeviceManifest.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
