@@ -65,6 +65,8 @@ if(TARGET vrnCommissioning)
         commissioning/CConfigurationMerge.h
         commissioning/CConfigurationPatch.h
         commissioning/CDeviceManifest.h
+        commissioning/CStagedTree.h
+        commissioning/CStagingPlan.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )
