@@ -68,6 +68,8 @@ if(TARGET vrnCommissioning)
     list(APPEND VRN_PUBLIC_HEADERS
         commissioning/CConfigurationItems.h
         commissioning/CDeviceManifest.h
+        commissioning/CStagedTree.h
+        commissioning/CStagingPlan.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )
