@@ -21,19 +21,22 @@ def load(path):
 
 
 def bundled(path):
-    """The schema with the definitions of the files that it refers to."""
-    schema = load(path)
-    definitions = dict(schema.get("$defs", {}))
-    for _, node in nodes(schema):
-        file_name, separator, pointer = str(
-            node.get("$ref", "") if isinstance(node, dict) else ""
-        ).partition("#")
-        if file_name and separator:
-            definitions.update(load(path.parent / file_name)["$defs"])
-            node["$ref"] = "#" + pointer
-    if definitions:
-        schema["$defs"] = definitions
-    return schema
+    """One schema that holds the file and all that it refers to, each under its name."""
+    files = {}
+
+    def embed(name):
+        if name in files:
+            return
+        files[name] = load(path.parent / name)
+        files[name].pop("$id", None)
+        for _, node in nodes(files[name]):
+            if isinstance(node, dict) and isinstance(node.get("$ref"), str):
+                other, _, pointer = node["$ref"].partition("#")
+                embed(other or name)
+                node["$ref"] = f"#/$defs/{other or name}{pointer}"
+
+    embed(path.name)
+    return {"$defs": files, "$ref": f"#/$defs/{path.name}"}
 
 
 def nodes(value, path=()):
