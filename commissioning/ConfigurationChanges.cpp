@@ -249,7 +249,7 @@ ConfigurationChanges::SChange ConfigurationChanges::ofItem(const SItemPath &path
         after.has(item) ? CConfigurationPatch::SET_ITEM : CConfigurationPatch::REMOVE_ITEM;
     change.path = joined(path.entryPath(), item);
     change.before = before;
-    change.after = after.value(item);
+    change.after = after.has(item) ? after.value(item) : QString();
     return change;
 }
 

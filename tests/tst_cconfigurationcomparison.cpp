@@ -301,7 +301,7 @@ void tst_CConfigurationComparison::differencesMakeTheOther_data()
 void tst_CConfigurationComparison::differencesMakeTheOther()
 {
     QFETCH(uint, rarity);
-    const quint32 runs = 150;
+    const quint32 runs = 80;
     int differentPairs = 0;
     for (quint32 seed = 0; seed < runs; ++seed) {
         RandomConfiguration random(seed);
