@@ -15,12 +15,15 @@ jobs=$(nproc)
 # shellcheck disable=SC2034
 {
     build_packages=(g++ cmake ninja-build qtbase5-dev libexpat1-dev libarchive-dev pkg-config python3-minimal)
+    package_packages=("${build_packages[@]}" dpkg-dev file)
     test_packages=("${build_packages[@]}" git tzdata strace)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)
     tidy_packages=("${test_packages[@]}" clang-tidy-14)
     benchmark_packages=("${build_packages[@]}" libbenchmark-dev libpugixml-dev libxml2-dev)
     chroot_packages=(debootstrap git util-linux)
+    package_check_packages=("${package_packages[@]}" git lintian mmdebstrap util-linux)
+    abi_packages=("${build_packages[@]}" python3 abigail-tools)
     shell_packages=(git shellcheck)
 }
 
@@ -89,6 +92,9 @@ logged()
     note "(exit code $status; the whole log is in ${log#"$source_dir"/})"
     return "$status"
 }
+
+# The time of the last commit, for SOURCE_DATE_EPOCH.
+commit_time() { git -c safe.directory="$source_dir" -C "$source_dir" log -1 --format=%ct; }
 
 # work_tree_files PATTERN...: the files as a commit of everything would have them, each ended by NUL.
 # safe.directory: a CI checkout often belongs to another user than the one who builds.
