@@ -52,7 +52,7 @@ int Output::finish()
         && standardOutput.write(m_bytes) == m_bytes.size() && standardOutput.flush();
     m_bytes.clear();
     if (!written) {
-        printError(QStringLiteral("Standard output cannot be written."));
+        printError(Texts::tr("Standard output cannot be written."));
     }
     return written ? EXIT_DONE : EXIT_NOT_DONE;
 }
