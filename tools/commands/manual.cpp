@@ -216,9 +216,9 @@ int run(const CommandLine & /*line*/)
     page.section(Texts::tr("Description"));
     page.text(purpose());
     page.nextParagraph();
-    page.text(Texts::tr("Results go to standard output, diagnostics to standard error. What "
-                        "programs read should be asked for with --json: its keys and values do not "
-                        "depend on the language."));
+    page.text(Texts::tr("Results go to standard output, diagnostics to standard error. Programs "
+                        "should ask for --json: nothing in it but sentences depends on the "
+                        "language."));
 
     page.section(Texts::tr("Options"));
     for (const CommandLine::SOption &option : optionsOfTool()) {
