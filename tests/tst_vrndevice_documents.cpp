@@ -278,7 +278,7 @@ QStringList tst_vrndevice_documents::offeredByZsh(const QString &line) const
     // Completion works only on a terminal: an interactive shell in a pseudo terminal, which tells
     // everything that is handed to its compadd.
     const char start[] = R"(PROMPT= RPROMPT=
-autoload -Uz compinit && compinit -D -u && source sub/_zsh
+autoload -Uz compinit && compinit -u -d sub/zcompdump && source sub/_zsh
 compadd() {
     if [[ ${@[1,(i)(-|--)]} == *-(O|A|D)\ * ]]; then
         builtin compadd "$@"
