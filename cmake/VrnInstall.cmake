@@ -59,8 +59,14 @@ set(VRN_PUBLIC_HEADERS
 
 if(TARGET vrnCommissioning)
     list(APPEND VRN_PUBLIC_HEADERS
+        commissioning/CConfigurationCheck.h
+        commissioning/CConfigurationComparison.h
         commissioning/CConfigurationItems.h
+        commissioning/CConfigurationMerge.h
+        commissioning/CConfigurationPatch.h
         commissioning/CDeviceManifest.h
+        commissioning/CStagedTree.h
+        commissioning/CStagingPlan.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )

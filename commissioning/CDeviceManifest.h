@@ -6,10 +6,11 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /**
- * What a device tree consists of: the size and the SHA-256 sum of every file, so that what is
- * missing, surplus or changed can be found later, on the device or in the project.
+ * What a device tree consists of: its directories, and the size and the SHA-256 sum of every file,
+ * so that what is missing, surplus or changed can be found later, on the device or in the project.
  *
  * A value: it may be copied, and distinct ones may be used from different threads.
  */
@@ -34,16 +35,35 @@ public:
 
     /** In the order of their device paths, by UTF-16 units. */
     QList<SEntry> entries() const;
+    /** Takes them in any order; what isDevicePath() and the rest of readJson() refuse comes out. */
     void setEntries(const QList<SEntry> &entries);
 
-    /** The manifest as JSON, the same bytes for the same entries. */
+    /**
+     * Directories, relative to the root of the device and without a slash at the end, in the same
+     * order: those that hold no file must stand here, the parents of a file or directory may.
+     */
+    QStringList directories() const;
+    void setDirectories(const QStringList &directories);
+
+    /** The manifest as JSON, the same bytes for the same entries and directories. */
     QByteArray toJson() const;
     /**
-     * Reads what toJson() wrote; anything else is refused, and so are device paths that are
-     * absolute, lead out of the root or appear twice. On failure this manifest is unchanged.
+     * Reads what toJson() wrote, with any white space between the tokens; anything else is refused,
+     * and so are paths that are absolute, lead out of the root, appear twice, or are those of both
+     * a file and a directory. On failure this manifest is unchanged.
      * @param errorText why it was refused, for the user
      */
     bool readJson(const QByteArray &json, QString &errorText);
+
+    /** Bytes; a longer manifest is refused. Tens of thousands of files fit in. */
+    static qint64 maximumSize();
+
+    /**
+     * Whether @p path can be that of a file or directory of the device: relative, with names that
+     * are not empty, "." or "..", that fit in a file system, and of which the first is not that of
+     * the manifest itself.
+     */
+    static bool isDevicePath(const QString &path);
 
     /**
      * Reads the regular file @p path for its size and sum, in small memory.
@@ -53,4 +73,5 @@ public:
 
 private:
     QList<SEntry> m_entries;
+    QStringList m_directories;
 };

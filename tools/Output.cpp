@@ -51,6 +51,7 @@ int Output::finish()
     const bool written = standardOutput.open(stdout, QIODevice::WriteOnly)
         && standardOutput.write(m_bytes) == m_bytes.size() && standardOutput.flush();
     m_bytes.clear();
+    m_stream.seek(0);
     if (!written) {
         printError(Texts::tr("Standard output cannot be written."));
     }

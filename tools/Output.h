@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QTextStream>
 
-/** Standard output, in UTF-8; written when the command is done. */
+/** Standard output, in UTF-8; written when the command is done, or a part of it. */
 class Output
 {
 public:
@@ -17,7 +17,10 @@ public:
     /** Rows of equally many texts, each column as wide as its widest text. */
     void printColumns(const QList<QStringList> &rows);
 
-    /** Writes it all. @return EXIT_DONE, or EXIT_NOT_DONE when standard output cannot be written */
+    /**
+     * Writes what is there.
+     * @return EXIT_DONE, or EXIT_NOT_DONE when standard output cannot be written
+     */
     int finish();
 
 private:

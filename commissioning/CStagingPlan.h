@@ -1,0 +1,84 @@
+#pragma once
+
+#include "commissioning/VrnCommissioningExport.h"
+#include "elements/CDeviceElement.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/**
+ * What has to be put on a device so that it runs a configuration: every directory, and every file
+ * with where it comes from and where it goes; and what is in the way of that.
+ *
+ * The directories are those of CDeviceFileSystem, those of every drive under the drive's own
+ * number, and those in which files lie. The files are the document itself, which goes where
+ * CDeviceBaseElement::configurationFile() tells, and all that CDeviceBaseElement::allFiles() names.
+ *
+ * A file of the project may be reached through symbolic links as long as it is in the project.
+ * The project is looked at once, when the plan is made.
+ *
+ * A value: it may be copied, and distinct ones may be used from different threads.
+ */
+class VRNCOMMISSIONING_EXPORT CStagingPlan
+{
+public:
+    /** The document that describes the device, as it is to lie on the device. */
+    struct SDocument {
+        QByteArray content;
+        /** The file that it was read from; empty when it is none. */
+        QString path;
+    };
+
+    struct SFile {
+        /** Relative to the root of the device, with forward slashes: "velkor/conf/a.xml". */
+        QString devicePath;
+        /** Relative to the project's directory; empty for a document that is not in it. */
+        QString projectPath;
+        /** Name of the file that it comes from, as the system takes it; empty when it is none. */
+        QByteArray source;
+        /** That of the document; null for a file that is yet to be read. */
+        QByteArray content;
+        /** Bytes, when the plan was made. */
+        qint64 size = 0;
+    };
+
+    struct SProblem {
+        /**
+         * Stable name of what is wrong, lower-case words joined by hyphens:
+         * "no-configuration-name", "bad-configuration-name", "no-project", "no-device-directory",
+         * "bad-file-name", "outside-device", "outside-project", "missing", "not-regular",
+         * "unreadable", "place-taken", "file-and-directory".
+         */
+        QString rule;
+        /** As in SFile, or as the configuration tells it where that is wrong; may be empty. */
+        QString devicePath;
+        QString projectPath;
+        /** One sentence for the user. */
+        QString message;
+    };
+
+    /** Plans nothing. */
+    CStagingPlan();
+    /** @param projectDirectory holds the files that the configuration names */
+    CStagingPlan(const CDeviceElement &device, const SDocument &document,
+                 const QString &projectDirectory);
+
+    /** Everything that is wrong; a plan with problems is not to be carried out. */
+    QList<SProblem> problems() const;
+
+    /** In the form and order of CDeviceManifest::directories(), parents included. */
+    QStringList directories() const;
+    /** In the order of their device paths. */
+    QList<SFile> files() const;
+    /** Bytes of all files, when the plan was made. */
+    qint64 totalSize() const;
+
+private:
+    friend class StagingPlanner;
+
+    QList<SProblem> m_problems;
+    QStringList m_directories;
+    QList<SFile> m_files;
+};

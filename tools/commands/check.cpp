@@ -1,0 +1,217 @@
+#include "commissioning/CConfigurationCheck.h"
+#include "imported/CMessageBoardHelper.h"
+#include "tools/Command.h"
+#include "tools/Input.h"
+#include "tools/Output.h"
+#include "tools/Terminal.h"
+
+#include <QJsonArray>
+#include <QRegularExpression>
+
+namespace {
+
+const QString ProjectOption = QStringLiteral("project");
+const QString StrictOption = QStringLiteral("strict");
+
+/** Keeps what is posted from the user, who is told the same with the name of the input. */
+class Silence
+{
+public:
+    Silence()
+        : m_previous(CMessageBoardHelper::installHandler(
+            [](CMessageBoardHelper::ESeverity, const QString &, ICLogfile *) {}))
+    {
+    }
+    ~Silence() { CMessageBoardHelper::installHandler(m_previous); }
+
+private:
+    Q_DISABLE_COPY(Silence)
+
+    CMessageBoardHelper::Handler m_previous;
+};
+
+/** What was found in all files together. */
+struct SCount {
+    int files = 0;
+    int errors = 0;
+    int warnings = 0;
+    int unreadable = 0;
+
+    int exitCode(bool isStrict) const
+    {
+        const int warningCode = isStrict && warnings > 0 ? EXIT_FINDINGS : EXIT_DONE;
+        const int findingsCode = errors > 0 ? EXIT_FINDINGS : warningCode;
+        return unreadable > 0 ? EXIT_UNREADABLE_INPUT : findingsCode;
+    }
+
+    QString text() const
+    {
+        const QString errorText =
+            errors == 1 ? Texts::tr("1 error") : Texts::tr("%1 errors").arg(errors);
+        const QString warningText =
+            warnings == 1 ? Texts::tr("1 warning") : Texts::tr("%1 warnings").arg(warnings);
+        return files == 1
+            ? Texts::tr("%1, %2 in 1 file").arg(errorText, warningText)
+            : Texts::tr("%1, %2 in %3 files").arg(errorText, warningText, QString::number(files));
+    }
+};
+
+/** On one line, and without what a terminal takes for a command. */
+QString printable(const QString &text)
+{
+    QString result;
+    for (const QChar c : text) {
+        if (c == QLatin1Char('\n')) {
+            result += QLatin1String("\\n");
+        } else if (c.category() == QChar::Other_Control) {
+            result += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
+bool isError(const SConfigurationFinding &finding)
+{
+    return finding.severity == SConfigurationFinding::ERROR;
+}
+
+QString severityKey(SConfigurationFinding::ESeverity severity)
+{
+    return severity == SConfigurationFinding::ERROR ? QStringLiteral("error")
+                                                    : QStringLiteral("warning");
+}
+
+QJsonObject toJson(const SConfigurationFinding &finding)
+{
+    return {{QStringLiteral("rule"), finding.rule},
+            {QStringLiteral("severity"), severityKey(finding.severity)},
+            {QStringLiteral("item"), finding.item},
+            {QStringLiteral("line"), finding.position.line},
+            {QStringLiteral("column"), finding.position.column},
+            {QStringLiteral("message"), finding.message},
+            {QStringLiteral("found"), finding.found},
+            {QStringLiteral("expected"), finding.expected},
+            {QStringLiteral("hint"), finding.hint}};
+}
+
+/** "file:line:column", without what is not known. */
+QString placeText(const QString &path, const SXmlPosition &position)
+{
+    return position.isKnown() ? QStringLiteral("%1:%2:%3")
+                                    .arg(shownName(path), QString::number(position.line),
+                                         QString::number(position.column))
+                              : shownName(path);
+}
+
+void print(const QString &path, const SConfigurationFinding &finding, bool wantsColours,
+           QTextStream &out)
+{
+    const QString severity = isError(finding) ? Texts::tr("error") : Texts::tr("warning");
+    const Terminal::EStyle style = isError(finding) ? Terminal::STYLE_RED : Terminal::STYLE_YELLOW;
+    out << Terminal::styled(placeText(path, finding.position) + QLatin1Char(':'),
+                            Terminal::STYLE_BOLD, wantsColours)
+        << ' ' << Terminal::styled(severity + QLatin1Char(':'), style, wantsColours) << ' '
+        << printable(finding.message) << " [" << finding.rule << "]\n";
+    const auto detail = [&out](const QString &name, const QString &text) {
+        if (!text.isEmpty()) {
+            out << "    " << name << ' ' << printable(text) << '\n';
+        }
+    };
+    detail(Texts::tr("item:"), finding.item);
+    // Most messages quote what was found.
+    if (!finding.message.contains(finding.found)) {
+        detail(Texts::tr("found:"), finding.found);
+    }
+    detail(Texts::tr("expected:"), finding.expected);
+    detail(Texts::tr("hint:"), finding.hint);
+}
+
+/** Checks @p path, or standard input. @return why it cannot be read; empty when it was checked */
+QString checkInput(const QString &path, CConfigurationCheck &check)
+{
+    const Silence silence;
+    if (!isStandardStream(path)) {
+        return check.open(path) ? QString() : check.errorText();
+    }
+    QByteArray content;
+    QString reason;
+    if (readInput(path, content, reason) && check.load(content)) {
+        return QString();
+    }
+    static const QRegularExpression position(QStringLiteral("\\A[0-9]+:[0-9]+: "));
+    const QString text = reason.isEmpty() ? check.errorText() : reason;
+    const QLatin1String gap(position.match(text).hasMatch() ? ":" : ": ");
+    return shownName(path) + gap + text;
+}
+
+void describe(CommandLine &line)
+{
+    line.addArguments(QStringLiteral("FILE"), Texts::tr("A configuration to check."));
+    line.addOption(ProjectOption,
+                   Texts::tr("Also look for the files of the configuration in this directory."),
+                   QStringLiteral("DIR"));
+    line.addOption(StrictOption, Texts::tr("Fail for warnings, too."));
+    line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
+    line.addExample(QStringLiteral("DeviceConfiguration.3deco --project . --strict"));
+    line.addExample(QStringLiteral("*/DeviceConfiguration.3deco --json"));
+}
+
+int run(const CommandLine &line)
+{
+    CConfigurationCheck check;
+    if (line.isSet(ProjectOption) && !check.setProjectDirectory(line.value(ProjectOption))) {
+        printError(check.errorText());
+        return EXIT_UNREADABLE_INPUT;
+    }
+    const bool wantsColours = Terminal::wantsColours(stdout);
+    Output out;
+    QJsonArray files;
+    SCount count;
+    int outputCode = EXIT_DONE;
+    for (const QString &path : line.arguments(0)) {
+        const QString error = checkInput(path, check);
+        const QList<SConfigurationFinding> findings = check.findings();
+        ++count.files;
+        if (!error.isEmpty()) {
+            ++count.unreadable;
+            printError(error);
+        }
+        QJsonArray array;
+        for (const SConfigurationFinding &finding : findings) {
+            ++(isError(finding) ? count.errors : count.warnings);
+            if (line.wantsJson()) {
+                array.append(toJson(finding));
+            } else {
+                print(path, finding, wantsColours, out.stream());
+            }
+        }
+        if (line.wantsJson()) {
+            files.append(QJsonObject{{QStringLiteral("file"), shownName(path)},
+                                     {QStringLiteral("error"), error},
+                                     {QStringLiteral("findings"), array}});
+        } else {
+            if (error.isEmpty() && findings.isEmpty()) {
+                out.stream() << Texts::tr("%1: nothing is wrong").arg(shownName(path)) << '\n';
+            }
+            // File by file, so that what is printed needs no more memory than what is read.
+            outputCode = qMax(outputCode, out.finish());
+        }
+    }
+    if (line.wantsJson()) {
+        out.print({{QStringLiteral("files"), files},
+                   {QStringLiteral("errors"), count.errors},
+                   {QStringLiteral("warnings"), count.warnings}});
+    } else if (count.errors + count.warnings > 0) {
+        out.stream() << count.text() << '\n';
+    }
+    outputCode = qMax(outputCode, out.finish());
+    return qMax(outputCode, count.exitCode(line.isSet(StrictOption)));
+}
+
+const CommandRegistration Registration(
+    "check", QT_TRANSLATE_NOOP("vrndevice", "Find everything that is wrong with a configuration."),
+    describe, run);
+
+} // namespace

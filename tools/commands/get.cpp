@@ -1,0 +1,46 @@
+#include "tools/ConfigurationEdit.h"
+#include "tools/Input.h"
+
+namespace {
+
+void describe(CommandLine &line)
+{
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to read."));
+    line.addOptionalArgument(QStringLiteral("PATH"),
+                             Texts::tr("What to print: one item, or whatever items have in common, "
+                                       "as device, files or drive[0]; by default everything."));
+    line.addExample(QStringLiteral("DeviceConfiguration.3deco device.name"));
+    line.addExample(QStringLiteral("DeviceConfiguration.3deco 'drive[2]'"));
+}
+
+int run(const CommandLine &line)
+{
+    const QString path = line.argument(0);
+    CDeviceConfigurationFile10 file(nullptr);
+    if (!openConfiguration(path, file)) {
+        return EXIT_UNREADABLE_INPUT;
+    }
+    const CConfigurationItems items(file);
+    const bool isWhole = line.arguments(1).isEmpty();
+    const QString wanted = line.argument(1);
+    const QList<CConfigurationItems::SItem> found = isWhole ? items.items() : items.items(wanted);
+    if (!items.errorText().isEmpty()) {
+        return reportFailure(path, items);
+    }
+    Output out;
+    QString value;
+    if (line.wantsJson()) {
+        out.print({{QStringLiteral("items"), toJson(found)}});
+    } else if (!isWhole && items.value(wanted, value)) {
+        out.stream() << value << '\n';
+    } else {
+        print(found, out.stream());
+    }
+    return out.finish();
+}
+
+const CommandRegistration
+    Registration("get", QT_TRANSLATE_NOOP("vrndevice", "Print items of a configuration."), describe,
+                 run);
+
+} // namespace
