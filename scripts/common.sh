@@ -14,9 +14,11 @@ jobs=$(nproc)
 # One list per purpose. The tests need tzdata because they also run in foreign time zones.
 # shellcheck disable=SC2034
 {
-    build_packages=(g++ cmake ninja-build qtbase5-dev libexpat1-dev libarchive-dev pkg-config python3-minimal)
+    build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools libexpat1-dev
+        libarchive-dev pkg-config python3-minimal)
     package_packages=("${build_packages[@]}" dpkg-dev file)
     test_packages=("${build_packages[@]}" git tzdata strace)
+    translation_packages=(git qttools5-dev-tools)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)
     tidy_packages=("${test_packages[@]}" clang-tidy-14)

@@ -97,14 +97,14 @@ void tst_vrndevice_smallfiles::usage_data()
     const auto row = [](const QString &arguments, const QString &errors) {
         QTest::newRow(qPrintable(arguments)) << arguments << errors;
     };
-    row(u"settings show"_s, u"1 argument(s) expected, 0 given"_s);
+    row(u"settings show"_s, u"The argument FILE is missing."_s);
     row(u"settings set settings.3conf"_s, u"Neither --name nor --drive"_s);
     row(u"settings set settings.3conf --drive 1"_s, u"--drive must be"_s);
     row(u"settings set settings.3conf --drive =x"_s, u"--drive must be"_s);
     row(u"settings set settings.3conf --drive 255=x"_s, u"0 to 254"_s);
     row(u"settings set settings.3conf --drive -1=x"_s, u"--drive must be"_s);
     row(u"settings set settings.3conf --drive x=x --name N"_s, u"--drive must be"_s);
-    row(u"network set network.conf"_s, u"At least 2 argument(s) expected, 1 given"_s);
+    row(u"network set network.conf"_s, u"The argument KEY=VALUE is missing."_s);
     row(u"network set network.conf MODE"_s, u"'MODE' is not KEY=VALUE"_s);
     row(u"network set network.conf mode=DHCP"_s, u"mode: There is no such key"_s);
     row(u"network set network.conf MODE=UNKNOWN"_s, u"MODE: 'UNKNOWN' is none of"_s);
@@ -112,8 +112,8 @@ void tst_vrndevice_smallfiles::usage_data()
     row(u"network set network.conf ADDRESS="_s, u"ADDRESS: '' is no IPv4"_s);
     row(u"network set network.conf NETCON_PORT=65536"_s, u"NETCON_PORT: '65536' is no port"_s);
     row(u"network set network.conf KERNEL_LOGLEVEL=8"_s, u"KERNEL_LOGLEVEL: '8' is no"_s);
-    row(u"module"_s, u"At least 1 argument(s) expected, 0 given"_s);
-    row(u"message"_s, u"At least 1 argument(s) expected, 0 given"_s);
+    row(u"module"_s, u"The argument NAME is missing."_s);
+    row(u"message"_s, u"The argument CODE is missing."_s);
     row(u"message 1024 400x"_s, u"'400x' is no code"_s);
     row(u"message 4294968320"_s, u"'4294968320' is no code"_s);
     row(u"message 0x"_s, u"'0x' is no code"_s);

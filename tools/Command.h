@@ -2,8 +2,8 @@
 
 #include "tools/Texts.h"
 
-#include <QCommandLineParser>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -56,6 +56,10 @@ public:
         QString description;
         bool isRepeated = false;
         bool isOptional = false;
+        /** The only texts that make sense; empty when anything may be given. */
+        QStringList choices;
+        /** How files that make sense are called, with wildcards; for the completion only. */
+        QStringList fileNames;
     };
 
     struct SOption {
@@ -70,18 +74,23 @@ public:
 
     explicit CommandLine(const SCommand &command);
 
-    /** Adds an argument that must be given. */
-    void addArgument(const QString &name, const QString &description);
+    /** Adds an argument that must be given; with @p choices one of them. */
+    void addArgument(const QString &name, const QString &description,
+                     const QStringList &choices = {});
     /** Adds an argument that may be given; only optional ones can follow it. */
     void addOptionalArgument(const QString &name, const QString &description);
     /** Adds arguments of which at least one must be given; nothing can follow them. */
     void addArguments(const QString &name, const QString &description);
+    /** Tells how the files are called that the argument which was added last is for. */
+    void setFileNames(const QStringList &patterns);
     /** Without @p valueName the option is a switch. */
     void addOption(const QString &name, const QString &description,
                    const QString &valueName = QString(), const QStringList &choices = {});
     /** As above, with a short name of one letter beside the long one. */
     void addOption(QChar letter, const QString &name, const QString &description,
-                   const QString &valueName = QString());
+                   const QString &valueName = QString(), const QStringList &choices = {});
+    /** Takes away --json, for a command whose output is text by its nature. */
+    void withoutJson();
     /** @param example what follows the name of the command */
     void addExample(const QString &example);
 
@@ -116,14 +125,20 @@ public:
     int badUsage(const QString &what) const;
 
 private:
-    void add(const SOption &option);
-    void add(const SArgument &argument);
+    /** The option that is called @p name on the command line, without hyphens; or null. */
+    const SOption *option(const QString &name) const;
+    QString sort(const QStringList &given);
+    QString sortLetters(const QString &word, QStringList &following);
+    QString noSuchOption(const QString &given) const;
+    QString problem() const;
 
     const QString m_name;
     const QString m_summary;
-    QCommandLineParser m_parser;
     QList<SArgument> m_arguments;
     QList<SOption> m_options;
     QStringList m_examples;
+    /** What was given: the arguments, and the values of each option by its long name. */
+    QStringList m_givenArguments;
+    QMap<QString, QStringList> m_givenValues;
     int m_exitCode = EXIT_DONE;
 };

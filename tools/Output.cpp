@@ -53,7 +53,7 @@ int Output::finish()
     m_bytes.clear();
     m_stream.seek(0);
     if (!written) {
-        printError(QStringLiteral("Standard output cannot be written."));
+        printError(Texts::tr("Standard output cannot be written."));
     }
     return written ? EXIT_DONE : EXIT_NOT_DONE;
 }

@@ -1,6 +1,7 @@
 #include "tools/SmallFiles.h"
 
 #include "settings/CDeviceSettingsFileV10.h"
+#include "tools/Texts.h"
 
 #include <QJsonArray>
 
@@ -18,10 +19,10 @@ QJsonObject toJson(const CDeviceSettings &settings)
 
 QList<QStringList> toRows(const CDeviceSettings &settings)
 {
-    QList<QStringList> rows = {{QStringLiteral("Device"), settings.deviceName()}};
+    QList<QStringList> rows = {{Texts::tr("Device"), settings.deviceName()}};
     const QMap<quint8, QString> names = settings.subDeviceNameMap();
     for (auto name = names.constBegin(); name != names.constEnd(); ++name) {
-        rows.append({QStringLiteral("Drive %1").arg(name.key()), name.value()});
+        rows.append({Texts::tr("Drive %1").arg(name.key()), name.value()});
     }
     return rows;
 }

@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 
@@ -19,10 +20,20 @@ struct SResult {
     QJsonObject json() const { return QJsonDocument::fromJson(output.toUtf8()).object(); }
 };
 
-inline SResult run(const QString &directory, const QStringList &arguments)
+/** The environment of the test, in which the tool speaks English whatever the locale is. */
+inline QProcessEnvironment englishEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+    return environment;
+}
+
+inline SResult run(const QString &directory, const QStringList &arguments,
+                   const QProcessEnvironment &environment = englishEnvironment())
 {
     QProcess process;
     process.setWorkingDirectory(directory);
+    process.setProcessEnvironment(environment);
     process.start(QStringLiteral(VRN_TOOL), arguments);
     SResult result;
     if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {

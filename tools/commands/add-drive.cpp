@@ -25,13 +25,15 @@ CSubDeviceElement newDrive(const QString &type)
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to change."));
-    line.addOption(TypeOption, QStringLiteral("Series of the drive: KD2_drive or KD3_drive."),
-                   QStringLiteral("TYPE"));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to change."));
+    line.setFileNames({QStringLiteral("*.3deco")});
+    line.addOption(TypeOption, Texts::tr("Series of the drive."), QStringLiteral("TYPE"),
+                   {subDeviceTypeName(CSubDeviceElement(CSubDeviceKD2Element())),
+                    subDeviceTypeName(CSubDeviceElement(CSubDeviceKD3Element()))});
     line.addOption(NameOption,
-                   QStringLiteral("Name of the drive; by default made from its drive number."),
+                   Texts::tr("Name of the drive; by default made from its drive number."),
                    QStringLiteral("NAME"));
-    line.addOption(IdOption, QStringLiteral("Drive number 0 to 254; by default the next free one."),
+    line.addOption(IdOption, Texts::tr("Drive number 0 to 254; by default the next free one."),
                    QStringLiteral("NUMBER"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --type KD3_drive --name Gripper"));
 }
@@ -40,12 +42,12 @@ int run(const CommandLine &line)
 {
     CSubDeviceElement drive = newDrive(line.value(TypeOption));
     if (drive.type() == NvrnDeviceCore::ELEMENT_UNKNOWN) {
-        return line.badUsage(QStringLiteral("--type must be KD2_drive or KD3_drive."));
+        return line.badUsage(Texts::tr("--type must be KD2_drive or KD3_drive."));
     }
     bool isNumber = true;
     const uint id = line.isSet(IdOption) ? line.value(IdOption).toUInt(&isNumber) : NextFree;
     if (!isNumber || id > NextFree || (id == NextFree && line.isSet(IdOption))) {
-        return line.badUsage(QStringLiteral("--id must be a number from 0 to 254."));
+        return line.badUsage(Texts::tr("--id must be a number from 0 to 254."));
     }
 
     const QString path = line.argument(0);
@@ -56,8 +58,7 @@ int run(const CommandLine &line)
     }
     const auto wanted = static_cast<quint8>(id);
     if (wanted != NextFree && device.subDevice(wanted).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
-        printError(
-            QStringLiteral("%1: The drive number %2 is in use.").arg(path, QString::number(id)));
+        printError(Texts::tr("%1: The drive number %2 is in use.").arg(path, QString::number(id)));
         return EXIT_NOT_DONE;
     }
     drive.setName(line.value(NameOption));
@@ -76,8 +77,9 @@ int run(const CommandLine &line)
     if (line.wantsJson()) {
         out.print(toJson(added));
     } else {
-        out.stream() << "Added drive " << used << ": " << added.name() << ", "
-                     << subDeviceTypeName(added) << '\n';
+        out.stream() << Texts::tr("Added drive %1: %2, %3")
+                            .arg(QString::number(used), added.name(), subDeviceTypeName(added))
+                     << '\n';
     }
     return out.finish();
 }

@@ -24,7 +24,7 @@ void print(int code, const QString &message, const QString &description, QTextSt
 void describe(CommandLine &line)
 {
     line.addArguments(QStringLiteral("CODE"),
-                      QStringLiteral("Code of a system message, 1024 to 1151 (0x400 to 0x47f)."));
+                      Texts::tr("Code of a system message, 1024 to 1151 (0x400 to 0x47f)."));
     line.addExample(QStringLiteral("1098 0x400"));
 }
 
@@ -35,7 +35,7 @@ int run(const CommandLine &line)
         bool isCode = false;
         codes.append(toCode(text, isCode));
         if (!isCode) {
-            return line.badUsage(QStringLiteral("'%1' is no code.").arg(text));
+            return line.badUsage(Texts::tr("'%1' is no code.").arg(text));
         }
     }
     Output out;
@@ -43,8 +43,7 @@ int run(const CommandLine &line)
     QStringList errors;
     for (const int code : codes) {
         if (!CDeviceSystemMessage::isSystemMessage(code)) {
-            errors.append(
-                QStringLiteral("%1 is no system message: they are 1024 to 1151.").arg(code));
+            errors.append(Texts::tr("%1 is no system message: they are 1024 to 1151.").arg(code));
             continue;
         }
         QString message;

@@ -6,24 +6,29 @@
 
 namespace {
 
-/** One part of a name: what it is called, what it looks like, and who knows whether it is one. */
+/** One part of a name: who knows whether a text is one, and what to say when it is none. */
 struct SPart {
-    QString title;
-    QString form;
     bool (COptionModuleFileName::*set)(const QString &);
+    QString missing;
+    /** With a place for the text. */
+    QString wrong;
 };
 
 QList<SPart> parts()
 {
     using Name = COptionModuleFileName;
     return {
-        {QStringLiteral("slot"), QStringLiteral("OM and a number, such as OM1"), &Name::setSlot},
-        {QStringLiteral("interface"), QStringLiteral("two letters or more, such as EC"),
-         &Name::setInterface},
-        {QStringLiteral("hardware version"), QStringLiteral("H and a number, such as H2"),
-         &Name::setHardwareVersion},
-        {QStringLiteral("software version"), QStringLiteral("V and two numbers, such as V1_3"),
-         &Name::setSoftwareVersion},
+        {&Name::setSlot, Texts::tr("The slot is missing: OM and a number, such as OM1."),
+         Texts::tr("'%1' is no slot: OM and a number, such as OM1.")},
+        {&Name::setInterface,
+         Texts::tr("The interface is missing: two letters or more, such as EC."),
+         Texts::tr("'%1' is no interface: two letters or more, such as EC.")},
+        {&Name::setHardwareVersion,
+         Texts::tr("The hardware version is missing: H and a number, such as H2."),
+         Texts::tr("'%1' is no hardware version: H and a number, such as H2.")},
+        {&Name::setSoftwareVersion,
+         Texts::tr("The software version is missing: V and two numbers, such as V1_3."),
+         Texts::tr("'%1' is no software version: V and two numbers, such as V1_3.")},
     };
 }
 
@@ -42,18 +47,18 @@ QString reasonAgainst(const QString &path)
     for (const SPart &part : parts()) {
         const QString text = given.value(index);
         if (text.isEmpty()) {
-            return QStringLiteral("The %1 is missing: %2.").arg(part.title, part.form);
+            return part.missing;
         }
         if (!(name.*part.set)(text)) {
-            return QStringLiteral("'%1' is no %2: %3.").arg(text, part.title, part.form);
+            return part.wrong.arg(text);
         }
         ++index;
     }
     if (dot < 0 || dot == fileName.size() - 1) {
-        return QStringLiteral("The suffix is missing, such as .%1.")
+        return Texts::tr("The suffix is missing, such as .%1.")
             .arg(COptionModuleFileName::standardSuffix());
     }
-    return QStringLiteral(
+    return Texts::tr(
         "Behind the versions there may be '_' and a text, and then '.' and a suffix, both of "
         "letters, digits and '_'.");
 }
@@ -83,17 +88,17 @@ QStringList toRow(const COptionModuleFileName &name)
 void describe(CommandLine &line)
 {
     line.addArguments(QStringLiteral("NAME"),
-                      QStringLiteral("File name of option-module firmware, also with directories; "
-                                     "the file need not be there."));
+                      Texts::tr("File name of option-module firmware, also with directories; "
+                                "the file need not be there."));
+    line.setFileNames({QStringLiteral("OM*")});
     line.addExample(QStringLiteral("OM1_EC_H2_V1_3.bin"));
 }
 
 int run(const CommandLine &line)
 {
     QJsonArray array;
-    QList<QStringList> rows = {{QStringLiteral("FILE"), QStringLiteral("SLOT"),
-                                QStringLiteral("INTERFACE"), QStringLiteral("HARDWARE"),
-                                QStringLiteral("SOFTWARE"), QStringLiteral("TEXT")}};
+    QList<QStringList> rows = {{Texts::tr("FILE"), Texts::tr("SLOT"), Texts::tr("INTERFACE"),
+                                Texts::tr("HARDWARE"), Texts::tr("SOFTWARE"), Texts::tr("TEXT")}};
     QStringList errors;
     for (const QString &path : line.arguments(0)) {
         const COptionModuleFileName name(path);

@@ -9,7 +9,8 @@ namespace {
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to check."));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The network.conf to check."));
+    line.setFileNames({QStringLiteral("network.conf")});
     line.addExample(QStringLiteral("network.conf"));
 }
 
@@ -31,7 +32,7 @@ int run(const CommandLine &line)
         }
         out.print({{QStringLiteral("findings"), array}});
     } else if (findings.isEmpty()) {
-        out.stream() << path << ": nothing is wrong\n";
+        out.stream() << Texts::tr("%1: nothing is wrong").arg(path) << '\n';
     }
     for (const CNetworkSettingsCheck::SFinding &finding : findings) {
         if (!line.wantsJson()) {

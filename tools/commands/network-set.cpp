@@ -40,8 +40,8 @@ bool reportLosses(const QString &path, const QList<Check::SFinding> &findings)
         }
     }
     if (found) {
-        printError(QStringLiteral("%1: These lines would be lost. Correct or remove them first.")
-                       .arg(path));
+        printError(
+            Texts::tr("%1: These lines would be lost. Correct or remove them first.").arg(path));
     }
     return found;
 }
@@ -58,11 +58,11 @@ void warnOfRest(const QString &path, CNetworkSettingsFile &file)
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to change."));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The network.conf to change."));
+    line.setFileNames({QStringLiteral("network.conf")});
     line.addArguments(QStringLiteral("KEY=VALUE"),
-                      QStringLiteral("A key of the file and its new value."));
-    line.addOption(CreateOption,
-                   QStringLiteral("Start from the defaults if there is no such file."));
+                      Texts::tr("A key of the file and its new value."));
+    line.addOption(CreateOption, Texts::tr("Start from the defaults if there is no such file."));
     line.addExample(QStringLiteral("network.conf MODE=STATIC ADDRESS=192.168.1.10"));
 }
 
@@ -73,7 +73,7 @@ int run(const CommandLine &line)
         const QString key = assignment.section(QLatin1Char('='), 0, 0);
         const QString problem = Check::problem(key, assignment.section(QLatin1Char('='), 1));
         if (!assignment.contains(QLatin1Char('='))) {
-            return line.badUsage(QStringLiteral("'%1' is not KEY=VALUE.").arg(assignment));
+            return line.badUsage(Texts::tr("'%1' is not KEY=VALUE.").arg(assignment));
         }
         if (!problem.isEmpty()) {
             return line.badUsage(QStringLiteral("%1: %2").arg(key, problem));

@@ -6,7 +6,8 @@ namespace {
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The network.conf to show."));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The network.conf to show."));
+    line.setFileNames({QStringLiteral("network.conf")});
     line.addExample(QStringLiteral("network.conf"));
 }
 

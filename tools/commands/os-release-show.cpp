@@ -15,20 +15,21 @@ QList<SItem> items()
 {
     using File = CDeviceOSReleaseFile;
     return {
-        {QStringLiteral("Product"), QStringLiteral("product"), &File::product},
-        {QStringLiteral("Platform"), QStringLiteral("platform"), &File::platform},
+        {Texts::tr("Product"), QStringLiteral("product"), &File::product},
+        {Texts::tr("Platform"), QStringLiteral("platform"), &File::platform},
         {QStringLiteral("PTXdist"), QStringLiteral("ptxdistVersion"), &File::ptxdistVersion},
-        {QStringLiteral("Board support"), QStringLiteral("ptxdistBsp"), &File::ptxdistBsp},
-        {QStringLiteral("Built"), QStringLiteral("buildDate"), &File::buildDate},
-        {QStringLiteral("Toolchain"), QStringLiteral("toolchainVersion"), &File::toolchainVersion},
-        {QStringLiteral("Kernel"), QStringLiteral("kernelImage"), &File::kernelImage},
+        {Texts::tr("Board support"), QStringLiteral("ptxdistBsp"), &File::ptxdistBsp},
+        {Texts::tr("Built"), QStringLiteral("buildDate"), &File::buildDate},
+        {Texts::tr("Toolchain"), QStringLiteral("toolchainVersion"), &File::toolchainVersion},
+        {Texts::tr("Kernel"), QStringLiteral("kernelImage"), &File::kernelImage},
         {QStringLiteral("Qt"), QStringLiteral("qtVersion"), &File::qtVersion},
     };
 }
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The os-release to show."));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The os-release to show."));
+    line.setFileNames({QStringLiteral("os-release")});
     line.addExample(QStringLiteral("os-release"));
 }
 

@@ -6,32 +6,44 @@
 namespace {
 
 struct SPlacedFile {
-    QString kind;
+    /** Untranslated, as the JSON form has it. */
+    const char *kind;
     CFileElement file;
+};
+
+struct SKind {
+    NvrnDeviceCore::EDeviceFile file;
+    const char *name;
+};
+
+const SKind Kinds[] = {
+    {NvrnDeviceCore::DEVICE_FILE_PARAMETER_VALUES,
+     QT_TRANSLATE_NOOP("vrndevice", "parameter values")},
+    {NvrnDeviceCore::DEVICE_FILE_PARAMETER_DEFINITION,
+     QT_TRANSLATE_NOOP("vrndevice", "parameter definition")},
+    {NvrnDeviceCore::DEVICE_FILE_OBJECT_DICTIONARY,
+     QT_TRANSLATE_NOOP("vrndevice", "object dictionary")},
+    {NvrnDeviceCore::DEVICE_FILE_FAULT_TEXTS, QT_TRANSLATE_NOOP("vrndevice", "fault texts")},
+    {NvrnDeviceCore::DEVICE_FILE_ADDITIONAL, QT_TRANSLATE_NOOP("vrndevice", "additional file")},
+    {NvrnDeviceCore::DEVICE_FILE_PLUGIN, QT_TRANSLATE_NOOP("vrndevice", "plug-in")},
+    {NvrnDeviceCore::DEVICE_FILE_FPGA, QT_TRANSLATE_NOOP("vrndevice", "FPGA image")},
+    {NvrnDeviceCore::DEVICE_FILE_OPC_UA, QT_TRANSLATE_NOOP("vrndevice", "OPC UA model")},
+    {NvrnDeviceCore::DEVICE_FILE_ETHERCAT_MASTER,
+     QT_TRANSLATE_NOOP("vrndevice", "EtherCAT master")},
+    {NvrnDeviceCore::DEVICE_FILE_SUB_DEVICE_PARAMETERS,
+     QT_TRANSLATE_NOOP("vrndevice", "drive parameters")},
+    {NvrnDeviceCore::DEVICE_FILE_KD2_FIRMWARE, QT_TRANSLATE_NOOP("vrndevice", "KD2 firmware")},
+    {NvrnDeviceCore::DEVICE_FILE_KD2_LOGIC, QT_TRANSLATE_NOOP("vrndevice", "KD2 logic")},
+    {NvrnDeviceCore::DEVICE_FILE_KD2_PARAMETERS, QT_TRANSLATE_NOOP("vrndevice", "KD2 parameters")},
 };
 
 QList<SPlacedFile> placedFiles(const CDeviceElement &device)
 {
-    using namespace NvrnDeviceCore;
-    const QList<QPair<EDeviceFile, QString>> kinds = {
-        {DEVICE_FILE_PARAMETER_VALUES, QStringLiteral("parameter values")},
-        {DEVICE_FILE_PARAMETER_DEFINITION, QStringLiteral("parameter definition")},
-        {DEVICE_FILE_OBJECT_DICTIONARY, QStringLiteral("object dictionary")},
-        {DEVICE_FILE_FAULT_TEXTS, QStringLiteral("fault texts")},
-        {DEVICE_FILE_ADDITIONAL, QStringLiteral("additional file")},
-        {DEVICE_FILE_PLUGIN, QStringLiteral("plug-in")},
-        {DEVICE_FILE_FPGA, QStringLiteral("FPGA image")},
-        {DEVICE_FILE_OPC_UA, QStringLiteral("OPC UA model")},
-        {DEVICE_FILE_ETHERCAT_MASTER, QStringLiteral("EtherCAT master")},
-        {DEVICE_FILE_SUB_DEVICE_PARAMETERS, QStringLiteral("drive parameters")},
-        {DEVICE_FILE_KD2_FIRMWARE, QStringLiteral("KD2 firmware")},
-        {DEVICE_FILE_KD2_LOGIC, QStringLiteral("KD2 logic")},
-        {DEVICE_FILE_KD2_PARAMETERS, QStringLiteral("KD2 parameters")},
-    };
-    QList<SPlacedFile> placed = {{QStringLiteral("configuration"), device.configurationFile()}};
-    for (const auto &kind : kinds) {
-        for (const CFileElement &file : device.allFiles(kind.first)) {
-            placed.append({kind.second, file});
+    QList<SPlacedFile> placed = {
+        {QT_TRANSLATE_NOOP("vrndevice", "configuration"), device.configurationFile()}};
+    for (const SKind &kind : Kinds) {
+        for (const CFileElement &file : device.allFiles(kind.file)) {
+            placed.append({kind.name, file});
         }
     }
     return placed;
@@ -45,18 +57,19 @@ QString shown(const QString &directory)
 
 void print(const QList<SPlacedFile> &files, Output &out)
 {
-    QList<QStringList> rows = {{QStringLiteral("KIND"), QStringLiteral("FILE"),
-                                QStringLiteral("ON THE DEVICE"), QStringLiteral("IN THE PROJECT")}};
+    QList<QStringList> rows = {{Texts::tr("KIND"), Texts::tr("FILE"), Texts::tr("ON THE DEVICE"),
+                                Texts::tr("IN THE PROJECT")}};
     for (const SPlacedFile &placed : files) {
-        rows.append({placed.kind, placed.file.fileName(), shown(placed.file.devicePath()),
-                     shown(placed.file.projectPath())});
+        rows.append({Texts::tr(placed.kind), placed.file.fileName(),
+                     shown(placed.file.devicePath()), shown(placed.file.projectPath())});
     }
     out.printColumns(rows);
 }
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The configuration to read."));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to read."));
+    line.setFileNames({QStringLiteral("*.3deco")});
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
 }
 
@@ -73,7 +86,7 @@ int run(const CommandLine &line)
         QJsonArray array;
         for (const SPlacedFile &placed : files) {
             QJsonObject object = toJson(placed.file);
-            object.insert(QStringLiteral("kind"), placed.kind);
+            object.insert(QStringLiteral("kind"), QString::fromLatin1(placed.kind));
             array.append(object);
         }
         out.print({{QStringLiteral("files"), array}});

@@ -28,12 +28,13 @@ bool setDriveName(const QString &assignment, CDeviceSettings &settings)
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The settings document to change."));
-    line.addOption(NameOption, QStringLiteral("Name of the device."), QStringLiteral("NAME"));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The settings document to change."));
+    line.setFileNames({QStringLiteral("*.3conf")});
+    line.addOption(NameOption, Texts::tr("Name of the device."), QStringLiteral("NAME"));
     line.addOption(DriveOption,
-                   QStringLiteral("Name of the drive with that number, 0 to 254; may be repeated."),
+                   Texts::tr("Name of the drive with that number, 0 to 254; may be repeated."),
                    QStringLiteral("NUMBER=NAME"));
-    line.addOption(CreateOption, QStringLiteral("Start a new document if there is no such file."));
+    line.addOption(CreateOption, Texts::tr("Start a new document if there is no such file."));
     line.addExample(
         QStringLiteral("settings.3conf --name Wrapper --drive 0=Infeed --drive 1=Knife"));
 }
@@ -44,11 +45,11 @@ int run(const CommandLine &line)
     for (const QString &assignment : line.values(DriveOption)) {
         if (!setDriveName(assignment, changes)) {
             return line.badUsage(
-                QStringLiteral("--drive must be a number from 0 to 254, '=' and a name."));
+                Texts::tr("--drive must be a number from 0 to 254, '=' and a name."));
         }
     }
     if (!line.isSet(NameOption) && changes.isNull()) {
-        return line.badUsage(QStringLiteral("Neither --name nor --drive is given."));
+        return line.badUsage(Texts::tr("Neither --name nor --drive is given."));
     }
 
     const QString path = line.argument(0);

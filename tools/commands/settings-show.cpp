@@ -6,7 +6,8 @@ namespace {
 
 void describe(CommandLine &line)
 {
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("The settings document to show."));
+    line.addArgument(QStringLiteral("FILE"), Texts::tr("The settings document to show."));
+    line.setFileNames({QStringLiteral("*.3conf")});
     line.addExample(QStringLiteral("settings.3conf"));
 }
 
