@@ -223,19 +223,14 @@ bool ArchiveReader::read(const std::function<bool(const char *, int)> &take)
             broken();
             return false;
         }
-        // A hole may be of any size, and costs nothing in the archive.
-        if (offset != done) {
-            m_errorText = Texts::tr("%1 has holes.").arg(QString::fromUtf8(m_name));
-            broken();
-            return false;
-        }
         done += static_cast<qint64>(size);
         if (!take(static_cast<const char *>(block), static_cast<int>(size))) {
             return false;
         }
     }
+    // Holes do not come as bytes: one may be of any size, and costs nothing in the archive.
     if (done != m_size) {
-        m_errorText = Texts::tr("%1 ends too early.").arg(QString::fromUtf8(m_name));
+        m_errorText = Texts::tr("%1 has holes, or ends too early.").arg(QString::fromUtf8(m_name));
         broken();
         return false;
     }
