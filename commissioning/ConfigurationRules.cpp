@@ -43,6 +43,8 @@ constexpr SRow Rows[] = {
      QT_TRANSLATE_NOOP("CConfigurationCheck",
                        "The configuration was revised before it was created.")},
 
+    {FINDINGS_LEFT_OUT, "findings-left-out", ERROR,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "So much was found that the rest is left out.")},
     {DEVICE_MISSING, "device-missing", ERROR,
      QT_TRANSLATE_NOOP("CConfigurationCheck", "The document has no device.")},
     {DEVICE_CLASS_MISSING, "device-class-missing", ERROR,

@@ -40,6 +40,8 @@ const int LongestName = 255;
 /** UTF-16 units. A longer key is no help for anybody, and may stand in many findings. */
 const int LongestKey = 1000;
 const int LongestShownText = 200;
+/** More than anybody reads, and no more than memory holds. */
+const int MostFindings = 100000;
 
 /** @p text as it is told in messages. */
 QString shown(const QString &text)
@@ -191,6 +193,17 @@ QList<SConfigurationFinding> DocumentCheck::run()
 }
 
 void DocumentCheck::report(ERule rule, const SPlace &place, const SText &text)
+{
+    if (m_findings.size() < MostFindings) {
+        append(rule, place, text);
+    } else if (m_findings.size() == MostFindings) {
+        append(FINDINGS_LEFT_OUT, place,
+               {Texts::tr("There is more to be found; from here on it is left out."), QString(),
+                QString(), Texts::tr("Mend what is told, then check again.")});
+    }
+}
+
+void DocumentCheck::append(ERule rule, const SPlace &place, const SText &text)
 {
     SConfigurationFinding finding;
     finding.rule = id(rule);
@@ -1025,8 +1038,8 @@ void DocumentCheck::checkPlacedFiles(const QList<CFileElement> &files, const SPl
         if (!file.fileName().isEmpty()) {
             // Two entries of one name have all their files in common; once is enough.
             isClaimed = isClaimed && claim(file, place);
-            // Without the device's name the directory is not known.
-            if (!m_device.name().isEmpty()) {
+            // Without the names of device and configuration the directories are not known.
+            if (!m_device.name().isEmpty() && !file.devicePath().isEmpty()) {
                 checkInProject(file, place);
             }
         }

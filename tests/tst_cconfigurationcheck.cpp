@@ -51,6 +51,15 @@ QStringList told(const CConfigurationCheck &check)
     return result;
 }
 
+QStringList rules(const CConfigurationCheck &check)
+{
+    QStringList result;
+    for (const SConfigurationFinding &finding : check.findings()) {
+        result << finding.rule;
+    }
+    return result;
+}
+
 struct SInvalid {
     const char *name;
     QList<const char *> findings;
@@ -456,7 +465,10 @@ private Q_SLOTS:
     void oneObjectForManyDocuments();
     void longTextsAreShortened();
     void manyFindings();
+    void endlessFindings();
     void deepDocument();
+    void longReservedName();
+    void namelessDeviceInAProject();
     void nothingIsKept();
     void severalThreads();
 };
@@ -603,7 +615,8 @@ void tst_CConfigurationCheck::projectDirectory()
 
 void tst_CConfigurationCheck::everyRuleHasAnExample()
 {
-    QSet<QString> shown = {u"project-file-unreadable"_s};
+    // The two that need more than a table.
+    QSet<QString> shown = {u"project-file-unreadable"_s, u"findings-left-out"_s};
     for (const SInvalid &invalid : InvalidFiles) {
         for (const QString &rule : rulesIn(invalid.findings)) {
             shown.insert(rule);
@@ -910,6 +923,51 @@ void tst_CConfigurationCheck::manyFindings()
     QCOMPARE(check.findings().size(), 2 * (count - 1));
     QCOMPARE(check.findings().constFirst().item, u"files[a][2]"_s);
     QCOMPARE(check.findings().at(count - 2).item, u"files[a][%1]"_s.arg(count));
+}
+
+void tst_CConfigurationCheck::endlessFindings()
+{
+    const int most = 100000;
+    CConfigurationCheck check;
+    QVERIFY(check.load(document(QByteArray("<a/>").repeated(most))));
+    QCOMPARE(check.findings().size(), most);
+    QCOMPARE(check.findings().constLast().rule, u"element-unknown"_s);
+    QVERIFY(check.load(document(QByteArray("<a/>").repeated(most + 2))));
+    QCOMPARE(check.findings().size(), most + 1);
+    QCOMPARE(check.findings().constLast().rule, u"findings-left-out"_s);
+    QCOMPARE(check.findings().at(most - 1).rule, u"element-unknown"_s);
+}
+
+void tst_CConfigurationCheck::longReservedName()
+{
+    // No directory has such a name: it is not even looked whether it is reserved.
+    for (const int size : {256, 1000000}) {
+        QByteArray bytes = document(QByteArray());
+        bytes.replace("STD", "setup" + QByteArray(size, 'x'));
+        CConfigurationCheck check;
+        QVERIFY(check.load(bytes));
+        QCOMPARE(check.findings().size(), 1);
+        QCOMPARE(check.findings().constFirst().rule, u"configuration-name-invalid"_s);
+    }
+}
+
+void tst_CConfigurationCheck::namelessDeviceInAProject()
+{
+    // Where files lie that have no directories of their own follows from both names.
+    const QByteArray config = "<ParameterFiles><File type=\"VornParameters\"><Name>P</Name></File>"
+                              "</ParameterFiles><FPGA_FileNames><File><Name>F</Name></File>"
+                              "</FPGA_FileNames>";
+    const QTemporaryDir project;
+    CConfigurationCheck check;
+    QVERIFY(check.setProjectDirectory(project.path()));
+    QVERIFY(check.load(document(config)));
+    QCOMPARE(check.findings().size(), 3);
+    QVERIFY(check.load(document(config).replace("<Name>N</Name>", "")));
+    QCOMPARE(check.findings().size(), 1);
+    QCOMPARE(check.findings().constFirst().rule, u"device-name-missing"_s);
+    QVERIFY(check.load(document(config).replace("STD", "")));
+    QCOMPARE(rules(check), QStringList({u"configuration-name-empty"_s, u"project-file-missing"_s}));
+    QCOMPARE(check.findings().constLast().item, u"device.fpgaFiles[F]"_s);
 }
 
 void tst_CConfigurationCheck::deepDocument()
