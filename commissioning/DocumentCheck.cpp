@@ -1,5 +1,6 @@
 #include "commissioning/DocumentCheck.h"
 
+#include "commissioning/CConfigurationItems.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "imported/CDomDoc.h"
 #include "imported/CStr.h"
@@ -10,6 +11,7 @@
 #include <QRegExp>
 
 #include <algorithm>
+#include <tuple>
 
 using namespace ConfigurationRules;
 using namespace DocumentStructure;
@@ -25,11 +27,14 @@ class Texts
 
 const QLatin1Char Separator('/');
 const QLatin1Char Blank(' ');
+const QLatin1Char Hyphen('-');
+const QString OptionList = QStringLiteral("device.options");
 const QString OpcUaOption = QStringLiteral("-opc");
 const QString Kd2Type = QStringLiteral("KD2_drive");
 const QString Kd3Type = QStringLiteral("KD3_drive");
 const QString UnknownType = QStringLiteral("UNKNOWN_drive");
 const uint HighestDriveNumber = 254;
+const uint UnassignedDriveNumber = 255;
 /** No name of a file or directory can be longer; in bytes. */
 const int LongestName = 255;
 /** UTF-16 units. A longer key is no help for anybody, and may stand in many findings. */
@@ -110,13 +115,12 @@ QString meant(const QString &text, const QStringList &allowed)
     return found == allowed.cend() ? QString() : *found;
 }
 
-/** @p list with @p key in brackets. */
-QString entryPath(const QString &list, const QString &key)
+/** The key of a drive: its number as it is read, and the text where that is none. */
+QString driveKey(const QString &text)
 {
-    QString escaped = key;
-    escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
-    escaped.replace(QLatin1Char(']'), QLatin1String("\\]"));
-    return QStringLiteral("%1[%2]").arg(list, escaped);
+    bool isNumber = false;
+    const uint number = text.toUInt(&isNumber);
+    return isNumber && number <= UnassignedDriveNumber ? QString::number(number) : text;
 }
 
 } // namespace
@@ -175,6 +179,13 @@ DocumentCheck::DocumentCheck(const CDeviceConfigurationFile10 &file, const QStri
 
 QList<SConfigurationFinding> DocumentCheck::run()
 {
+    QString errorText;
+    if (m_project != nullptr && !m_project->readManifest(errorText)) {
+        report(MANIFEST_INVALID, SPlace(),
+               {Texts::tr("The project's manifest cannot be read: %1").arg(errorText),
+                CDeviceManifest::fileName(), Texts::tr("a manifest as it is made by staging"),
+                Texts::tr("Make the manifest anew; files are not compared with this one.")});
+    }
     visit(m_file.domDocument().documentElement(), root(), QString());
     return m_findings;
 }
@@ -237,13 +248,18 @@ QString DocumentCheck::itemOf(const SElement &type, const Fields &fields, const 
     if (type.keyTag.isEmpty()) {
         return path;
     }
-    const QString key = fields.text(type.keyTag);
+    const QString text = fields.text(type.keyTag);
+    return entryPath(path, type.meaning == MEANING_DRIVE ? driveKey(text) : text);
+}
+
+QString DocumentCheck::entryPath(const QString &list, const QString &key)
+{
     if (key.size() > LongestKey) {
-        return path;
+        return list;
     }
-    const QString item = entryPath(path, key);
-    const int count = ++m_entryCounts[item];
-    return count == 1 ? item : QStringLiteral("%1[%2]").arg(item, QString::number(count));
+    const QString path = CConfigurationItems::entryPath(list, key);
+    const int count = ++m_entryCounts[path];
+    return count == 1 ? path : QStringLiteral("%1[%2]").arg(path, QString::number(count));
 }
 
 void DocumentCheck::checkStructure(const Fields &fields, const QString &item)
@@ -519,42 +535,43 @@ CDeviceHardwareId DocumentCheck::checkHardwareId(const Fields &fields, const QSt
 
 void DocumentCheck::checkOptions(const Fields &fields)
 {
-    const QString list = QStringLiteral("device.options");
     const QDomElement element = fields.element(TAG_OPTIONS);
     const QStringList words = CDomDoc::text(element).split(Blank, Qt::SkipEmptyParts);
-    QStringList leading;
+    const QString expected = Texts::tr("options like -trace with one blank between each two");
+    // What stands before the first option is none, but is listed as one.
     QList<QStringList> options;
     for (const QString &word : words) {
-        const auto isSpace = [](QChar c) { return c.isSpace(); };
-        const bool hasSpace = std::any_of(word.cbegin(), word.cend(), isSpace);
-        if (hasSpace || word == QLatin1String("-")) {
-            report(OPTION_INVALID, {element, list},
-                   {hasSpace ? Texts::tr("Options are separated by something other than a blank.")
-                             : Texts::tr("An option has a hyphen, but no name."),
-                    word, Texts::tr("options like -trace with one blank between each two"),
-                    hasSpace ? Texts::tr("The device takes this for one word.") : QString()});
+        if (word.startsWith(Hyphen) || options.isEmpty()) {
+            options.append(QStringList());
         }
-        if (word.startsWith(QLatin1Char('-'))) {
-            options.append(QStringList(word));
-        } else if (!options.isEmpty()) {
-            options.last().append(word);
-        } else if (!hasSpace) {
-            leading.append(word);
-        }
-        m_hasOpcUaOption = m_hasOpcUaOption || word == OpcUaOption;
+        options.last().append(word);
     }
-    if (!leading.isEmpty()) {
-        const QString text = leading.join(Blank);
-        report(OPTION_INVALID, {element, list},
-               {Texts::tr("'%1' is no option, and follows none.").arg(shown(text)), text,
-                Texts::tr("options like -trace with one blank between each two"),
-                Texts::tr("An option begins with a hyphen; what follows it are its arguments.")});
+    const auto hasSpace = [](const QString &word) {
+        return std::any_of(word.cbegin(), word.cend(), [](QChar c) { return c.isSpace(); });
+    };
+    const auto badWord = std::find_if(words.cbegin(), words.cend(), hasSpace);
+    if (badWord != words.cend()) {
+        report(OPTION_INVALID, {element, OptionList},
+               {Texts::tr("Options are separated by something other than a blank."), *badWord,
+                expected, Texts::tr("The device takes this for one word.")});
     }
     QSet<QStringList> known;
     for (const QStringList &option : qAsConst(options)) {
-        if (known.contains(option)) {
-            const QString text = option.join(Blank);
-            report(OPTION_TWICE, {element, entryPath(list, option.constFirst())},
+        const SPlace place = {element, entryPath(OptionList, option.constFirst())};
+        const QString text = option.join(Blank);
+        if (option.constFirst() == OpcUaOption && m_opcUaOption.element.isNull()) {
+            m_opcUaOption = place;
+        }
+        if (option.constFirst() == Hyphen) {
+            report(OPTION_INVALID, place,
+                   {Texts::tr("An option has a hyphen, but no name."), text, expected, QString()});
+        } else if (!option.constFirst().startsWith(Hyphen) && !isBlank(text)) {
+            report(OPTION_INVALID, place,
+                   {Texts::tr("'%1' is no option, and follows none.").arg(shown(text)), text,
+                    expected,
+                    Texts::tr("An option begins with a hyphen; what follows it is its argument.")});
+        } else if (known.contains(option)) {
+            report(OPTION_TWICE, place,
                    {Texts::tr("The option '%1' stands more than once.").arg(shown(text)), text,
                     QString(), Texts::tr("Remove all but one.")});
         }
@@ -579,20 +596,19 @@ void DocumentCheck::checkOpcUa(const Fields &fields)
 
 void DocumentCheck::checkConfig(const Fields &fields, const QString &item)
 {
-    if (m_isOpcUaFlagValid && m_isOpcUaEnabled && !m_hasOpcUaOption) {
+    const bool hasOpcUaOption = !m_opcUaOption.element.isNull();
+    if (m_isOpcUaFlagValid && m_isOpcUaEnabled && !hasOpcUaOption) {
         report(OPC_UA_MISMATCH, m_opcUaFlag,
                {Texts::tr("The OPC UA server is enabled, but the option %1 is missing.")
                     .arg(OpcUaOption),
                 VALUE_TRUE, VALUE_FALSE,
                 Texts::tr("Add the option %1, or disable the server.").arg(OpcUaOption)});
-    } else if (m_isOpcUaFlagValid && !m_isOpcUaEnabled && m_hasOpcUaOption) {
-        report(
-            OPC_UA_MISMATCH,
-            {fields.element(TAG_OPTIONS), entryPath(QStringLiteral("device.options"), OpcUaOption)},
-            {Texts::tr("There is the option %1, but the OPC UA server is not enabled.")
-                 .arg(OpcUaOption),
-             OpcUaOption, QString(),
-             Texts::tr("Enable the server, or remove the option %1.").arg(OpcUaOption)});
+    } else if (m_isOpcUaFlagValid && !m_isOpcUaEnabled && hasOpcUaOption) {
+        report(OPC_UA_MISMATCH, m_opcUaOption,
+               {Texts::tr("There is the option %1, but the OPC UA server is not enabled.")
+                    .arg(OpcUaOption),
+                OpcUaOption, QString(),
+                Texts::tr("Enable the server, or remove the option %1.").arg(OpcUaOption)});
     }
     const QString executionPlugin = fields.text(TAG_EXECUTIONPLUGIN);
     if (!executionPlugin.isEmpty() && !m_plugins.contains(executionPlugin)) {
@@ -836,7 +852,7 @@ void DocumentCheck::checkDriveNumber(const Fields &fields, const QString &item)
         report(DRIVE_NUMBER_MISSING, place,
                {Texts::tr("The drive has no number."), QString(), expected, nextFree});
     } else if (!isNumber || number > HighestDriveNumber) {
-        const bool isNone = isNumber && number == HighestDriveNumber + 1;
+        const bool isNone = isNumber && number == UnassignedDriveNumber;
         report(DRIVE_NUMBER_INVALID, place,
                {Texts::tr("'%1' is no number of a drive.").arg(shown(text)), text, expected,
                 isNone ? Texts::tr("This number means that no number is assigned.") : nextFree});
@@ -1081,7 +1097,7 @@ void DocumentCheck::checkInProject(const CFileElement &file, const SPlace &place
         break;
     case ProjectFiles::STATE_UNREADABLE:
         report(PROJECT_FILE_UNREADABLE, place,
-               {Texts::tr("The file '%1' cannot be read.").arg(name), path,
+               {Texts::tr("The file '%1' cannot be read.").arg(name), inProject.found,
                 Texts::tr("a file that may be read"), QString()});
         break;
     case ProjectFiles::STATE_EMPTY:
@@ -1089,5 +1105,21 @@ void DocumentCheck::checkInProject(const CFileElement &file, const SPlace &place
                {Texts::tr("The file '%1' is empty.").arg(name), Texts::tr("0 bytes"), QString(),
                 QString()});
         break;
+    case ProjectFiles::STATE_CHANGED: {
+        const auto &[measured, recorded] = std::tie(inProject.measured, inProject.recorded);
+        const bool isSize = measured.size != recorded.size;
+        const auto inBytes = [](qint64 size) {
+            return Texts::tr("%1 bytes").arg(QString::number(size));
+        };
+        const auto sum = [](const QByteArray &sha256) {
+            return QStringLiteral("SHA-256 ") + QString::fromLatin1(sha256);
+        };
+        report(PROJECT_FILE_CHANGED, place,
+               {Texts::tr("The file '%1' is not the one that the manifest tells.").arg(name),
+                isSize ? inBytes(measured.size) : sum(measured.sha256),
+                isSize ? inBytes(recorded.size) : sum(recorded.sha256),
+                Texts::tr("Put back the file, or make the manifest anew.")});
+        break;
+    }
     }
 }

@@ -50,6 +50,7 @@ private:
     void visit(const QDomElement &element, const SElement &type, const QString &path);
     void visitDeep(const QDomElement &element, const SElement &list, const QString &path);
     QString itemOf(const SElement &type, const Fields &fields, const QString &path);
+    QString entryPath(const QString &list, const QString &key);
     void checkStructure(const Fields &fields, const QString &item);
     void reportStray(const QDomElement &child, const SElement &parent, const QString &item);
     void checkMeaning(const Fields &fields, const QString &item);
@@ -106,7 +107,7 @@ private:
     SPlace m_etherCatPlugin;
     SPlace m_etherCatFile;
     SPlace m_opcUaFlag;
+    SPlace m_opcUaOption;
     bool m_isOpcUaFlagValid = true;
     bool m_isOpcUaEnabled = false;
-    bool m_hasOpcUaOption = false;
 };

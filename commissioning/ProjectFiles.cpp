@@ -1,5 +1,7 @@
 #include "commissioning/ProjectFiles.h"
 
+#include "storage/FileStorage.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -17,6 +19,28 @@ QString joined(const QString &directory, const QString &name)
 ProjectFiles::ProjectFiles(const QString &directory)
     : m_root(QDir(directory).absolutePath()), m_canonicalRoot(QDir(directory).canonicalPath())
 {
+}
+
+bool ProjectFiles::readManifest(QString &errorText)
+{
+    const QFileInfo info(joined(m_root, CDeviceManifest::fileName()));
+    if (!info.exists() && !info.isSymLink()) {
+        return true;
+    }
+    QByteArray content;
+    const FileStorage::SResult read =
+        FileStorage::read(info.filePath(), content, CDeviceManifest::maximumSize());
+    errorText = read.reason;
+    CDeviceManifest manifest;
+    if (!read || !manifest.readJson(content, errorText)) {
+        return false;
+    }
+    for (const CDeviceManifest::SEntry &entry : manifest.entries()) {
+        if (!entry.projectPath.isEmpty()) {
+            m_recorded.insert(entry.projectPath, entry);
+        }
+    }
+    return true;
 }
 
 ProjectFiles::SFile ProjectFiles::find(const QString &relativePath)
@@ -56,7 +80,6 @@ bool ProjectFiles::isInside(const QString &canonicalPath) const
 ProjectFiles::SFile ProjectFiles::look(const QString &relativePath)
 {
     SFile file;
-    file.path = joined(m_root, relativePath);
     QString found;
     QString parent;
     const QStringList components = relativePath.split(Separator);
@@ -78,7 +101,7 @@ ProjectFiles::SFile ProjectFiles::look(const QString &relativePath)
         file.found = found;
         return file;
     }
-    const QFileInfo info(file.path);
+    const QFileInfo info(joined(m_root, relativePath));
     const QString canonicalPath = info.isSymLink()
         ? info.canonicalFilePath()
         : directory(parent).canonicalPath + Separator + info.fileName();
@@ -94,6 +117,31 @@ ProjectFiles::SFile ProjectFiles::look(const QString &relativePath)
         file.state = STATE_UNREADABLE;
     } else if (info.size() == 0) {
         file.state = STATE_EMPTY;
+    } else {
+        compare(relativePath, file);
     }
     return file;
+}
+
+void ProjectFiles::compare(const QString &relativePath, SFile &file) const
+{
+    const auto recorded = m_recorded.constFind(relativePath);
+    if (recorded == m_recorded.cend()) {
+        return;
+    }
+    const QString path = joined(m_root, relativePath);
+    file.recorded = *recorded;
+    file.measured.size = QFileInfo(path).size();
+    // A file of another size is changed, whatever it holds: it need not be read.
+    if (file.measured.size == recorded->size) {
+        QString errorText;
+        if (!CDeviceManifest::measure(path, file.measured.size, file.measured.sha256, errorText)) {
+            file.state = STATE_UNREADABLE;
+            file.found = errorText;
+            return;
+        }
+    }
+    if (file.measured.size != recorded->size || file.measured.sha256 != recorded->sha256) {
+        file.state = STATE_CHANGED;
+    }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "commissioning/CDeviceManifest.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -21,18 +23,28 @@ public:
         STATE_OUTSIDE,
         /** It is a directory, a pipe or a device. */
         STATE_NOT_REGULAR,
+        /** SFile::found may tell why. */
         STATE_UNREADABLE,
-        STATE_EMPTY
+        STATE_EMPTY,
+        /** Size or sum are not those of SFile::recorded. */
+        STATE_CHANGED
     };
 
     struct SFile {
         EState state = STATE_PRESENT;
         QString found;
-        /** Absolute. */
-        QString path;
+        /** Of a changed file: as it is (the sum only when the size is the same), and as it was. */
+        CDeviceManifest::SEntry measured;
+        CDeviceManifest::SEntry recorded;
     };
 
     explicit ProjectFiles(const QString &directory);
+
+    /**
+     * Reads the project's manifest, if it has one.
+     * @return false when it cannot be read; it is as if there were none, then
+     */
+    bool readManifest(QString &errorText);
 
     /** Looks for the file of that path relative to the project, without "." and "..". */
     SFile find(const QString &relativePath);
@@ -48,10 +60,12 @@ private:
 
     const SDirectory &directory(const QString &relativePath);
     SFile look(const QString &relativePath);
+    void compare(const QString &relativePath, SFile &file) const;
     bool isInside(const QString &canonicalPath) const;
 
     const QString m_root;
     const QString m_canonicalRoot;
     QHash<QString, SDirectory> m_directories;
     QHash<QString, SFile> m_files;
+    QHash<QString, CDeviceManifest::SEntry> m_recorded;
 };

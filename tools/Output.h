@@ -17,8 +17,10 @@ public:
     /** Rows of equally many texts, each column as wide as its widest text. */
     void printColumns(const QList<QStringList> &rows);
 
-    /** Writes what is there. @return EXIT_DONE, or EXIT_NOT_DONE when standard output cannot be
-     * written */
+    /**
+     * Writes what is there.
+     * @return EXIT_DONE, or EXIT_NOT_DONE when standard output cannot be written
+     */
     int finish();
 
 private:
