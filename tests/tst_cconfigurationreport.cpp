@@ -1,9 +1,11 @@
+#include "commissioning/CConfigurationCheck.h"
 #include "commissioning/CConfigurationReport.h"
 #include "support/LargeConfiguration.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
 
+#include <QDir>
 #include <QDomDocument>
 #include <QRectF>
 #include <QRegularExpression>
@@ -257,6 +259,8 @@ private Q_SLOTS:
     void emptyLists();
     void findingsStandBesideTheirItems_data();
     void findingsStandBesideTheirItems();
+    void findingsOfTheCheck_data();
+    void findingsOfTheCheck();
     void findingIsTold();
     void severities();
     void longSummaryIsFolded();
@@ -565,6 +569,51 @@ void tst_CConfigurationReport::findingsStandBesideTheirItems()
     const QDomElement chip = element.parentNode().parentNode().toElement();
     if (item == u"device.options[-log]"_s) {
         QCOMPARE(chip.firstChildElement(u"code"_s).text(), u"-log"_s);
+    }
+}
+
+void tst_CConfigurationReport::findingsOfTheCheck_data()
+{
+    QTest::addColumn<QString>("path");
+    int count = 0;
+    for (const QString &folder : {u"valid"_s, u"invalid"_s}) {
+        const QDir directory(QStringLiteral(VRN_TEST_DATA_DIR "/check/") + folder);
+        for (const QFileInfo &file : directory.entryInfoList(QDir::Files, QDir::Name)) {
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+            ++count;
+        }
+    }
+    QVERIFY(count > 50);
+}
+
+/** Whatever the check finds has its place, and none but that of the whole document at the top. */
+void tst_CConfigurationReport::findingsOfTheCheck()
+{
+    QFETCH(QString, path);
+    const MessageCatcher catcher;
+    CDeviceConfigurationFile10 file(nullptr);
+    CConfigurationCheck check;
+    QVERIFY(file.open(path));
+    QVERIFY(check.open(path));
+    const QList<SConfigurationFinding> findings = check.findings();
+    const Page page(file, findings);
+    QVERIFY(page.isWellFormed());
+    const bool hasDevice = !page.byId(u"device"_s).isNull();
+    for (int i = 0; i < findings.size(); ++i) {
+        const QDomElement element = page.byId(u"finding-%1"_s.arg(i + 1));
+        QVERIFY2(!element.isNull(), qPrintable(findings.at(i).item));
+        const QString &item = findings.at(i).item;
+        const bool isOfWhole = item.isEmpty() || item.startsWith(u"description"_s) || !hasDevice;
+        QVERIFY2((headingAbove(element) == u"The configuration as a whole"_s) == isOfWhole,
+                 qPrintable(item));
+        const QString drive = item.section(QLatin1Char('.'), 0, 0);
+        if (drive.startsWith(u"drive["_s)) {
+            QVERIFY2(isInside(element,
+                              [](const QDomElement &around) {
+                                  return around.attribute(u"class"_s) == u"card drive"_s;
+                              }),
+                     qPrintable(item));
+        }
     }
 }
 
