@@ -217,6 +217,20 @@ CDeviceElement nastyDevice()
     return device;
 }
 
+/** Puts every text of a page between quotation marks. */
+class QuotingTranslator : public QTranslator
+{
+public:
+    QuotingTranslator() { QCoreApplication::installTranslator(this); }
+    ~QuotingTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *sourceText, const char *, int) const override
+    {
+        return u"\"%1\""_s.arg(QString::fromUtf8(sourceText));
+    }
+};
+
 bool setDevice(CDeviceConfigurationFile10 &file, const CDeviceElement &device)
 {
     return file.createNewDocument() && file.setConfiguration(device);
@@ -900,7 +914,6 @@ void tst_CConfigurationReport::texts()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
-    QStringList plain;
     const auto collect = [](const Page &page) {
         QStringList texts;
         for (const char *tag : {"h2", "dt", "th", "a", "summary", "p"}) {
@@ -910,7 +923,13 @@ void tst_CConfigurationReport::texts()
         }
         return texts;
     };
-    plain = collect(Page(file));
+    const QStringList plain = collect(Page(file));
+    {
+        const QuotingTranslator translator;
+        const Page page(file);
+        QVERIFY(page.isWellFormed());
+        QCOMPARE(page.root().attribute(u"lang"_s), u"\"en\""_s);
+    }
     const MarkingTranslator translator("CConfigurationReport");
     const Page page(file);
     QVERIFY(page.isWellFormed());
