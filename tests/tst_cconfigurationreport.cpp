@@ -1,9 +1,11 @@
+#include "commissioning/CConfigurationCheck.h"
 #include "commissioning/CConfigurationReport.h"
 #include "support/LargeConfiguration.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
 
+#include <QDir>
 #include <QDomDocument>
 #include <QRectF>
 #include <QRegularExpression>
@@ -215,6 +217,20 @@ CDeviceElement nastyDevice()
     return device;
 }
 
+/** Puts every text of a page between quotation marks. */
+class QuotingTranslator : public QTranslator
+{
+public:
+    QuotingTranslator() { QCoreApplication::installTranslator(this); }
+    ~QuotingTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *sourceText, const char *, int) const override
+    {
+        return u"\"%1\""_s.arg(QString::fromUtf8(sourceText));
+    }
+};
+
 bool setDevice(CDeviceConfigurationFile10 &file, const CDeviceElement &device)
 {
     return file.createNewDocument() && file.setConfiguration(device);
@@ -257,6 +273,8 @@ private Q_SLOTS:
     void emptyLists();
     void findingsStandBesideTheirItems_data();
     void findingsStandBesideTheirItems();
+    void findingsOfTheCheck_data();
+    void findingsOfTheCheck();
     void findingIsTold();
     void severities();
     void longSummaryIsFolded();
@@ -568,6 +586,51 @@ void tst_CConfigurationReport::findingsStandBesideTheirItems()
     }
 }
 
+void tst_CConfigurationReport::findingsOfTheCheck_data()
+{
+    QTest::addColumn<QString>("path");
+    int count = 0;
+    for (const QString &folder : {u"valid"_s, u"invalid"_s}) {
+        const QDir directory(QStringLiteral(VRN_TEST_DATA_DIR "/check/") + folder);
+        for (const QFileInfo &file : directory.entryInfoList(QDir::Files, QDir::Name)) {
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+            ++count;
+        }
+    }
+    QVERIFY(count > 50);
+}
+
+/** Whatever the check finds has its place, and none but that of the whole document at the top. */
+void tst_CConfigurationReport::findingsOfTheCheck()
+{
+    QFETCH(QString, path);
+    const MessageCatcher catcher;
+    CDeviceConfigurationFile10 file(nullptr);
+    CConfigurationCheck check;
+    QVERIFY(file.open(path));
+    QVERIFY(check.open(path));
+    const QList<SConfigurationFinding> findings = check.findings();
+    const Page page(file, findings);
+    QVERIFY(page.isWellFormed());
+    const bool hasDevice = !page.byId(u"device"_s).isNull();
+    for (int i = 0; i < findings.size(); ++i) {
+        const QDomElement element = page.byId(u"finding-%1"_s.arg(i + 1));
+        QVERIFY2(!element.isNull(), qPrintable(findings.at(i).item));
+        const QString &item = findings.at(i).item;
+        const bool isOfWhole = item.isEmpty() || item.startsWith(u"description"_s) || !hasDevice;
+        QVERIFY2((headingAbove(element) == u"The configuration as a whole"_s) == isOfWhole,
+                 qPrintable(item));
+        const QString drive = item.section(QLatin1Char('.'), 0, 0);
+        if (drive.startsWith(u"drive["_s)) {
+            QVERIFY2(isInside(element,
+                              [](const QDomElement &around) {
+                                  return around.attribute(u"class"_s) == u"card drive"_s;
+                              }),
+                     qPrintable(item));
+        }
+    }
+}
+
 void tst_CConfigurationReport::findingIsTold()
 {
     CDeviceConfigurationFile10 file(nullptr);
@@ -851,7 +914,6 @@ void tst_CConfigurationReport::texts()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
-    QStringList plain;
     const auto collect = [](const Page &page) {
         QStringList texts;
         for (const char *tag : {"h2", "dt", "th", "a", "summary", "p"}) {
@@ -861,7 +923,13 @@ void tst_CConfigurationReport::texts()
         }
         return texts;
     };
-    plain = collect(Page(file));
+    const QStringList plain = collect(Page(file));
+    {
+        const QuotingTranslator translator;
+        const Page page(file);
+        QVERIFY(page.isWellFormed());
+        QCOMPARE(page.root().attribute(u"lang"_s), u"\"en\""_s);
+    }
     const MarkingTranslator translator("CConfigurationReport");
     const Page page(file);
     QVERIFY(page.isWellFormed());
