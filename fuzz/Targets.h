@@ -7,6 +7,7 @@
 #include "fuzz/targets/ModuleName.h"
 #include "fuzz/targets/Network.h"
 #include "fuzz/targets/OSRelease.h"
+#include "fuzz/targets/Patch.h"
 #include "fuzz/targets/Revision.h"
 #include "fuzz/targets/Settings.h"
 #include "fuzz/targets/Stream.h"
@@ -29,6 +30,7 @@ inline const STarget Targets[] = {
     {"module-name", fuzzModuleName},
     {"network", fuzzNetwork},
     {"os-release", fuzzOSRelease},
+    {"patch", fuzzPatch},
     {"revision", fuzzRevision},
     {"settings", fuzzSettings},
     {"stream-base", fuzzStream<CBaseElement>},
