@@ -32,6 +32,9 @@ void registerDocuments(const SSize &size);
 /** Appending the last one of so many files, and taking it away again. */
 void registerAppending(const SSize &size);
 void registerElements(const SSize &size);
+void registerCheck(const SSize &size);
+/** Checking so many small documents, one after the other. */
+void registerCheckOfDocuments(const SSize &size);
 
 /** Measures @p run on what @p make gives; making it and throwing it away does not count. */
 template <typename Make, typename Run>

@@ -30,6 +30,7 @@ const SComparison comparisons[] = {
     {"compare devices that share data", "without shared data", Table::NoGoal},
     {"write a device to a stream", "write its texts as QStringList", Table::NoGoal},
     {"read a device from a stream", "read its texts as QStringList", Table::NoGoal},
+    {"check", "open, positions kept", Table::NoGoal},
 };
 
 const char *const operationsAlone[] = {"copy a device", "read a const device"};
@@ -51,6 +52,8 @@ const SGrowth growths[] = {
     {"compare devices that share data", {10, 0}, {100000, 8}, Table::NoGoal},
     {"append to the device", {1, 0}, {10000, 0}, 1.5},
     {"append to the document", {1, 0}, {10000, 0}, 1.5},
+    {"check", {10000, 8}, {100000, 8}, 13},
+    {"check documents", {100, 0}, {1000, 0}, 13},
 };
 
 bool printTable(const Measurements &measurements, bool quick)
@@ -95,6 +98,10 @@ int main(int argc, char *argv[])
     for (const SSize &size : sizes(quick)) {
         Operations::registerDocuments(size);
         Operations::registerElements(size);
+        Operations::registerCheck(size);
+    }
+    for (const int number : {100, 1000}) {
+        Operations::registerCheckOfDocuments({number, 0});
     }
     for (const int number : {1, quick ? 1000 : 10000}) {
         Operations::registerAppending({number, 0});

@@ -1,5 +1,12 @@
-# What is installed: the libraries, the tool, the public headers in their folders, the CMake package
-# and the pkg-config file.
+# What is installed: the libraries, the tool, the public headers in their folders, the schemas of the
+# documents, the CMake package and the pkg-config files.
+#
+# Each file belongs to a component, which is a package of its own in cmake/VrnPackages.cmake:
+#
+#   runtime        what a program needs that uses libvrnDeviceCore
+#   commissioning  what one needs in addition that uses libvrnCommissioning
+#   development    what is needed to compile such programs
+#   tool           vrndevice with all that it reads: manual page, completions, translations
 
 include(CMakePackageConfigHelpers)
 
@@ -67,6 +74,10 @@ if(TARGET vrnCommissioning)
         commissioning/CDeviceManifest.h
         commissioning/CStagedTree.h
         commissioning/CStagingPlan.h
+        commissioning/CConfigurationOverview.h
+        commissioning/CConfigurationReport.h
+        commissioning/CDeviceManifest.h
+        commissioning/CItemFindings.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )
@@ -75,26 +86,43 @@ endif()
 foreach(header IN LISTS VRN_PUBLIC_HEADERS)
     get_filename_component(folder "${header}" DIRECTORY)
     install(FILES "${PROJECT_SOURCE_DIR}/${header}"
-        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vrnDeviceCore/${folder}")
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vrnDeviceCore/${folder}"
+        COMPONENT development)
 endforeach()
 
-set(installed_libraries vrnDeviceCore)
-if(NOT VRN_USE_MAKER_LIBRARIES)
-    list(APPEND installed_libraries vrnCore vrnLogfiles vrnXml)
-endif()
-if(TARGET vrnCommissioning)
-    list(APPEND installed_libraries vrnCommissioning)
-endif()
-install(TARGETS ${installed_libraries}
-    EXPORT vrnDeviceCoreTargets
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+install(FILES
+    "${PROJECT_SOURCE_DIR}/schemas/DeviceConfiguration.xsd"
+    "${PROJECT_SOURCE_DIR}/schemas/DeviceSettings.xsd"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/vrnDeviceCore/schemas"
+    COMPONENT development
 )
-if(TARGET vrndevice)
-    install(TARGETS vrndevice RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+
+# vrn_install_libraries(COMPONENT TARGET...)
+function(vrn_install_libraries component)
+    install(TARGETS ${ARGN}
+        EXPORT vrnDeviceCoreTargets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        COMPONENT ${component} NAMELINK_COMPONENT development
+    )
+endfunction()
+
+set(VRN_LIBRARIES vrnDeviceCore)
+if(NOT VRN_USE_MAKER_LIBRARIES)
+    list(APPEND VRN_LIBRARIES vrnCore vrnLogfiles vrnXml)
 endif()
+vrn_install_libraries(runtime ${VRN_LIBRARIES})
+if(TARGET vrnCommissioning)
+    vrn_install_libraries(commissioning vrnCommissioning)
+    list(APPEND VRN_LIBRARIES vrnCommissioning)
+endif()
+if(TARGET vrndevice)
+    install(TARGETS vrndevice RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
+endif()
+add_custom_target(vrnLibraries DEPENDS ${VRN_LIBRARIES})
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/vrnDeviceCore")
-install(EXPORT vrnDeviceCoreTargets NAMESPACE vrn:: DESTINATION "${package_dir}")
+install(EXPORT vrnDeviceCoreTargets NAMESPACE vrn:: DESTINATION "${package_dir}"
+    COMPONENT development)
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/vrnDeviceCoreConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/vrnDeviceCoreConfig.cmake"
@@ -107,12 +135,17 @@ install(FILES
     "${PROJECT_BINARY_DIR}/vrnDeviceCoreConfigVersion.cmake"
     "${CMAKE_CURRENT_LIST_DIR}/FindVrnMakerLibraries.cmake"
     DESTINATION "${package_dir}"
+    COMPONENT development
 )
 
-# Relative, so that the file stays true when the installation is moved.
+# Relative, so that the files stay true when the installation is moved.
 set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH pc_to_prefix "/${pc_dir}" "/")
-configure_file("${CMAKE_CURRENT_LIST_DIR}/vrnDeviceCore.pc.in"
-    "${PROJECT_BINARY_DIR}/vrnDeviceCore.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/vrnDeviceCore.pc"
-    DESTINATION "${pc_dir}")
+set(pc_files vrnDeviceCore)
+if(TARGET vrnCommissioning)
+    list(APPEND pc_files vrnCommissioning)
+endif()
+foreach(name IN LISTS pc_files)
+    configure_file("${CMAKE_CURRENT_LIST_DIR}/${name}.pc.in" "${PROJECT_BINARY_DIR}/${name}.pc" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/${name}.pc" DESTINATION "${pc_dir}" COMPONENT development)
+endforeach()

@@ -247,9 +247,9 @@ QByteArray CConfigurationPatch::toJson() const
     for (const SChange &change : m_changes) {
         changes.append(toObject(change));
     }
-    return QJsonDocument(
-               QJsonObject{{FormatKey, Format}, {VersionKey, Version}, {ChangesKey, changes}})
-        .toJson();
+    const QJsonObject root = {{FormatKey, Format}, {VersionKey, Version}, {ChangesKey, changes}};
+    // At the beginning of a text the parser would take this character for a byte-order mark.
+    return QJsonDocument(root).toJson().replace("\xef\xbb\xbf", "\\ufeff");
 }
 
 bool CConfigurationPatch::readJson(const QByteArray &json, QString &errorText)

@@ -144,11 +144,11 @@ bool Maker::changeItem(const SChange &change, const SItemPath &path)
 {
     SItemPath entry = path;
     entry.item.clear();
-    if (path.isInList() && !m_items.contains(path.entryPath())) {
+    QString value;
+    if (!m_items.value(change.path, value) && path.isInList()
+        && !m_items.contains(path.entryPath())) {
         return fail(Texts::tr("%1 is not there.").arg(ConfigurationWords::subject(entry)));
     }
-    QString value;
-    m_items.value(change.path, value);
     if (!checkValue(path, value, change.before)) {
         return false;
     }
@@ -249,7 +249,7 @@ ConfigurationChanges::SChange ConfigurationChanges::ofItem(const SItemPath &path
         after.has(item) ? CConfigurationPatch::SET_ITEM : CConfigurationPatch::REMOVE_ITEM;
     change.path = joined(path.entryPath(), item);
     change.before = before;
-    change.after = after.value(item);
+    change.after = after.has(item) ? after.value(item) : QString();
     return change;
 }
 

@@ -61,14 +61,21 @@ const SWord Items[] = {
     {"projectDir", QT_TRANSLATE_NOOP("CConfigurationPatch", "project directory")},
 };
 
-/** Words that are in no table stand for themselves. */
 template <std::size_t Size>
-QString translated(const SWord (&table)[Size], const QString &word)
+const SWord *find(const SWord (&table)[Size], const QString &word)
 {
     const auto row = std::find_if(std::begin(table), std::end(table), [&](const SWord &candidate) {
         return word == QLatin1String(candidate.word);
     });
-    return row == std::end(table) ? ConfigurationWords::shown(word) : Texts::tr(row->text);
+    return row == std::end(table) ? nullptr : row;
+}
+
+/** Words that are in no table stand for themselves. */
+template <std::size_t Size>
+QString translated(const SWord (&table)[Size], const QString &word)
+{
+    const SWord *const row = find(table, word);
+    return row == nullptr ? ConfigurationWords::shown(word) : Texts::tr(row->text);
 }
 
 QString entry(const SItemPath &path)
@@ -76,13 +83,13 @@ QString entry(const SItemPath &path)
     if (!path.isInList()) {
         return translated(Holders, path.list);
     }
-    const QString key = ConfigurationWords::shown(path.key);
-    const QString text =
-        translated(Entries, path.list)
-            .arg(path.number == 1
-                     ? key
-                     : QStringLiteral("%1 [%2]").arg(key, QString::number(path.number)));
-    return text;
+    QString key = ConfigurationWords::shown(path.key);
+    if (path.number > 1) {
+        key = QStringLiteral("%1 [%2]").arg(key, QString::number(path.number));
+    }
+    const SWord *const row = find(Entries, path.list);
+    return row == nullptr ? QStringLiteral("%1 %2").arg(ConfigurationWords::shown(path.list), key)
+                          : Texts::tr(row->text).arg(key);
 }
 
 QString partOf(const QString &item)

@@ -106,16 +106,18 @@ int StagingArea::createOnce()
     const QByteArray number = QByteArray::number(QRandomGenerator::system()->generate64(), 16)
                                   .rightJustified(NumberDigits, '0');
     const QByteArray name = m_parent + Prefix + number;
-    // A umask may take even the owner's rights.
-    if (m_kind == DIRECTORY
-        && (mkdir(name.constData(), onlyOwner) != 0 || chmod(name.constData(), onlyOwner) != 0)) {
+    const bool isDirectory = m_kind == DIRECTORY;
+    if (isDirectory && mkdir(name.constData(), onlyOwner) != 0) {
         return -1;
     }
-    const int mode = m_kind == DIRECTORY ? O_RDONLY | O_DIRECTORY : O_WRONLY | O_CREAT | O_EXCL;
-    Descriptor opened(open(name.constData(), mode | O_CLOEXEC | O_NOFOLLOW, onlyOwner));
+    const int mode = isDirectory ? O_RDONLY | O_DIRECTORY : O_WRONLY | O_CREAT | O_EXCL;
+    // A umask may take even the owner's rights.
+    const bool isReady = !isDirectory || chmod(name.constData(), onlyOwner) == 0;
+    Descriptor opened(isReady ? open(name.constData(), mode | O_CLOEXEC | O_NOFOLLOW, onlyOwner)
+                              : -1);
     if (!opened.isOpen()) {
         const int error = errno;
-        if (m_kind == DIRECTORY) {
+        if (isDirectory) {
             rmdir(name.constData());
         }
         errno = error;

@@ -2,11 +2,14 @@
 
 #include "devicefiles/CDeviceCommData.h"
 #include "elements/CDeviceElement.h"
+#include "fuzz/targets/Archive.h"
 #include "fuzz/targets/Configuration.h"
 #include "fuzz/targets/HardwareId.h"
+#include "fuzz/targets/Manifest.h"
 #include "fuzz/targets/ModuleName.h"
 #include "fuzz/targets/Network.h"
 #include "fuzz/targets/OSRelease.h"
+#include "fuzz/targets/Patch.h"
 #include "fuzz/targets/Revision.h"
 #include "fuzz/targets/Settings.h"
 #include "fuzz/targets/Stream.h"
@@ -24,11 +27,14 @@ struct STarget {
 
 /** Every target; a new one is a row here and a folder in fuzz/corpus. */
 inline const STarget Targets[] = {
+    {"archive", fuzzArchive},
     {"configuration", fuzzConfiguration},
     {"hardware-id", fuzzHardwareId},
+    {"manifest", fuzzManifest},
     {"module-name", fuzzModuleName},
     {"network", fuzzNetwork},
     {"os-release", fuzzOSRelease},
+    {"patch", fuzzPatch},
     {"revision", fuzzRevision},
     {"settings", fuzzSettings},
     {"stream-base", fuzzStream<CBaseElement>},

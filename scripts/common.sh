@@ -14,8 +14,9 @@ jobs=$(nproc)
 # One list per purpose. The tests need tzdata because they also run in foreign time zones.
 # shellcheck disable=SC2034
 {
-    build_packages=(g++ cmake ninja-build qtbase5-dev libexpat1-dev libarchive-dev
-        qttools5-dev-tools pkg-config python3-minimal)
+    build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools libexpat1-dev
+        libarchive-dev pkg-config python3-minimal)
+    package_packages=("${build_packages[@]}" dpkg-dev file)
     test_packages=("${build_packages[@]}" git tzdata strace)
     translation_packages=(git qttools5-dev-tools)
     format_packages=(git clang-format-14)
@@ -23,6 +24,8 @@ jobs=$(nproc)
     tidy_packages=("${test_packages[@]}" clang-tidy-14)
     benchmark_packages=("${build_packages[@]}" libbenchmark-dev libpugixml-dev libxml2-dev)
     chroot_packages=(debootstrap git util-linux)
+    package_check_packages=("${package_packages[@]}" git lintian mmdebstrap util-linux)
+    abi_packages=("${build_packages[@]}" python3 abigail-tools)
     shell_packages=(git shellcheck)
 }
 
@@ -91,6 +94,9 @@ logged()
     note "(exit code $status; the whole log is in ${log#"$source_dir"/})"
     return "$status"
 }
+
+# The time of the last commit, for SOURCE_DATE_EPOCH.
+commit_time() { git -c safe.directory="$source_dir" -C "$source_dir" log -1 --format=%ct; }
 
 # work_tree_files PATTERN...: the files as a commit of everything would have them, each ended by NUL.
 # safe.directory: a CI checkout often belongs to another user than the one who builds.

@@ -64,6 +64,21 @@ QJsonObject toJson(const CSubDeviceElement &subDevice)
     };
 }
 
+QJsonObject toJson(const SConfigurationFinding &finding)
+{
+    return {{QStringLiteral("rule"), finding.rule},
+            {QStringLiteral("severity"),
+             finding.severity == SConfigurationFinding::ERROR ? QStringLiteral("error")
+                                                              : QStringLiteral("warning")},
+            {QStringLiteral("item"), finding.item},
+            {QStringLiteral("line"), finding.position.line},
+            {QStringLiteral("column"), finding.position.column},
+            {QStringLiteral("message"), finding.message},
+            {QStringLiteral("found"), finding.found},
+            {QStringLiteral("expected"), finding.expected},
+            {QStringLiteral("hint"), finding.hint}};
+}
+
 QJsonObject toJson(const CDeviceConfigurationFile10 &file)
 {
     CDeviceElement device;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commissioning/SConfigurationFinding.h"
 #include "configfile/CDeviceConfigurationFile10.h"
 
 #include <QJsonArray>
@@ -8,6 +9,7 @@
 /** The JSON forms of what a configuration holds. Keys are in lower camel case. */
 QJsonObject toJson(const CFileElement &file);
 QJsonObject toJson(const CSubDeviceElement &subDevice);
+QJsonObject toJson(const SConfigurationFinding &finding);
 /** The description and the device of an open configuration file. */
 QJsonObject toJson(const CDeviceConfigurationFile10 &file);
 

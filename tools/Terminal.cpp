@@ -41,4 +41,19 @@ QString styled(const QString &text, EStyle style, bool wanted)
     return QStringLiteral("\x1b[%1m%2\x1b[0m").arg(QString::number(code()), text);
 }
 
+QString printable(const QString &text)
+{
+    QString result;
+    for (const QChar c : text) {
+        if (c == QLatin1Char('\n')) {
+            result += QLatin1String("\\n");
+        } else if (c.category() == QChar::Other_Control) {
+            result += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
 } // namespace Terminal

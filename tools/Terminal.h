@@ -29,4 +29,7 @@ bool wantsColours(FILE *stream);
 /** @p text with the escape sequences of @p style around it; as it is without @p wanted. */
 QString styled(const QString &text, EStyle style, bool wanted);
 
+/** @p text on one line, and without what a terminal would take for a command. */
+QString printable(const QString &text);
+
 } // namespace Terminal

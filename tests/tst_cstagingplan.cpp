@@ -1,0 +1,420 @@
+#include "commissioning/CStagingPlan.h"
+#include "devicefiles/CDeviceFileSystem.h"
+#include "elements/CSubDeviceKD3Element.h"
+#include "support/Files.h"
+#include "support/Literals.h"
+#include "support/OrdinaryUser.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <unistd.h>
+
+#include <sys/stat.h>
+
+namespace {
+
+CFileElement file(const QString &name, const QString &deviceDirectory,
+                  const QString &projectDirectory)
+{
+    CFileElement element;
+    element.setFileName(name);
+    element.setDevicePath(deviceDirectory);
+    element.setProjectPath(projectDirectory);
+    return element;
+}
+
+const QString DeviceDirectory = u"/velkor/configurations/STD/conf/"_s;
+const QString DocumentPath = u"velkor/configurations/STD/conf/DeviceConfiguration.3deco"_s;
+
+CDeviceElement device(const QList<CFileElement> &files = {}, const QString &name = u"STD"_s)
+{
+    CDeviceElement element;
+    element.setName(u"Line"_s);
+    element.setConfigurationName(name);
+    element.setAdditionalFiles(files);
+    return element;
+}
+
+QStringList devicePaths(const CStagingPlan &plan)
+{
+    QStringList paths;
+    for (const CStagingPlan::SFile &planned : plan.files()) {
+        paths << planned.devicePath;
+    }
+    return paths;
+}
+
+QStringList rules(const CStagingPlan &plan)
+{
+    QStringList result;
+    for (const CStagingPlan::SProblem &problem : plan.problems()) {
+        result << problem.rule;
+    }
+    return result;
+}
+
+QStringList relativePaths(const QStringList &paths)
+{
+    QStringList result;
+    for (const QString &path : paths) {
+        result << path.mid(1, path.size() - 2);
+    }
+    return result;
+}
+
+} // namespace
+
+class tst_CStagingPlan : public QObject
+{
+    Q_OBJECT
+
+    // A project with one file, "Line/a.xml", and beside it a file that does not belong to it.
+    std::unique_ptr<QTemporaryDir> m_directory;
+
+    QString project() const { return m_directory->filePath(u"project"_s); }
+    QString inProject(const QString &path) const { return project() + u'/' + path; }
+
+    CStagingPlan plan(const CDeviceElement &element) const
+    {
+        return CStagingPlan(element, {"<document/>", QString()}, project());
+    }
+    CStagingPlan plan(const QList<CFileElement> &files) const { return plan(device(files)); }
+
+    bool link(const QString &target, const QString &name) const
+    {
+        return symlink(QFile::encodeName(target).constData(),
+                       QFile::encodeName(inProject(name)).constData())
+            == 0;
+    }
+
+private slots:
+    void init()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(inProject(u"Line"_s)));
+        QVERIFY(Files::write(inProject(u"Line/a.xml"_s), "12345"));
+        QVERIFY(Files::write(m_directory->filePath(u"outside.xml"_s), "outside"));
+    }
+
+    void plansNothingAtFirst()
+    {
+        const CStagingPlan nothing;
+        QVERIFY(nothing.problems().isEmpty());
+        QVERIFY(nothing.directories().isEmpty());
+        QVERIFY(nothing.files().isEmpty());
+        QCOMPARE(nothing.totalSize(), 0);
+    }
+
+    void plansDocumentAndFiles()
+    {
+        const CStagingPlan made = plan({file(u"a.xml"_s, DeviceDirectory, u"Line"_s)});
+        QCOMPARE(rules(made), QStringList());
+        QCOMPARE(devicePaths(made),
+                 QStringList({DocumentPath, u"velkor/configurations/STD/conf/a.xml"_s}));
+
+        const CStagingPlan::SFile document = made.files().at(0);
+        QCOMPARE(document.content, QByteArray("<document/>"));
+        QCOMPARE(document.projectPath, QString());
+        QCOMPARE(document.source, QByteArray());
+        QCOMPARE(document.size, 11);
+
+        const CStagingPlan::SFile planned = made.files().at(1);
+        QVERIFY(planned.content.isNull());
+        QCOMPARE(planned.projectPath, u"Line/a.xml"_s);
+        QCOMPARE(planned.source,
+                 QFile::encodeName(QFileInfo(inProject(u"Line/a.xml"_s)).canonicalFilePath()));
+        QCOMPARE(planned.size, 5);
+        QCOMPARE(made.totalSize(), 16);
+    }
+
+    void plansEveryKindOfFile()
+    {
+        CDeviceElement element = device({file(u"1"_s, DeviceDirectory, u"Line"_s)});
+        element.setOdictFile(file(u"2"_s, DeviceDirectory, u"Line"_s));
+        element.setFaultTextFile(file(u"3"_s, DeviceDirectory, u"Line"_s));
+        element.appendOpcUaFile(file(u"4"_s, DeviceDirectory, u"Line"_s));
+        element.setEtherCatMasterFile(file(u"5"_s, DeviceDirectory, u"Line"_s));
+        element.appendFpgaFile(u"6"_s);
+        element.addParameterFile(u"7"_s, NvrnGlobal::PARAM_FILE_PARAMETERS);
+        const CStagingPlan made = plan(element);
+        QStringList missing;
+        for (const CStagingPlan::SProblem &problem : made.problems()) {
+            QCOMPARE(problem.rule, u"missing"_s);
+            missing << problem.devicePath.section(u'/', -1);
+        }
+        missing.sort();
+        QCOMPARE(missing,
+                 QStringList({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7.3param"_s,
+                              u"7.3pdef"_s}));
+    }
+
+    void documentOfTheProjectIsNamed()
+    {
+        const QString path = inProject(u"Line/a.xml"_s);
+        const CStagingPlan made(device(), {"12345", path}, project());
+        QCOMPARE(made.files().at(0).projectPath, u"Line/a.xml"_s);
+        const CStagingPlan other(device(), {"x", m_directory->filePath(u"outside.xml"_s)},
+                                 project());
+        QCOMPARE(other.files().at(0).projectPath, QString());
+        // A directory whose name begins like the project's is another one.
+        QVERIFY(QDir().mkpath(project() + u"-2"_s));
+        QVERIFY(Files::write(project() + u"-2/b"_s, "x"));
+        const CStagingPlan third(device(), {"x", project() + u"-2/b"_s}, project());
+        QCOMPARE(third.files().at(0).projectPath, QString());
+    }
+
+    void directoriesAreThoseOfTheLayout()
+    {
+        CDeviceElement element = device();
+        element.insertSubDevice(CSubDeviceKD3Element(), 0);
+        element.insertSubDevice(CSubDeviceKD3Element(), 1);
+        QStringList expected = relativePaths(CDeviceFileSystem(element).smPathList()
+                                             + CDeviceFileSystem(element).optSMPathList());
+        expected << u"opt"_s;
+        expected.sort();
+        QStringList directories = plan(element).directories();
+        QCOMPARE(directories, expected);
+        QVERIFY(directories.contains(u"velkor/configurations/STD/subdevices/1/logic"_s));
+    }
+
+    void drivesHaveDirectoriesOfTheirNumbers()
+    {
+        CDeviceElement element = device();
+        element.insertSubDevice(CSubDeviceKD3Element(), 7);
+        const QStringList directories = plan(element).directories();
+        for (const QString &name : {u""_s, u"/firmware"_s, u"/logic"_s, u"/param"_s}) {
+            QVERIFY(directories.contains(u"velkor/configurations/STD/subdevices/7"_s + name));
+            QVERIFY(directories.contains(u"velkor/configurations/STD/subdevices/0"_s + name));
+        }
+    }
+
+    void filesBringTheirDirectories()
+    {
+        const QStringList directories =
+            plan({file(u"a.xml"_s, u"/opt/velkor/x//y/"_s, u"Line"_s)}).directories();
+        QVERIFY(directories.contains(u"opt/velkor/x"_s));
+        QVERIFY(directories.contains(u"opt/velkor/x/y"_s));
+        QVERIFY(!directories.contains(u"opt/velkor/x/y/a.xml"_s));
+        QVERIFY(!directories.contains(u""_s));
+    }
+
+    void nameOfTheConfiguration_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("rule");
+        QTest::newRow("none") << QString() << u"no-configuration-name"_s;
+        QTest::newRow("slash") << u"a/b"_s << u"bad-configuration-name"_s;
+        QTest::newRow("back-slash") << u"a\\b"_s << u"bad-configuration-name"_s;
+        QTest::newRow("up") << u".."_s << u"bad-configuration-name"_s;
+        QTest::newRow("dot") << u"."_s << u"bad-configuration-name"_s;
+        QTest::newRow("too long") << QString(256, u'a') << u"bad-configuration-name"_s;
+        QTest::newRow("brackets") << u"a ]\n"_s << QString();
+        QTest::newRow("not ASCII") << u"İstanbul"_s << QString();
+    }
+
+    void nameOfTheConfiguration()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QString, rule);
+        const QString missing = u"missing"_s;
+        const CStagingPlan made = plan(device({file(u"b.xml"_s, u"/velkor/x"_s, u"Line"_s)}, name));
+        // What else is wrong is told, too.
+        QCOMPARE(rules(made), rule.isEmpty() ? QStringList{missing} : QStringList({rule, missing}));
+    }
+
+    void sources_data()
+    {
+        QTest::addColumn<QString>("projectDirectory");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("rule");
+        QTest::addColumn<QString>("projectPath");
+        const auto row = [](const char *name, const QString &directory, const QString &file,
+                            const QString &rule, const QString &path) {
+            QTest::newRow(name) << directory << file << rule << path;
+        };
+        const QString good;
+        row("there", u"Line"_s, u"a.xml"_s, good, u"Line/a.xml"_s);
+        row("with detours", u"./Line//."_s, u"a.xml"_s, good, u"Line/a.xml"_s);
+        row("without a directory", QString(), u"top.xml"_s, good, u"top.xml"_s);
+        row("link in the project", u"Line"_s, u"link.xml"_s, good, u"Line/link.xml"_s);
+        row("linked directory", u"LinkedLine"_s, u"a.xml"_s, good, u"LinkedLine/a.xml"_s);
+        row("link out of the project", u"Line"_s, u"out.xml"_s, u"outside-project"_s, QString());
+        row("link to nothing", u"Line"_s, u"dangling.xml"_s, u"missing"_s, QString());
+        row("link to itself", u"Line"_s, u"loop.xml"_s, u"unreadable"_s, QString());
+        row("up", u".."_s, u"outside.xml"_s, u"outside-project"_s, QString());
+        row("up and down", u"Line/../Line"_s, u"a.xml"_s, u"outside-project"_s, QString());
+        row("absolute", u"/etc"_s, u"passwd"_s, u"outside-project"_s, QString());
+        row("missing", u"Line"_s, u"b.xml"_s, u"missing"_s, QString());
+        row("in a file", u"Line/a.xml"_s, u"b.xml"_s, u"missing"_s, QString());
+        row("a directory", QString(), u"Line"_s, u"not-regular"_s, QString());
+        row("a pipe", QString(), u"pipe"_s, u"not-regular"_s, QString());
+        row("a path for a name", QString(), u"Line/a.xml"_s, u"bad-file-name"_s, QString());
+        row("dots for a name", u"Line"_s, u".."_s, u"bad-file-name"_s, QString());
+        row("a long name", u"Line"_s, QString(256, u'a'), u"bad-file-name"_s, QString());
+        row("a long directory", u"a/"_s.repeated(3000), u"b.xml"_s, u"missing"_s, QString());
+    }
+
+    void sources()
+    {
+        QFETCH(const QString, projectDirectory);
+        QFETCH(const QString, name);
+        QFETCH(const QString, rule);
+        QFETCH(const QString, projectPath);
+        QVERIFY(Files::write(inProject(u"top.xml"_s), "top"));
+        QVERIFY(link(u"a.xml"_s, u"Line/link.xml"_s));
+        QVERIFY(link(u"Line"_s, u"LinkedLine"_s));
+        QVERIFY(link(u"../../outside.xml"_s, u"Line/out.xml"_s));
+        QVERIFY(link(u"nothing"_s, u"Line/dangling.xml"_s));
+        QVERIFY(link(u"loop.xml"_s, u"Line/loop.xml"_s));
+        QCOMPARE(mkfifo(QFile::encodeName(inProject(u"pipe"_s)).constData(), 0600), 0);
+
+        const CStagingPlan made = plan({file(name, DeviceDirectory, projectDirectory)});
+        QCOMPARE(rules(made), rule.isEmpty() ? QStringList() : QStringList{rule});
+        if (rule.isEmpty()) {
+            QCOMPARE(made.files().at(1).projectPath, projectPath);
+        } else {
+            QVERIFY(made.problems().at(0).message.size() > name.size());
+        }
+    }
+
+    void unreadableSource()
+    {
+        QVERIFY(Files::write(inProject(u"secret"_s), "secret"));
+        QCOMPARE(chmod(QFile::encodeName(inProject(u"secret"_s)).constData(), 0), 0);
+        QCOMPARE(chmod(QFile::encodeName(m_directory->path()).constData(), 0755), 0);
+        const OrdinaryUser user;
+        QVERIFY(user.isOk());
+        const CStagingPlan made = plan({file(u"secret"_s, DeviceDirectory, QString())});
+        QCOMPARE(rules(made), QStringList{u"unreadable"_s});
+        QVERIFY(made.problems().at(0).message.contains(qt_error_string(EACCES)));
+    }
+
+    void places_data()
+    {
+        QTest::addColumn<QString>("directory");
+        QTest::addColumn<QString>("rule");
+        QTest::newRow("none") << QString() << u"no-device-directory"_s;
+        QTest::newRow("sm tree") << u"/velkor/"_s << QString();
+        QTest::newRow("opt tree") << u"/opt/velkor/etc/conf/"_s << QString();
+        QTest::newRow("superfluous slashes") << u"//velkor//a/"_s << QString();
+        QTest::newRow("root") << u"/"_s << u"outside-device"_s;
+        QTest::newRow("etc") << u"/etc/"_s << u"outside-device"_s;
+        QTest::newRow("opt") << u"/opt/"_s << u"outside-device"_s;
+        QTest::newRow("like the sm tree") << u"/velkor2/"_s << u"outside-device"_s;
+        QTest::newRow("in another case") << u"/Velkor/"_s << u"outside-device"_s;
+        QTest::newRow("up") << u"/velkor/../etc/"_s << u"outside-device"_s;
+        QTest::newRow("up and down") << u"/velkor/a/../b"_s << u"outside-device"_s;
+        QTest::newRow("dot") << u"/velkor/./a"_s << u"outside-device"_s;
+        QTest::newRow("too long") << u"/velkor/"_s + QString(256, u'a') << u"outside-device"_s;
+    }
+
+    void places()
+    {
+        QFETCH(const QString, directory);
+        QFETCH(const QString, rule);
+        const CStagingPlan made = plan({file(u"a.xml"_s, directory, u"Line"_s)});
+        QCOMPARE(rules(made), rule.isEmpty() ? QStringList() : QStringList{rule});
+    }
+
+    void oneFileTwiceIsOneFile()
+    {
+        QVERIFY(link(u"a.xml"_s, u"Line/link.xml"_s));
+        CFileElement again = file(u"a.xml"_s, u"/velkor//configurations/STD/conf"_s, u"./Line"_s);
+        const CStagingPlan made = plan({file(u"a.xml"_s, DeviceDirectory, u"Line"_s), again});
+        QCOMPARE(rules(made), QStringList());
+        QCOMPARE(made.files().size(), 2);
+    }
+
+    void twoFilesForOnePlace_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QStringList>("expected");
+        const QString taken = u"place-taken"_s;
+        const QString missing = u"missing"_s;
+        QTest::newRow("two files") << u"Line"_s << u"Other"_s << QStringList{taken};
+        QTest::newRow("one is missing") << u"Line"_s << u"None"_s << QStringList({missing, taken});
+        QTest::newRow("both are missing")
+            << u"None"_s << u"None2"_s << QStringList({missing, missing, taken});
+    }
+
+    void twoFilesForOnePlace()
+    {
+        QFETCH(const QString, first);
+        QFETCH(const QString, second);
+        QFETCH(const QStringList, expected);
+        QVERIFY(QDir().mkpath(inProject(u"Other"_s)));
+        QVERIFY(Files::write(inProject(u"Other/a.xml"_s), "12345"));
+        const CStagingPlan made = plan(
+            {file(u"a.xml"_s, DeviceDirectory, first), file(u"a.xml"_s, DeviceDirectory, second)});
+        QCOMPARE(rules(made), expected);
+    }
+
+    void documentHasItsPlaceForItself()
+    {
+        const QString name = u"DeviceConfiguration.3deco"_s;
+        QVERIFY(Files::write(inProject(name), "other"));
+        const CDeviceElement element = device({file(name, DeviceDirectory, QString())});
+        QCOMPARE(rules(plan(element)), QStringList{u"place-taken"_s});
+        // Unless it is the document.
+        const CStagingPlan made(element, {"<document/>", inProject(name)}, project());
+        QCOMPARE(rules(made), QStringList());
+        QCOMPARE(made.files().at(0).content, QByteArray("<document/>"));
+    }
+
+    void fileAndDirectory()
+    {
+        QVERIFY(Files::write(inProject(u"conf"_s), "x"));
+        QVERIFY(Files::write(inProject(u"inner"_s), "x"));
+        // One of the layout.
+        QCOMPARE(rules(plan({file(u"conf"_s, u"/velkor/configurations/STD"_s, QString())})),
+                 QStringList{u"file-and-directory"_s});
+        // That of another file.
+        QCOMPARE(rules(plan({file(u"conf"_s, u"/velkor/x"_s, QString()),
+                             file(u"inner"_s, u"/velkor/x/conf/y"_s, QString())})),
+                 QStringList{u"file-and-directory"_s});
+    }
+
+    void noProject_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::newRow("not there") << u"/nowhere"_s;
+        QTest::newRow("empty") << QString();
+    }
+
+    void noProject()
+    {
+        QFETCH(const QString, project);
+        const CStagingPlan made(device({file(u"a.xml"_s, u"/etc"_s, u"Line"_s)}), {"x", QString()},
+                                project);
+        QCOMPARE(rules(made), QStringList({u"no-project"_s, u"outside-device"_s}));
+    }
+
+    void tellsAllProblemsAtOnce()
+    {
+        const CStagingPlan made =
+            plan({file(u"a.xml"_s, QString(), u"Line"_s), file(u"b.xml"_s, u"/etc"_s, u"Line"_s),
+                  file(u"c.xml"_s, DeviceDirectory, u"Line"_s)});
+        QCOMPARE(rules(made),
+                 QStringList(
+                     {u"no-device-directory"_s, u"outside-device"_s, u"missing"_s, u"missing"_s}));
+        QCOMPARE(made.problems().at(1).devicePath, u"/etc/b.xml"_s);
+        QCOMPARE(made.problems().at(1).projectPath, u"Line/b.xml"_s);
+    }
+
+    void manyFiles()
+    {
+        QList<CFileElement> files;
+        const int count = 10000;
+        for (int i = 0; i < count; ++i) {
+            files << file(u"a.xml"_s, u"/velkor/%1/%2"_s.arg(i / 100).arg(i), u"Line"_s);
+        }
+        const CStagingPlan made = plan(files);
+        QCOMPARE(rules(made), QStringList());
+        QCOMPARE(made.files().size(), count + 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_CStagingPlan)
+#include "tst_cstagingplan.moc"
