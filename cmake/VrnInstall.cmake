@@ -70,14 +70,13 @@ if(TARGET vrnCommissioning)
         commissioning/CConfigurationComparison.h
         commissioning/CConfigurationItems.h
         commissioning/CConfigurationMerge.h
-        commissioning/CConfigurationPatch.h
-        commissioning/CDeviceManifest.h
-        commissioning/CStagedTree.h
-        commissioning/CStagingPlan.h
         commissioning/CConfigurationOverview.h
+        commissioning/CConfigurationPatch.h
         commissioning/CConfigurationReport.h
         commissioning/CDeviceManifest.h
         commissioning/CItemFindings.h
+        commissioning/CStagedTree.h
+        commissioning/CStagingPlan.h
         commissioning/SConfigurationFinding.h
         commissioning/VrnCommissioningExport.h
     )

@@ -659,7 +659,7 @@ public:
     QString errorText;
 
 private:
-    bool step(const SSegment &segment, SPlace &place, bool entryMayBeAbsent);
+    bool step(const SSegment &given, SPlace &place, bool entryMayBeAbsent);
     bool findEntry(const SSegment &segment, SPlace &place);
     bool failUnknownWord(const SPlace &place, const QString &path, const QString &word);
     QString key(const SNode &list, const QDomElement &entry) const;
@@ -1278,10 +1278,10 @@ bool CConfigurationItems::setValue(const QString &path, const QString &value)
         d->setOption(place, stored);
     } else if (place.node->kind == EKind::ATTRIBUTE_ITEM) {
         d->created(place).setAttribute(ATTR_TYPE, stored);
-    } else if (place.node->value != EValue::ACTIVE_FPGA_FILE) {
-        d->file.setNodeValue(d->created(place), stored);
-    } else if (d->text(place) != stored) {
+    } else if (place.node->value == EValue::ACTIVE_FPGA_FILE) {
         d->file.setActiveFpgaFile(stored);
+    } else {
+        d->file.setNodeValue(d->created(place), stored);
     }
     return true;
 }

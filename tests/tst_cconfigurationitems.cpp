@@ -188,6 +188,7 @@ private slots:
     void addedDriveIsAsAnInsertedOne();
     void remove_data();
     void remove();
+    void removeASingleFileOfSeveral();
     void optionsKeepTheirBlanks_data();
     void optionsKeepTheirBlanks();
 
@@ -632,7 +633,7 @@ void tst_CConfigurationItems::entriesOfOneKeyAreCounted()
 void tst_CConfigurationItems::drivesAreKnownByTheirNumbers()
 {
     QByteArray drives;
-    for (const char *number : {"7", "007", " 8 ", "255", "256", "-1", "left", ""}) {
+    for (const char *number : {"7", "007", " 8 ", "255", "0256", "-1", "left", ""}) {
         drives +=
             QByteArray("<SubDevice><Name>n</Name><DriveNo>") + number + "</DriveNo></SubDevice>";
     }
@@ -640,7 +641,7 @@ void tst_CConfigurationItems::drivesAreKnownByTheirNumbers()
         documentOf("<Device>" + drives + "<SubDevice><Name>n</Name></SubDevice></Device>"));
     QCOMPARE(opened.items.entries(),
              QStringList({u"drive[7]"_s, u"drive[7][2]"_s, u"drive[8]"_s, u"drive[255]"_s,
-                          u"drive[256]"_s, u"drive[-1]"_s, u"drive[left]"_s, u"drive[]"_s,
+                          u"drive[0256]"_s, u"drive[-1]"_s, u"drive[left]"_s, u"drive[]"_s,
                           u"drive[][2]"_s}));
     for (const QString &path : opened.items.entries()) {
         QCOMPARE(opened.value(path + u".name"_s), u"n"_s);
@@ -1228,6 +1229,17 @@ void tst_CConfigurationItems::remove()
     QCOMPARE(expected.count(gone), 1);
     expected.replace(gone, '\n' + added.join('\n') + (added.isEmpty() ? "" : "\n"));
     QCOMPARE(opened.bytes(), expected);
+}
+
+void tst_CConfigurationItems::removeASingleFileOfSeveral()
+{
+    // Only the first one counts, and none of them may step into its place.
+    SOpened opened(configurationOf("<Dictionary><!--kept--><File><Name>a</Name></File>"
+                                   "<File><Name>b</Name></File><Extra/></Dictionary>"));
+    QCOMPARE(opened.value(u"device.dictionary.name"_s), u"a"_s);
+    QVERIFY(opened.items.remove(u"device.dictionary"_s));
+    QVERIFY(!opened.items.contains(u"device.dictionary"_s));
+    QVERIFY(opened.bytes().contains("   <Dictionary>\n    <!--kept-->\n    <Extra/>\n"));
 }
 
 void tst_CConfigurationItems::optionsKeepTheirBlanks_data()

@@ -671,6 +671,7 @@ void tst_vrndevice_items::newFromAFile()
     // It is the same but for names, directories in the project, dates and the author.
     QByteArray made = Files::read(path(u"made"_s));
     QVERIFY(!made.contains("PackagingLine"));
+    QVERIFY(made.contains("<Author/>"));
     QCOMPARE(made.count("<ProjectDir>Line 2/"), m_example.count("<ProjectDir>PackagingLine/"));
     made.replace("Line 2/", "PackagingLine/")
         .replace("  <Name>Line 2</Name>\n  <Comment>Commissioned",
