@@ -1322,7 +1322,7 @@
     <message>
         <source>en</source>
         <extracomment>The code of the language that these texts are translated into, as &quot;de&quot; or &quot;pt-BR&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Made from the configuration alone; nothing is loaded when this page is opened.</source>
