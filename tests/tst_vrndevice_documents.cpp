@@ -339,7 +339,8 @@ void tst_vrndevice_documents::completion_data()
                 << QString::fromLatin1(unwanted).split(u'|', Qt::SkipEmptyParts);
         }
     };
-    row(u"vrndevice "_s, "add-drive|completion|network|show", "network show|check|a.3deco|n.txt");
+    row(u"vrndevice "_s, "add-drive|completion|network|show",
+        "network show|KD2_drive|a.3deco|n.txt");
     row(u"vrndevice ne"_s, "network|new", "show|network.conf");
     row(u"vrndevice --v"_s, "--version", "--json|show");
     row(u"vrndevice network "_s, "check|set|show", "network.conf|place|network");
@@ -354,6 +355,8 @@ void tst_vrndevice_documents::completion_data()
     row(u"vrndevice add-drive --name "_s, "", "a.3deco|KD2_drive|add-drive");
     row(u"vrndevice add-drive --type KD3_drive a"_s, "a.3deco", "n.txt|KD3_drive");
     row(u"vrndevice add-drive --type=KD3_drive a"_s, "a.3deco", "n.txt|KD3_drive");
+    row(u"vrndevice new --template "_s, "kd3-drive|a.3deco", "new|--json");
+    row(u"vrndevice new --class "_s, "kc2|kd3", "a.3deco|new");
     row(u"vrndevice network set n"_s, "network.conf", "");
     row(u"vrndevice network set --"_s, "--create|--json|--help", "--type");
     row(u"vrndevice settings show "_s, "s.3conf", "set|settings");

@@ -23,6 +23,12 @@ QString written(const QString &name)
     return (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
 }
 
+/** Files need not be called as it is usual. */
+bool isPossible(const QString &given, const QStringList &choices, const QStringList &fileNames)
+{
+    return choices.isEmpty() || !fileNames.isEmpty() || choices.contains(given);
+}
+
 /** "A, B or C" */
 QString anyOf(const QStringList &choices)
 {
@@ -57,37 +63,49 @@ CommandLine::CommandLine(const SCommand &command)
     command.describe(*this);
 }
 
+void CommandLine::add(const SArgument &argument)
+{
+    m_arguments.append(argument);
+    m_wasOptionAdded = false;
+}
+
+void CommandLine::add(const SOption &option)
+{
+    m_options.append(option);
+    m_wasOptionAdded = true;
+}
+
 void CommandLine::addArgument(const QString &name, const QString &description,
                               const QStringList &choices)
 {
-    m_arguments.append({name, description, false, false, choices, {}});
+    add(SArgument{name, description, false, false, choices, {}});
 }
 
 void CommandLine::addOptionalArgument(const QString &name, const QString &description)
 {
-    m_arguments.append({name, description, false, true, {}, {}});
+    add(SArgument{name, description, false, true, {}, {}});
 }
 
 void CommandLine::addArguments(const QString &name, const QString &description)
 {
-    m_arguments.append({name, description, true, false, {}, {}});
+    add(SArgument{name, description, true, false, {}, {}});
 }
 
 void CommandLine::setFileNames(const QStringList &patterns)
 {
-    m_arguments.last().fileNames = patterns;
+    (m_wasOptionAdded ? m_options.last().fileNames : m_arguments.last().fileNames) = patterns;
 }
 
 void CommandLine::addOption(const QString &name, const QString &description,
                             const QString &valueName, const QStringList &choices)
 {
-    m_options.append({{name}, description, valueName, choices});
+    add(SOption{{name}, description, valueName, choices, {}});
 }
 
 void CommandLine::addOption(QChar letter, const QString &name, const QString &description,
                             const QString &valueName, const QStringList &choices)
 {
-    m_options.append({{QString(letter), name}, description, valueName, choices});
+    add(SOption{{QString(letter), name}, description, valueName, choices, {}});
 }
 
 void CommandLine::withoutJson()
@@ -234,7 +252,7 @@ QString CommandLine::problem() const
 {
     for (const SOption &option : m_options) {
         for (const QString &value : m_givenValues.value(option.names.last())) {
-            if (!option.choices.isEmpty() && !option.choices.contains(value)) {
+            if (!isPossible(value, option.choices, option.fileNames)) {
                 return Texts::tr("%1 must be %2.")
                     .arg(written(option.names.last()), anyOf(option.choices));
             }
@@ -247,7 +265,7 @@ QString CommandLine::problem() const
                 ? QString()
                 : Texts::tr("The argument %1 is missing.").arg(argument.name);
         }
-        if (!argument.choices.isEmpty() && !argument.choices.contains(m_givenArguments.at(index))) {
+        if (!isPossible(m_givenArguments.at(index), argument.choices, argument.fileNames)) {
             return Texts::tr("%1 must be %2.").arg(argument.name, anyOf(argument.choices));
         }
         index = argument.isRepeated ? m_givenArguments.size() : index + 1;

@@ -56,7 +56,7 @@ public:
         QString description;
         bool isRepeated = false;
         bool isOptional = false;
-        /** The only texts that make sense; empty when anything may be given. */
+        /** The only texts that make sense, beside files; empty when anything may be given. */
         QStringList choices;
         /** How files that make sense are called, with wildcards; for the completion only. */
         QStringList fileNames;
@@ -68,8 +68,10 @@ public:
         QString description;
         /** Empty for a switch. */
         QString valueName;
-        /** The only values that make sense; empty when anything may be given. */
+        /** The only values that make sense, beside files; empty when anything may be given. */
         QStringList choices;
+        /** As of an argument. */
+        QStringList fileNames;
     };
 
     explicit CommandLine(const SCommand &command);
@@ -81,7 +83,10 @@ public:
     void addOptionalArgument(const QString &name, const QString &description);
     /** Adds arguments of which at least one must be given; nothing can follow them. */
     void addArguments(const QString &name, const QString &description);
-    /** Tells how the files are called that the argument which was added last is for. */
+    /**
+     * Tells how the files are called that the argument or option which was added last is for. Where
+     * there are choices, a file may be given in place of one of them.
+     */
     void setFileNames(const QStringList &patterns);
     /** Without @p valueName the option is a switch. */
     void addOption(const QString &name, const QString &description,
@@ -125,6 +130,8 @@ public:
     int badUsage(const QString &what) const;
 
 private:
+    void add(const SArgument &argument);
+    void add(const SOption &option);
     /** The option that is called @p name on the command line, without hyphens; or null. */
     const SOption *option(const QString &name) const;
     QString sort(const QStringList &given);
@@ -137,6 +144,7 @@ private:
     QList<SArgument> m_arguments;
     QList<SOption> m_options;
     QStringList m_examples;
+    bool m_wasOptionAdded = false;
     /** What was given: the arguments, and the values of each option by its long name. */
     QStringList m_givenArguments;
     QMap<QString, QStringList> m_givenValues;

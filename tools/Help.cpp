@@ -131,10 +131,12 @@ QList<CommandLine::SOption> optionsOfTool()
     return {{{QStringLiteral("h"), QStringLiteral("help")},
              Texts::tr("Print this help; behind a command, the command's."),
              QString(),
+             {},
              {}},
             {{QStringLiteral("v"), QStringLiteral("version")},
              Texts::tr("Print the version."),
              QString(),
+             {},
              {}}};
 }
 

@@ -10,43 +10,40 @@ namespace {
 using SArgument = CommandLine::SArgument;
 using SOption = CommandLine::SOption;
 
-enum EOffer { OFFER_NOTHING, OFFER_WORDS, OFFER_FILES, OFFER_DIRECTORIES };
-
 /** What can stand in one place of a command line. */
 struct SOffer {
-    EOffer kind = OFFER_NOTHING;
-    /** The words, or how the files are called. */
-    QStringList items;
+    QStringList words;
+    /** How the files are called. */
+    QStringList files;
+    bool directories = false;
 };
 
 const QStringList AnyFile = {QStringLiteral("*")};
 
-SOffer offerByName(const QString &name, EOffer other)
+/** @p otherFiles what to offer where nothing is known */
+SOffer offer(const QString &name, const QStringList &choices, const QStringList &fileNames,
+             const QStringList &otherFiles)
 {
-    if (name.contains(QLatin1String("DIR"))) {
-        return {OFFER_DIRECTORIES, {}};
+    if (!choices.isEmpty() || !fileNames.isEmpty()) {
+        return {choices, fileNames, false};
     }
-    const bool isFile = name.contains(QLatin1String("FILE")) || other == OFFER_FILES;
-    return isFile ? SOffer{OFFER_FILES, AnyFile} : SOffer();
+    if (name.contains(QLatin1String("DIR"))) {
+        return {{}, {}, true};
+    }
+    return {{}, name.contains(QLatin1String("FILE")) ? AnyFile : otherFiles, false};
 }
 
 SOffer offer(const SArgument &argument)
 {
-    if (!argument.choices.isEmpty()) {
-        return {OFFER_WORDS, argument.choices};
-    }
-    if (!argument.fileNames.isEmpty()) {
-        return {OFFER_FILES, argument.fileNames};
-    }
     // Most arguments are files, whatever they are called: OLD and NEW, for instance.
     const bool isAssignment = argument.name.contains(QLatin1Char('='));
-    return offerByName(argument.name, isAssignment ? OFFER_NOTHING : OFFER_FILES);
+    return offer(argument.name, argument.choices, argument.fileNames,
+                 isAssignment ? QStringList() : AnyFile);
 }
 
 SOffer offer(const SOption &option)
 {
-    return option.choices.isEmpty() ? offerByName(option.valueName, OFFER_NOTHING)
-                                    : SOffer{OFFER_WORDS, option.choices};
+    return offer(option.valueName, option.choices, option.fileNames, {});
 }
 
 QString written(const QString &name)
@@ -139,16 +136,16 @@ _vrndevice_directories()
     mapfile -t COMPREPLY < <(compgen -d -- "$current")
 }
 
-# The files with one of the names, and directories on the way there; all files if there are none.
+# Adds the files with one of the names, and directories on the way there; all files if there are none.
 _vrndevice_files()
 {
-    local pattern
+    local pattern words=("${COMPREPLY[@]}")
     compopt -o filenames 2>/dev/null
     mapfile -t COMPREPLY < <(
         for pattern; do
             compgen -f -X "!$pattern" -- "$current"
             compgen -f -X "!*/$pattern" -- "$current"
-        done | LC_ALL=C sort -u
+        done
     )
     [ "${#COMPREPLY[@]}" -gt 0 ] || mapfile -t COMPREPLY < <(compgen -f -- "$current")
     mapfile -t COMPREPLY < <(
@@ -157,6 +154,7 @@ _vrndevice_files()
             compgen -d -- "$current"
         } | LC_ALL=C sort -u
     )
+    COMPREPLY=("${words[@]}" "${COMPREPLY[@]}")
 }
 
 _vrndevice()
@@ -184,17 +182,19 @@ const char BashPosition[] = R"(    for ((i = first; i < COMP_CWORD; ++i)); do
 
 QString bashAction(const SOffer &offer)
 {
-    switch (offer.kind) {
-    case OFFER_NOTHING:
-        break;
-    case OFFER_WORDS:
-        return QStringLiteral("_vrndevice_words ") + quoted(offer.items.join(QLatin1Char(' ')));
-    case OFFER_FILES:
-        return QStringLiteral("_vrndevice_files ") + quoted(offer.items).join(QLatin1Char(' '));
-    case OFFER_DIRECTORIES:
-        return QStringLiteral("_vrndevice_directories");
+    QStringList actions;
+    if (!offer.words.isEmpty()) {
+        actions.append(QStringLiteral("_vrndevice_words ")
+                       + quoted(offer.words.join(QLatin1Char(' '))));
     }
-    return QStringLiteral(":");
+    if (!offer.files.isEmpty()) {
+        actions.append(QStringLiteral("_vrndevice_files ")
+                       + quoted(offer.files).join(QLatin1Char(' ')));
+    }
+    if (offer.directories) {
+        actions.append(QStringLiteral("_vrndevice_directories"));
+    }
+    return actions.isEmpty() ? QStringLiteral(":") : actions.join(QStringLiteral("; "));
 }
 
 void printBash(QTextStream &out)
@@ -275,19 +275,26 @@ QString zshEscaped(const QString &text)
 
 QString zshAction(const SOffer &offer)
 {
-    switch (offer.kind) {
-    case OFFER_NOTHING:
-        break;
-    case OFFER_WORDS:
-        return QStringLiteral("(%1)").arg(offer.items.join(QLatin1Char(' ')));
-    case OFFER_FILES:
-        return offer.items == AnyFile
+    QString words;
+    QString files;
+    if (!offer.words.isEmpty()) {
+        words = QStringLiteral("(%1)").arg(offer.words.join(QLatin1Char(' ')));
+    }
+    if (!offer.files.isEmpty()) {
+        files = offer.files == AnyFile
             ? QStringLiteral("_files")
-            : QStringLiteral("_files -g \"%1\"").arg(offer.items.join(QLatin1Char(' ')));
-    case OFFER_DIRECTORIES:
+            : QStringLiteral("_files -g \"%1\"").arg(offer.files.join(QLatin1Char(' ')));
+    }
+    if (!words.isEmpty() && !files.isEmpty()) {
+        // A colon would end the action.
+        return QStringLiteral("_alternative \"words\\:word\\:%1\" \"files\\:file\\:%2\"")
+            .arg(words, files.replace(QLatin1Char('"'), QStringLiteral("\\\"")));
+    }
+    if (offer.directories) {
         return QStringLiteral("_files -/");
     }
-    return QStringLiteral(" ");
+    const QString action = words + files;
+    return action.isEmpty() ? QStringLiteral(" ") : action;
 }
 
 /** What _arguments is told of an option; it can be given again, and so it is offered again. */
@@ -398,30 +405,30 @@ QString fishQuoted(const QString &text)
 /** The options of "complete" that tell what is offered. */
 QString fishAction(const SOffer &offer, bool isValue)
 {
-    const QString required = isValue ? QStringLiteral(" -x") : QString();
-    switch (offer.kind) {
-    case OFFER_NOTHING:
-        return required;
-    case OFFER_WORDS:
-        return required + QStringLiteral(" -a ") + fishQuoted(offer.items.join(QLatin1Char(' ')));
-    case OFFER_DIRECTORIES:
-        return required + QStringLiteral(" -a '(__fish_complete_directories)'");
-    case OFFER_FILES:
-        break;
+    QStringList offers = offer.words;
+    if (offer.directories) {
+        offers.append(QStringLiteral("(__fish_complete_directories)"));
     }
-    // It knows the ends of names only; other files follow behind those.
-    QStringList ends;
-    for (const QString &pattern : offer.items) {
-        const bool isEnd = pattern.startsWith(QLatin1Char('*')) && pattern.size() > 1;
+    bool isAnyFile = false;
+    for (const QString &pattern : offer.files) {
+        // It knows the ends of names only; other files follow behind those.
+        const bool isEnd = pattern.startsWith(QLatin1Char('*'));
         const QString end = isEnd ? pattern.mid(1) : pattern;
-        if (!end.contains(QLatin1Char('*'))) {
-            ends.append(QStringLiteral("(__fish_complete_suffix %1)").arg(end));
+        if (end.isEmpty() || end.contains(QLatin1Char('*'))) {
+            isAnyFile = true;
+        } else {
+            offers.append(QStringLiteral("(__fish_complete_suffix %1)").arg(end));
         }
     }
-    if (ends.isEmpty()) {
-        return isValue ? QStringLiteral(" -r -F") : QStringLiteral(" -F");
+    QString action = isValue ? QStringLiteral(" -r") : QString();
+    if (isAnyFile) {
+        action += QStringLiteral(" -F");
+    } else if (isValue) {
+        action += QStringLiteral(" -f");
     }
-    return required + QStringLiteral(" -k -a ") + fishQuoted(ends.join(QLatin1Char(' ')));
+    return offers.isEmpty()
+        ? action
+        : action + QStringLiteral(" -k -a ") + fishQuoted(offers.join(QLatin1Char(' ')));
 }
 
 void printFishWord(const QString &after, const QString &word, const QString &summary,
@@ -464,10 +471,9 @@ void printFish(QTextStream &out)
             printFishOption(condition, option, out);
         }
         for (const SArgument &argument : line.describedArguments()) {
-            const SOffer offered = offer(argument);
-            if (offered.kind != OFFER_NOTHING) {
-                out << "complete -c vrndevice -n " << fishQuoted(condition)
-                    << fishAction(offered, false) << '\n';
+            const QString action = fishAction(offer(argument), false);
+            if (!action.isEmpty()) {
+                out << "complete -c vrndevice -n " << fishQuoted(condition) << action << '\n';
             }
         }
     }

@@ -185,6 +185,7 @@ void describe(CommandLine &line)
                    Texts::tr("What to begin with: the name of a built-in template, or the file of "
                              "a configuration."),
                    QStringLiteral("TEMPLATE"), templateNames());
+    line.setFileNames({QStringLiteral("*.3deco")});
     line.addOption(ListTemplatesOption, Texts::tr("Print the built-in templates."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --class kd3 --name Wrapper"));
     line.addExample(
