@@ -35,6 +35,8 @@ public:
         SConfigurationFinding::ESeverity severity = SConfigurationFinding::ERROR;
         /** What is wrong when the rule finds something; one sentence for the user. */
         QString description;
+        /** How to mend it; that of its findings, unless these know better. */
+        QString hint;
     };
 
     CConfigurationCheck();

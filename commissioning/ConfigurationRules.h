@@ -91,5 +91,7 @@ enum ERule {
 QString id(ERule rule);
 SConfigurationFinding::ESeverity severity(ERule rule);
 QString description(ERule rule);
+/** How to mend what the rule finds, whatever it is. */
+QString hint(ERule rule);
 
 } // namespace ConfigurationRules

@@ -213,7 +213,7 @@ void DocumentCheck::append(ERule rule, const SPlace &place, const SText &text)
     finding.message = text.message;
     finding.found = shown(text.found);
     finding.expected = text.expected;
-    finding.hint = text.hint;
+    finding.hint = text.hint.isEmpty() ? hint(rule) : text.hint;
     m_findings.append(finding);
 }
 

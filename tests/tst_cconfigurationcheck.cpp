@@ -703,20 +703,22 @@ void tst_CConfigurationCheck::documentsOfTheRules()
         QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/docs/rules.md")));
     static const QRegularExpression heading(
         u"^### ([a-z0-9-]+)\\n\\n(Error|Warning)\\. ([^\\n]+(?:\\n[^\\n]+)*)\\n\\n"
-        u"```xml\\n[^`]+```\\n\\n\\*\\*Hint:\\*\\* "_s,
+        u"```xml\\n[^`]+```\\n\\n\\*\\*Hint:\\*\\* "
+        u"([^\\n]+(?:\\n[^\\n]+)*)\\n"_s,
         QRegularExpression::MultilineOption);
     QStringList documented;
     auto matches = heading.globalMatch(page);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        documented << u"%1 %2 %3"_s.arg(match.captured(1), match.captured(2),
-                                        match.captured(3).simplified());
+        documented << u"%1 %2 %3 %4"_s.arg(
+            match.captured(1), match.captured(2), match.captured(3).simplified(),
+            match.captured(4).simplified().replace(QLatin1Char('`'), QLatin1Char('\'')));
     }
     QStringList expected;
     for (const CConfigurationCheck::SRule &rule : CConfigurationCheck::rules()) {
         const bool isError = rule.severity == SConfigurationFinding::ERROR;
-        expected << u"%1 %2 %3"_s.arg(rule.id, isError ? u"Error"_s : u"Warning"_s,
-                                      rule.description);
+        expected << u"%1 %2 %3 %4"_s.arg(rule.id, isError ? u"Error"_s : u"Warning"_s,
+                                         rule.description, rule.hint);
     }
     QCOMPARE(documented, expected);
     QCOMPARE(page.count(u"\n### "_s), expected.size());
