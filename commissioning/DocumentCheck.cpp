@@ -535,7 +535,7 @@ void DocumentCheck::checkConfigurationName(const Fields &fields, const QString &
 CDeviceHardwareId DocumentCheck::checkHardwareId(const Fields &fields, const QString &item)
 {
     const QString text = fields.text(TAG_HARDWAREID);
-    const CDeviceHardwareId hardwareId(text);
+    CDeviceHardwareId hardwareId(text);
     if (hardwareId.isNull() && !text.isEmpty()) {
         report(HARDWARE_ID_INVALID,
                {fields.element(TAG_HARDWAREID), item + QStringLiteral(".hardwareId")},
