@@ -270,9 +270,8 @@ QString DocumentCheck::entryPath(const QString &list, const QString &key)
     if (key.size() > LongestKey) {
         return list;
     }
-    const QString path = CConfigurationItems::entryPath(list, key);
-    const int count = ++m_entryCounts[path];
-    return count == 1 ? path : QStringLiteral("%1[%2]").arg(path, QString::number(count));
+    const int occurrence = ++m_entryCounts[CConfigurationItems::entryPath(list, key)];
+    return CConfigurationItems::entryPath(list, key, occurrence);
 }
 
 void DocumentCheck::checkStructure(const Fields &fields, const QString &item)

@@ -15,7 +15,7 @@ jobs=$(nproc)
 # shellcheck disable=SC2034
 {
     build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools libexpat1-dev
-        libarchive-dev pkg-config python3-minimal)
+        libarchive-dev zlib1g-dev pkg-config python3-minimal)
     package_packages=("${build_packages[@]}" dpkg-dev file)
     test_packages=("${build_packages[@]}" git tzdata strace)
     translation_packages=(git qttools5-dev-tools)

@@ -468,8 +468,10 @@ void tst_VrnDeviceReport::usage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("errors");
-    QTest::newRow("report without a file") << QStringList{u"report"_s} << u"1 argument(s)"_s;
-    QTest::newRow("tree without a file") << QStringList{u"tree"_s} << u"1 argument(s)"_s;
+    QTest::newRow("report without a file")
+        << QStringList{u"report"_s} << u"The argument FILE is missing."_s;
+    QTest::newRow("tree without a file")
+        << QStringList{u"tree"_s} << u"The argument FILE is missing."_s;
     QTest::newRow("JSON and page on one stream")
         << QStringList{u"report"_s, FileName, u"--json"_s} << u"--json needs --output"_s;
     QTest::newRow("JSON and page on standard output")
