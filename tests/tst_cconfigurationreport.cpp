@@ -356,6 +356,8 @@ void tst_CConfigurationReport::page()
     for (const QString &target : targets) {
         QVERIFY2(ids.contains(target), qPrintable(target));
     }
+    QVERIFY(page.html().contains("<meta http-equiv=\"Content-Security-Policy\" "
+                                 "content=\"default-src 'none'; style-src 'unsafe-inline'\"/>"));
     QCOMPARE(page.all(u"h1"_s).size(), 1);
     QCOMPARE(page.all(u"main"_s).size(), 1);
     for (const QDomElement &svg : page.all(u"svg"_s, u"drawing"_s)) {
@@ -771,6 +773,8 @@ void tst_CConfigurationReport::marksInTheDrawing()
                     {finding(u"drive[1].param.name"_s, SConfigurationFinding::WARNING),
                      finding(u"drive[2].name"_s, SConfigurationFinding::WARNING),
                      finding(u"drive[2].param"_s, SConfigurationFinding::ERROR),
+                     finding(u"drive[3].name"_s, SConfigurationFinding::ERROR),
+                     finding(u"drive[3].param"_s, SConfigurationFinding::WARNING),
                      finding(u"drive"_s), finding(u"device.options"_s)});
     for (const QDomElement &svg : page.all(u"svg"_s, u"drawing"_s)) {
         QStringList marks;
@@ -785,9 +789,9 @@ void tst_CConfigurationReport::marksInTheDrawing()
             marks.append(mark);
             titles.append(link.firstChildElement(u"g"_s).firstChildElement(u"title"_s).text());
         }
-        QCOMPARE(
-            marks,
-            (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s, QString()}));
+        QCOMPARE(marks,
+                 (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s,
+                              u"#mark-error"_s}));
         QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus id 1000."_s);
         QVERIFY(titles.at(2).endsWith(u"It has warnings."_s));
         QVERIFY(titles.at(3).endsWith(u"It has errors."_s));

@@ -311,6 +311,8 @@ void tst_VrnDeviceReport::treeShowsFindings()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     changeExample("<Class>kd3</Class>", "<Class>kd4</Class>");
+    changeExample("<OpcUaEnabled>true", "<OpcUaEnabled>perhaps");
+    changeExample("<ExecutionPlugin>motion", "<ExecutionPlugin>none");
     changeExample("PackagingLine/velkor/conf/</ProjectDir>\n    </File>\n   </Files>",
                   "/velkor/</ProjectDir>\n    </File>\n   </Files>");
     const SResult result = run({u"tree"_s, FileName});
@@ -323,7 +325,9 @@ void tst_VrnDeviceReport::treeShowsFindings()
         linesFrom(result.output, u"└─ Device"_s).value(1).contains(u"[device-class-unknown]"_s));
     const QStringList file = linesFrom(result.output, u"recipes.csv (Box formats)"_s);
     QVERIFY2(file.value(3).startsWith(u"   │        error: "_s), qPrintable(file.value(3)));
-    QCOMPARE(result.output.count(u"error: "_s), 3);
+    QVERIFY(linesFrom(result.output, u"├─ OPC UA"_s).value(1).startsWith(u"   │  │  error: "_s));
+    QVERIFY(linesFrom(result.output, u"Execution plug-in: none"_s).value(1).contains(u"'none'"_s));
+    QCOMPARE(result.output.count(u"error: "_s), 5);
 }
 
 void tst_VrnDeviceReport::treeOfUnusualTexts()
@@ -335,7 +339,9 @@ void tst_VrnDeviceReport::treeOfUnusualTexts()
                   "     <ProjectDir>PackagingLine/velkor/conf/</ProjectDir>\n"
                   "    </File>\n   </Files>",
                   "</File>\n   </Files>");
+    changeExample("<Comment>Box formats</Comment>", "<Comment>a\nb</Comment>");
     const SResult result = run({u"tree"_s, FileName});
+    QVERIFY(result.output.contains(u"recipes.csv (a\\nb)\n"_s));
     QVERIFY(result.output.contains(u"(two\\nlines, \\u009b31m and 很长)\n"_s));
     const QStringList file = linesFrom(result.output, u"recipes.csv"_s);
     QVERIFY(file.value(1).endsWith(u"device: -"_s));
