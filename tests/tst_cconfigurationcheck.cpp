@@ -987,7 +987,7 @@ void tst_CConfigurationCheck::deepDocument()
 void tst_CConfigurationCheck::nothingIsKept()
 {
     if (!AllocationCounter::isAvailable()) {
-        QSKIP("A sanitizer brings its own heap.");
+        QSKIP("A sanitizer brings its own heap.", 0);
     }
     CConfigurationCheck check;
     const QString path = invalidFile(u"many-faults"_s);

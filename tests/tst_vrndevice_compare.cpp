@@ -477,7 +477,7 @@ bool tst_VrnDeviceCompare::branch(const QList<QByteArray> &ours,
 
 #define NEED_GIT() \
     if (QStandardPaths::findExecutable(u"git"_s).isEmpty()) { \
-        QSKIP("git is not installed"); \
+        QSKIP("git is not installed", 0); \
     }
 
 void tst_VrnDeviceCompare::gitMergesWhatLinesCannot()

@@ -429,7 +429,7 @@ void tst_VrnDeviceReport::colours()
     QFETCH(QString, noColor);
     QFETCH(bool, expected);
     if (isTerminal && !PseudoTerminal().isOpen()) {
-        QSKIP("There are no pseudo-terminals here.");
+        QSKIP("There are no pseudo-terminals here.", 0);
     }
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     SSurroundings around;
