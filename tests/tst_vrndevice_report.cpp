@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -127,6 +128,14 @@ QStringList allTexts(const QJsonObject &node, const QString &list, const QString
         result += allTexts(child.toObject(), list, key);
     }
     return result;
+}
+
+bool eachHasItems(const QJsonObject &node)
+{
+    const QJsonArray children = node.value(u"children"_s).toArray();
+    return !node.value(u"items"_s).toArray().isEmpty()
+        && std::all_of(children.begin(), children.end(),
+                       [](const QJsonValue &child) { return eachHasItems(child.toObject()); });
 }
 
 } // namespace
@@ -367,6 +376,7 @@ void tst_VrnDeviceReport::treeAsJson()
         QVERIFY(allTexts(root, u"files"_s, u"deviceDir"_s).contains(expected.devicePath()));
         QVERIFY(allTexts(root, u"files"_s, u"projectDir"_s).contains(expected.projectPath()));
     }
+    QVERIFY(eachHasItems(root));
     QCOMPARE(allTexts(root, u"findings"_s, u"rule"_s), QStringList{u"drive-number-twice"_s});
     QCOMPARE(allTexts(root, u"findings"_s, u"severity"_s), QStringList{u"error"_s});
     QCOMPARE(allTexts(root, u"findings"_s, u"item"_s), QStringList{u"drive[2][2].driveNo"_s});
