@@ -491,6 +491,8 @@ private:
     QString key(const SNode &list, const QDomElement &entry) const;
     bool isEntry(const SNode &list, const QDomElement &element) const;
     template <typename Visit>
+    void visitCandidates(const SNode &list, const QDomElement &element, Visit visit) const;
+    template <typename Visit>
     void visitEntries(const SNode &list, const QDomElement &element, Visit visit) const;
     QDomElement child(const QDomElement &parent, const QString &tag);
 };
@@ -529,17 +531,28 @@ bool CConfigurationItemsPrivate::isEntry(const SNode &list, const QDomElement &e
     return false;
 }
 
-/** Calls @p visit with each entry, in the order of the document, until it returns false. */
+/** Calls @p visit with what may be an entry, in the order of the document, until it returns false.
+ */
 template <typename Visit>
-void CConfigurationItemsPrivate::visitEntries(const SNode &list, const QDomElement &element,
-                                              Visit visit) const
+void CConfigurationItemsPrivate::visitCandidates(const SNode &list, const QDomElement &element,
+                                                 Visit visit) const
 {
     // Readers find these two at any depth below their list.
     const bool isDeep = list.entry == EEntry::PARAM_FILE || list.entry == EEntry::PLUGIN;
     QDomElement candidate = element.firstChildElement();
-    while (!candidate.isNull() && (!isEntry(list, candidate) || visit(candidate))) {
+    while (!candidate.isNull() && visit(candidate)) {
         candidate = isDeep ? nextInside(element, candidate) : candidate.nextSiblingElement();
     }
+}
+
+/** As visitCandidates(), with the entries alone. */
+template <typename Visit>
+void CConfigurationItemsPrivate::visitEntries(const SNode &list, const QDomElement &element,
+                                              Visit visit) const
+{
+    visitCandidates(list, element, [&](const QDomElement &candidate) {
+        return !isEntry(list, candidate) || visit(candidate);
+    });
 }
 
 bool CConfigurationItemsPrivate::failUnknownWord(const SPlace &place, const QString &path,
@@ -577,9 +590,12 @@ bool CConfigurationItemsPrivate::findEntry(const SItemPathStep &segment, SPlace 
         return left == 0;
     }
     QDomElement found;
-    visitEntries(list, element, [&](const QDomElement &entry) {
-        left -= key(list, entry) == segment.key ? 1 : 0;
-        found = entry;
+    visitCandidates(list, element, [&](const QDomElement &candidate) {
+        // Its key first: to take a whole entry apart costs more.
+        if (key(list, candidate) == segment.key && isEntry(list, candidate)) {
+            --left;
+            found = candidate;
+        }
         return left > 0;
     });
     if (left == 0) {

@@ -136,8 +136,12 @@ void tst_VrnDevice::usage()
 void tst_VrnDevice::helpOfEveryCommand()
 {
     for (const char *name :
-         {"add-drive", "message", "module", "network check", "network set", "network show", "new",
-          "os-release show", "place", "settings set", "settings show", "show"}) {
+         {"add",           "add-drive",     "apply",        "check",   "diff",
+          "fmt",           "get",           "merge",        "message", "module",
+          "network check", "network set",   "network show", "new",     "os-release show",
+          "place",         "remove",        "report",       "rules",   "set",
+          "settings set",  "settings show", "show",         "stage",   "tree",
+          "verify"}) {
         const QString command = QString::fromLatin1(name);
         const SResult result = run(command.split(QLatin1Char(' ')) << QStringLiteral("--help"));
         QCOMPARE(result.exitCode, 0);
