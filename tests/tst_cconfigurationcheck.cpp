@@ -647,6 +647,7 @@ void tst_CConfigurationCheck::rulesAreWellFormed()
     for (const CConfigurationCheck::SRule &rule : rules) {
         QVERIFY2(words.match(rule.id).hasMatch(), qPrintable(rule.id));
         QVERIFY2(rule.description.endsWith(QLatin1Char('.')), qPrintable(rule.description));
+        QVERIFY2(!rule.hint.isEmpty(), qPrintable(rule.id));
         ids.insert(rule.id);
         descriptions.insert(rule.description);
     }
@@ -760,7 +761,8 @@ void tst_CConfigurationCheck::texts_data()
         u"kd2_drive"_s, u"KD2_drive, KD3_drive"_s,
         u"Write 'KD2_drive': capital and small letters matter."_s);
     row("drive-type-undefined", u"The type of the drive is left open; it is read as 'KD3_drive'."_s,
-        u"UNKNOWN_drive"_s, u"KD2_drive, KD3_drive"_s, u""_s);
+        u"UNKNOWN_drive"_s, u"KD2_drive, KD3_drive"_s,
+        u"Write 'KD2_drive' or 'KD3_drive'; the drive is read as 'KD3_drive'."_s);
     row("drive-number-too-high", u"'256' is no number of a drive."_s, u"256"_s,
         u"a number from 0 to 254"_s,
         u"The drive is read with the next number that no other drive has."_s);
@@ -772,7 +774,8 @@ void tst_CConfigurationCheck::texts_data()
     row("class-in-capitals", u"There is no device class 'KD3'; it is read as 'Undefined'."_s,
         u"KD3"_s, u"kc2, kd3"_s, u"Write 'kd3': capital and small letters matter."_s);
     row("class-unknown", u"There is no device class 'kd4'; it is read as 'Undefined'."_s, u"kd4"_s,
-        u"kc2, kd3"_s, u""_s);
+        u"kc2, kd3"_s,
+        u"Write 'kc2' or 'kd3', in small letters; anything else is read as 'Undefined'."_s);
     row("version-later", u"The document was created with a later version."_s, u"1.10"_s, u"1.0"_s,
         u"The document is read as one of version 1.0; save it anew with this version."_s);
     row("version-previous", u"The document was created with a previous version."_s, u"0.9"_s,
@@ -802,7 +805,8 @@ void tst_CConfigurationCheck::texts_data()
     row("device-path-of-other-configuration",
         u"The directory '/velkor/configurations/production/conf/' belongs to the configuration "
         "'production'."_s,
-        u"/velkor/configurations/production/conf/"_s, u"a directory of 'production(2)'"_s, u""_s);
+        u"/velkor/configurations/production/conf/"_s, u"a directory of 'production(2)'"_s,
+        u"Was the configuration renamed? Then the directory has to follow."_s);
     row("two-files-in-one-place",
         u"The file 'recipes.csv' has the same place on the device as that of files[recipes.csv]."_s,
         u"/velkor/recipes/recipes.csv"_s, u"a place of its own"_s,
@@ -810,7 +814,8 @@ void tst_CConfigurationCheck::texts_data()
     row("hardware-id-other-platform",
         u"The hardware identity 'KD3:Controller 8A:4:7:9' does not fit that of the device."_s,
         u"KD3:Controller 8A:4:7:9"_s, u"prefix, name and platform of 'KD3:Controller 8A:3:2:1'"_s,
-        u""_s);
+        u"Prefix, name and platform of a drive are those of its device; version and revision may "
+        u"differ. Was the drive copied from another device?"_s);
     row("options-on-lines", u"Options are separated by something other than a blank."_s, u"\n"_s,
         u"options like -trace with one blank between each two"_s,
         u"The device takes this for one word."_s);

@@ -276,7 +276,7 @@ void tst_VrnDeviceCheck::json()
         {u"message"_s, u"The configuration was revised before it was created."_s},
         {u"found"_s, u"2026-03-01"_s},
         {u"expected"_s, u"2026-03-02 or later"_s},
-        {u"hint"_s, u""_s}};
+        {u"hint"_s, u"One of the two dates is wrong, or they are interchanged."_s}};
     const QJsonObject expected = {
         {u"files"_s,
          QJsonArray{
@@ -381,8 +381,10 @@ void tst_VrnDeviceCheck::rules()
         const QString severity =
             rule.severity == SConfigurationFinding::ERROR ? u"error"_s : u"warning"_s;
         QCOMPARE(lines.at(i).split(gap), QStringList({rule.id, severity, rule.description}));
-        const QJsonObject expected = {
-            {u"id"_s, rule.id}, {u"severity"_s, severity}, {u"description"_s, rule.description}};
+        const QJsonObject expected = {{u"id"_s, rule.id},
+                                      {u"severity"_s, severity},
+                                      {u"description"_s, rule.description},
+                                      {u"hint"_s, rule.hint}};
         QCOMPARE(array.at(i).toObject(), expected);
     }
     QCOMPARE(Tool::run(QDir::tempPath(), {u"rules"_s, u"x"_s}).exitCode, 2);
