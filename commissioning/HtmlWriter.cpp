@@ -127,7 +127,7 @@ void HtmlWriter::element(const char *tag, const QString &content, Attributes att
     text(content);
 }
 
-void HtmlWriter::empty(const char *name, Attributes attributes)
+void HtmlWriter::empty(const char *tagName, Attributes attributes)
 {
-    tag(name, attributes, "/>");
+    tag(tagName, attributes, "/>");
 }

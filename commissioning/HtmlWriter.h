@@ -39,7 +39,7 @@ public:
     /** An element with a text of one line. */
     void element(const char *tag, const QString &content, Attributes attributes = {});
     /** An element that has no content. */
-    void empty(const char *tag, Attributes attributes = {});
+    void empty(const char *tagName, Attributes attributes = {});
     /** What stands in the page as it is. */
     void raw(const QString &html) { m_html += html; }
     void lineBreak() { m_html += QLatin1Char('\n'); }
