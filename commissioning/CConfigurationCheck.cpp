@@ -93,7 +93,7 @@ QList<CConfigurationCheck::SRule> CConfigurationCheck::rules()
     for (int i = 0; i < ConfigurationRules::RULE_COUNT; ++i) {
         const auto rule = static_cast<ConfigurationRules::ERule>(i);
         result.append({ConfigurationRules::id(rule), ConfigurationRules::severity(rule),
-                       ConfigurationRules::description(rule)});
+                       ConfigurationRules::description(rule), ConfigurationRules::hint(rule)});
     }
     return result;
 }

@@ -35,6 +35,8 @@ public:
         SConfigurationFinding::ESeverity severity = SConfigurationFinding::ERROR;
         /** What is wrong when the rule finds something; one sentence for the user. */
         QString description;
+        /** How to mend it; that of its findings, unless these know better. */
+        QString hint;
     };
 
     CConfigurationCheck();
@@ -63,7 +65,8 @@ public:
 
     /**
      * What was found in the last document, by position, then by rule; what has no position comes
-     * first. Texts of the document that are very long are shortened in messages.
+     * first. Texts of the document that are very long are shortened in messages, and of more than
+     * 100,000 findings the rest is left out, which the rule "findings-left-out" tells.
      */
     QList<SConfigurationFinding> findings() const;
     /** "file:line:column: reason", as far as known; empty when the last call did not fail. */

@@ -1,5 +1,7 @@
 #include "commissioning/CConfigurationItems.h"
 
+#include "commissioning/ItemPath.h"
+#include "commissioning/NearestName.h"
 #include "elements/CDeviceElement.h"
 #include "vocabulary/NVornXmlTags.h"
 
@@ -12,6 +14,7 @@
 #include <algorithm>
 
 using namespace NVornXmlTags;
+using ItemPath::joined;
 
 namespace {
 
@@ -20,10 +23,6 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(CConfigurationItems)
 };
 
-const QLatin1Char KeyBegin('[');
-const QLatin1Char KeyEnd(']');
-const QLatin1Char Escape('\\');
-const QLatin1Char Dot('.');
 const QLatin1Char Hyphen('-');
 
 const QString Kd2Drive = QStringLiteral("KD2_drive");
@@ -266,179 +265,6 @@ QString presentEntry(EEntry entry, const QString &path)
     return Texts::tr("%1: there is such a file already").arg(path);
 }
 
-/** How many letters must be inserted, removed or replaced to make one word of the other. */
-int distance(const QString &left, const QString &right)
-{
-    QVector<int> row(right.size() + 1);
-    for (int j = 0; j < row.size(); ++j) {
-        row[j] = j;
-    }
-    for (int i = 0; i < left.size(); ++i) {
-        int diagonal = row.at(0);
-        row[0] = i + 1;
-        for (int j = 0; j < right.size(); ++j) {
-            const int replaced = diagonal + (left.at(i) == right.at(j) ? 0 : 1);
-            diagonal = row.at(j + 1);
-            row[j + 1] = std::min({replaced, diagonal + 1, row.at(j) + 1});
-        }
-    }
-    return row.last();
-}
-
-/** The one of @p words that was probably meant; empty when none is near. */
-QString nearest(const QString &word, const QStringList &words)
-{
-    const int farthest = 2;
-    QString best;
-    int bestDistance = farthest + 1;
-    for (const QString &candidate : words) {
-        // A long text is none of the words, and would take long to compare.
-        if (std::abs(candidate.size() - word.size()) <= farthest) {
-            const int far = distance(word.toLower(), candidate.toLower());
-            if (far < bestDistance && far < candidate.size() / 2) {
-                best = candidate;
-                bestDistance = far;
-            }
-        }
-    }
-    return best;
-}
-
-/** One word of a path, with the key of an entry. */
-struct SSegment {
-    QString word;
-    QString key;
-    /** Which of several entries with that key, from 1 on. */
-    int occurrence = 1;
-    bool hasKey = false;
-};
-
-QString escaped(const QString &key)
-{
-    QString text;
-    text.reserve(key.size());
-    for (const QChar c : key) {
-        if (c == KeyEnd || c == Escape) {
-            text += Escape;
-        }
-        text += c;
-    }
-    return text;
-}
-
-QString shown(const SSegment &segment)
-{
-    QString text = segment.word;
-    if (segment.hasKey) {
-        text += KeyBegin + escaped(segment.key) + KeyEnd;
-    }
-    if (segment.occurrence > 1) {
-        text += KeyBegin + QString::number(segment.occurrence) + KeyEnd;
-    }
-    return text;
-}
-
-QString joined(const QString &prefix, const QString &word)
-{
-    return prefix.isEmpty() ? word : prefix + Dot + word;
-}
-
-/** Takes a path apart. */
-class PathReader
-{
-public:
-    explicit PathReader(const QString &path) : m_path(path) { }
-
-    /** @return false for a text that is no path; errorText() says why */
-    bool read(QList<SSegment> &segments)
-    {
-        segments.clear();
-        do {
-            SSegment segment;
-            if (!readSegment(segment)) {
-                return false;
-            }
-            segments.append(segment);
-        } while (take(Dot));
-        return m_index == m_path.size() || fail(Texts::tr("a '.' is missing"));
-    }
-
-    QString errorText() const { return m_errorText; }
-
-private:
-    bool readSegment(SSegment &segment)
-    {
-        const int begin = m_index;
-        while (m_index < m_path.size() && isWordUnit(m_path.at(m_index))) {
-            ++m_index;
-        }
-        segment.word = m_path.mid(begin, m_index - begin);
-        if (segment.word.isEmpty()) {
-            return fail(Texts::tr("a word is missing"));
-        }
-        if (!take(KeyBegin)) {
-            return true;
-        }
-        segment.hasKey = true;
-        return readKey(segment.key) && (!take(KeyBegin) || readOccurrence(segment.occurrence));
-    }
-
-    bool readKey(QString &key)
-    {
-        while (!take(KeyEnd)) {
-            if (m_index == m_path.size()) {
-                return fail(Texts::tr("a ']' is missing"));
-            }
-            if (take(Escape)
-                && (m_index == m_path.size()
-                    || (m_path.at(m_index) != KeyEnd && m_path.at(m_index) != Escape))) {
-                return fail(Texts::tr("only ']' and '\\' can stand behind a '\\'"));
-            }
-            key += m_path.at(m_index);
-            ++m_index;
-        }
-        return true;
-    }
-
-    bool readOccurrence(int &occurrence)
-    {
-        const int end = m_path.indexOf(KeyEnd, m_index);
-        if (end < 0) {
-            return fail(Texts::tr("a ']' is missing"));
-        }
-        const QString text = m_path.mid(m_index, end - m_index);
-        bool isNumber = false;
-        occurrence = text.toInt(&isNumber);
-        if (!isNumber || occurrence < 2 || QString::number(occurrence) != text) {
-            return fail(Texts::tr("behind a key only a number from 2 on can stand in brackets"));
-        }
-        m_index = end + 1;
-        return true;
-    }
-
-    static bool isWordUnit(QChar c) { return c != Dot && c != KeyBegin && c != KeyEnd; }
-
-    bool take(QChar c)
-    {
-        if (m_index < m_path.size() && m_path.at(m_index) == c) {
-            ++m_index;
-            return true;
-        }
-        return false;
-    }
-
-    bool fail(const QString &reason)
-    {
-        m_errorText = Texts::tr("'%1' is no path: %2 at character %3")
-                          .arg(m_path, reason, QString::number(m_index + 1));
-        return false;
-    }
-
-    const QString m_path;
-    int m_index = 0;
-    QString m_errorText;
-};
-
 /** The first character that XML cannot carry; -1 when there is none. */
 int indexOfUnwritable(const QString &text)
 {
@@ -591,7 +417,7 @@ struct SPlace {
     /** Whether the path ends in a key. */
     bool isEntry = false;
     /** That key, also when its entry is not there. */
-    SSegment entry;
+    SItemPathStep entry;
     bool isAbsent = false;
     /** Of a start option or its name: its position among all of them. */
     int option = -1;
@@ -659,8 +485,8 @@ public:
     QString errorText;
 
 private:
-    bool step(const SSegment &given, SPlace &place, bool entryMayBeAbsent);
-    bool findEntry(const SSegment &segment, SPlace &place);
+    bool step(const SItemPathStep &given, SPlace &place, bool entryMayBeAbsent);
+    bool findEntry(const SItemPathStep &segment, SPlace &place);
     bool failUnknownWord(const SPlace &place, const QString &path, const QString &word);
     QString key(const SNode &list, const QDomElement &entry) const;
     bool isEntry(const SNode &list, const QDomElement &element) const;
@@ -728,7 +554,7 @@ bool CConfigurationItemsPrivate::failUnknownWord(const SPlace &place, const QStr
     if (words.isEmpty() || place.node->isItem()) {
         return fail(Texts::tr("%1: there is no such item").arg(path));
     }
-    const QString meant = nearest(word, words);
+    const QString meant = nearestName(word, words);
     if (!meant.isEmpty()) {
         return fail(Texts::tr("%1: there is no such item; did you mean %2?")
                         .arg(path, joined(place.path, meant)));
@@ -737,7 +563,7 @@ bool CConfigurationItemsPrivate::failUnknownWord(const SPlace &place, const QStr
                     .arg(path, words.join(QStringLiteral(", "))));
 }
 
-bool CConfigurationItemsPrivate::findEntry(const SSegment &segment, SPlace &place)
+bool CConfigurationItemsPrivate::findEntry(const SItemPathStep &segment, SPlace &place)
 {
     const SNode &list = *place.node;
     const QDomElement element = place.element();
@@ -763,11 +589,12 @@ bool CConfigurationItemsPrivate::findEntry(const SSegment &segment, SPlace &plac
     return left == 0;
 }
 
-bool CConfigurationItemsPrivate::step(const SSegment &given, SPlace &place, bool entryMayBeAbsent)
+bool CConfigurationItemsPrivate::step(const SItemPathStep &given, SPlace &place,
+                                      bool entryMayBeAbsent)
 {
-    SSegment segment = given;
+    SItemPathStep segment = given;
     const QString prefix = place.path;
-    const QString path = joined(prefix, shown(segment));
+    const QString path = joined(prefix, segment.text());
     if (place.node->isList() && !place.isEntry) {
         return fail(
             Texts::tr("%1: an entry of the list must be named, as in %2")
@@ -801,7 +628,7 @@ bool CConfigurationItemsPrivate::step(const SSegment &given, SPlace &place, bool
     }
     if (child->entry == EEntry::DRIVE) {
         segment.key = driveKey(segment.key);
-        place.path = shown(segment);
+        place.path = segment.text();
     }
     place.entry = segment;
     place.isAbsent = !findEntry(segment, place);
@@ -817,10 +644,10 @@ bool CConfigurationItemsPrivate::resolve(const QString &path, SPlace &place, boo
     if (place.anchor.isNull()) {
         return fail(Texts::tr("There is no configuration."));
     }
-    PathReader reader(path);
-    QList<SSegment> segments;
-    if (!reader.read(segments)) {
-        return fail(reader.errorText());
+    QList<SItemPathStep> segments;
+    QString reason;
+    if (!ItemPath::parse(path, segments, reason)) {
+        return fail(reason);
     }
     for (int i = 0; i < segments.size(); ++i) {
         if (!step(segments.at(i), place, entryMayBeAbsent && i + 1 == segments.size())) {
@@ -888,12 +715,7 @@ void CConfigurationItemsPrivate::listNode(const SNode &node, const QDomElement &
 {
     QHash<QString, int> occurrences;
     const auto entryPath = [&](const QString &entryKey) {
-        SSegment segment;
-        segment.word = path;
-        segment.key = entryKey;
-        segment.hasKey = true;
-        segment.occurrence = ++occurrences[entryKey];
-        return shown(segment);
+        return CConfigurationItems::entryPath(path, entryKey, ++occurrences[entryKey]);
     };
     switch (node.kind) {
     case EKind::GROUP:
@@ -1353,7 +1175,7 @@ QString CConfigurationItems::errorText() const
     return d->errorText;
 }
 
-QString CConfigurationItems::entryPath(const QString &list, const QString &key)
+QString CConfigurationItems::entryPath(const QString &list, const QString &key, int occurrence)
 {
-    return list + KeyBegin + escaped(key) + KeyEnd;
+    return SItemPathStep{list, key, occurrence, true}.text();
 }

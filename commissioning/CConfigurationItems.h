@@ -120,8 +120,11 @@ public:
     /** Why the last operation failed, for the user; empty after one that did not. */
     QString errorText() const;
 
-    /** @p list with @p key in brackets, escaped: "files" and "a.xml" give "files[a.xml]". */
-    static QString entryPath(const QString &list, const QString &key);
+    /**
+     * @p list with @p key in brackets, escaped: "files" and "a.xml" give "files[a.xml]".
+     * @param occurrence which of several entries of that key, from 1 on
+     */
+    static QString entryPath(const QString &list, const QString &key, int occurrence = 1);
 
 private:
     Q_DISABLE_COPY(CConfigurationItems)

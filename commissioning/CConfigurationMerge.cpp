@@ -75,7 +75,7 @@ private:
 
     void addValueConflict(const SItemPath &path, const QString &item, const SSnapshotEntry &base,
                           const SSnapshotEntry &ours, const SSnapshotEntry &theirs);
-    void addRemovalConflict(CConfigurationMerge::EConflict conflict, const QString &part,
+    void addRemovalConflict(CConfigurationMerge::EConflict kind, const QString &part,
                             const SSnapshotEntry &base, const SSnapshotEntry &changed,
                             const SItemPath &path);
     QList<SChange> changesOf(const QString &list, const SSnapshotEntry &base,
@@ -325,7 +325,7 @@ QString Merger::mergeActiveFpgaFile()
 {
     const QString base = m_base.device.value(ActiveFpgaItem);
     const QString ours = m_ours.device.value(ActiveFpgaItem);
-    const QString theirs = m_theirs.device.value(ActiveFpgaItem);
+    QString theirs = m_theirs.device.value(ActiveFpgaItem);
     // A side without images does not care which one is active.
     if (theirs == base || theirs == ours || theirs.isEmpty()) {
         return QString();

@@ -36,17 +36,17 @@ const QString ValueKey = QStringLiteral("value");
 
 /** What each kind of change is called, and what is told of it. */
 struct SKind {
-    CConfigurationPatch::EChange change;
     const char *name;
+    CConfigurationPatch::EChange change;
     bool hasItems;
     bool hasAfter;
 };
 
 const SKind Kinds[] = {
-    {CConfigurationPatch::ADD_ENTRY, "addEntry", true, false},
-    {CConfigurationPatch::REMOVE_ENTRY, "removeEntry", true, false},
-    {CConfigurationPatch::SET_ITEM, "setItem", false, true},
-    {CConfigurationPatch::REMOVE_ITEM, "removeItem", false, false},
+    {"addEntry", CConfigurationPatch::ADD_ENTRY, true, false},
+    {"removeEntry", CConfigurationPatch::REMOVE_ENTRY, true, false},
+    {"setItem", CConfigurationPatch::SET_ITEM, false, true},
+    {"removeItem", CConfigurationPatch::REMOVE_ITEM, false, false},
 };
 
 const SKind &kindOf(CConfigurationPatch::EChange change)

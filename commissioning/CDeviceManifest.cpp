@@ -32,6 +32,8 @@ const int LongestName = 255;
 const int LongestPath = 4095;
 const int SumDigits = 64;
 const int BlockSize = 64 * 1024;
+/** Its JSON takes up to thirty times as much while it is read. */
+const qint64 MaximumSize = 8 * 1024 * 1024;
 
 QString format()
 {
@@ -339,7 +341,7 @@ bool CDeviceManifest::readJson(const QByteArray &json, QString &errorText)
 
 qint64 CDeviceManifest::maximumSize()
 {
-    return FileStorage::SmallFile;
+    return MaximumSize;
 }
 
 bool CDeviceManifest::isDevicePath(const QString &path)

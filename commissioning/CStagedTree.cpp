@@ -50,7 +50,7 @@ QByteArray canonical(const QByteArray &name)
 {
     char *const resolved = realpath(name.constData(), nullptr);
     const int error = errno;
-    const QByteArray result(resolved);
+    QByteArray result(resolved);
     std::free(resolved);
     errno = error;
     return result;

@@ -1,6 +1,7 @@
 #include "commissioning/ConfigurationChanges.h"
 
 #include "commissioning/ConfigurationWords.h"
+#include "commissioning/ItemPath.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -10,6 +11,8 @@
 using namespace ConfigurationChanges;
 using ConfigurationWords::shown;
 
+using ItemPath::joined;
+
 namespace {
 
 class Texts
@@ -18,11 +21,6 @@ class Texts
 };
 
 const QString TypeItem = QStringLiteral("type");
-
-QString joined(const QString &path, const QString &item)
-{
-    return item.isEmpty() ? path : path + QLatin1Char('.') + item;
-}
 
 QString nameOf(const SItemPath &path)
 {

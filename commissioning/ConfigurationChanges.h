@@ -15,10 +15,10 @@ const QLatin1String FpgaFileList("device.fpgaFiles");
 const QLatin1String ActiveFpgaItem("activeFpgaFile");
 
 /** The change that adds or removes an entry as a whole. */
-SChange ofEntry(CConfigurationPatch::EChange change, const SItemPath &path,
+SChange ofEntry(CConfigurationPatch::EChange kind, const SItemPath &path,
                 const SSnapshotEntry &entry);
 /** The same for the part of an entry that is found at @p path. */
-SChange ofPart(CConfigurationPatch::EChange change, const SItemPath &path, const QString &part,
+SChange ofPart(CConfigurationPatch::EChange kind, const SItemPath &path, const QString &part,
                const SSnapshotEntry &entry);
 /** The change of an item from @p before to what @p after has. */
 SChange ofItem(const SItemPath &path, const QString &item, const QString &before,

@@ -16,6 +16,7 @@ enum ERule {
     TEXT_UNEXPECTED,
     DATE_INVALID,
     DATE_ORDER,
+    FINDINGS_LEFT_OUT,
 
     DEVICE_MISSING,
     DEVICE_CLASS_MISSING,
@@ -90,5 +91,7 @@ enum ERule {
 QString id(ERule rule);
 SConfigurationFinding::ESeverity severity(ERule rule);
 QString description(ERule rule);
+/** How to mend what the rule finds, whatever it is. */
+QString hint(ERule rule);
 
 } // namespace ConfigurationRules

@@ -1,5 +1,6 @@
 #include "commissioning/ConfigurationSnapshot.h"
 
+#include "commissioning/ItemPath.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QDate>
@@ -22,42 +23,6 @@ const QString Undefined = QStringLiteral("Undefined");
 
 /** More pairs of entries of one key are not compared with each other: that would take too long. */
 const qint64 LargestMatrix = 4096;
-
-/** Reads "[key]" at @p at and steps behind it. */
-bool takeBracket(const QString &path, int &at, QString &key)
-{
-    ++at;
-    for (; at < path.size(); ++at) {
-        const QChar c = path.at(at);
-        if (c == QLatin1Char(']')) {
-            ++at;
-            return true;
-        }
-        if (c == QLatin1Char('\\')) {
-            ++at;
-            if (at == path.size()) {
-                return false;
-            }
-        }
-        key += path.at(at);
-    }
-    return false;
-}
-
-/** Reads the number of an entry among those of its key, if there is one. */
-bool takeNumber(const QString &path, int &at, int &number)
-{
-    number = 1;
-    if (at == path.size() || path.at(at) != QLatin1Char('[')) {
-        return true;
-    }
-    QString text;
-    bool isNumber = false;
-    const bool isClosed = takeBracket(path, at, text);
-    number = text.toInt(&isNumber);
-    // The first one is called by its key alone, and each by one name.
-    return isClosed && isNumber && number > 1 && text == QString::number(number);
-}
 
 QList<SItem>::const_iterator find(const QList<SItem> &items, const QString &path)
 {
@@ -156,30 +121,32 @@ void matchSimilar(const Entries &left, const Entries &right, const SGroup &group
 bool SItemPath::parse(const QString &path, SItemPath &parts)
 {
     parts = SItemPath();
-    int at = path.indexOf(QLatin1Char('['));
-    if (at < 0) {
-        parts.list = path.section(Dot, 0, 0);
-        parts.item = path.section(Dot, 1);
-        return !path.isEmpty() && !path.startsWith(Dot) && !path.endsWith(Dot);
-    }
-    parts.list = path.left(at);
-    if (!takeBracket(path, at, parts.key) || !takeNumber(path, at, parts.number)) {
+    QList<SItemPathStep> steps;
+    QString reason;
+    if (!ItemPath::parse(path, steps, reason)) {
         return false;
     }
-    if (at == path.size()) {
-        return true;
+    const auto entry = std::find_if(steps.cbegin(), steps.cend(),
+                                    [](const SItemPathStep &step) { return step.hasKey; });
+    // Where there is no entry, the first word stands alone.
+    const auto last = entry == steps.cend() ? steps.cbegin() : entry;
+    for (auto step = steps.cbegin(); step != steps.cend(); ++step) {
+        if (step <= last) {
+            parts.list = ItemPath::joined(parts.list, step->word);
+        } else {
+            parts.item = ItemPath::joined(parts.item, step->text());
+        }
     }
-    parts.item = path.mid(at + 1);
-    return path.at(at) == Dot && !parts.item.isEmpty();
+    if (entry != steps.cend()) {
+        parts.key = entry->key;
+        parts.number = entry->occurrence;
+    }
+    return true;
 }
 
 QString SItemPath::entryPath() const
 {
-    if (!isInList()) {
-        return list;
-    }
-    const QString path = CConfigurationItems::entryPath(list, key);
-    return number == 1 ? path : QStringLiteral("%1[%2]").arg(path, QString::number(number));
+    return isInList() ? CConfigurationItems::entryPath(list, key, number) : list;
 }
 
 QString defaultValue(const QString &list, const QString &item)

@@ -15,10 +15,10 @@ using Element = HtmlWriter::Element;
 const int ModulesInFullSize = 16;
 
 struct SBox {
-    int x;
-    int y;
-    int width;
-    int height;
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
 
     int right() const { return x + width; }
     int bottom() const { return y + height; }
@@ -28,20 +28,20 @@ struct SBox {
 struct SLayout {
     /** Of the shapes behind which texts end; each drawing of a page has its own. */
     QString id;
-    int width;
+    int width = 0;
     SBox device;
     /** x of the line from which the bus of each row branches off. */
-    int trunk;
+    int trunk = 0;
     /** x of the first column, y of the first row's bus. */
-    int left;
-    int top;
-    int columns;
-    int moduleWidth;
-    int moduleHeight;
-    int columnGap;
+    int left = 0;
+    int top = 0;
+    int columns = 0;
+    int moduleWidth = 0;
+    int moduleHeight = 0;
+    int columnGap = 0;
     /** From the bottom of a module to the bus of the next row. */
-    int rowGap;
-    bool isCompact;
+    int rowGap = 0;
+    bool isCompact = false;
 
     /** From the bus to the top of the modules. */
     static const int Drop = 20;
@@ -56,57 +56,42 @@ struct SLayout {
 
 SLayout layoutFor(ELayout layout, int moduleCount)
 {
-    const bool isCompact = moduleCount > ModulesInFullSize;
-    if (layout == LAYOUT_WIDE) {
-        return isCompact ? SLayout{QStringLiteral("wide"),
-                                   960,
-                                   {12, 14, 400, 128},
-                                   34,
-                                   60,
-                                   172,
-                                   9,
-                                   90,
-                                   70,
-                                   9,
-                                   22,
-                                   true}
-                         : SLayout{QStringLiteral("wide"),
-                                   960,
-                                   {12, 14, 286, 186},
-                                   318,
-                                   340,
-                                   40,
-                                   4,
-                                   138,
-                                   140,
-                                   18,
-                                   30,
-                                   false};
+    SLayout places;
+    places.isCompact = moduleCount > ModulesInFullSize;
+    places.moduleHeight = places.isCompact ? 70 : 140;
+    places.rowGap = places.isCompact ? 22 : 28;
+    if (layout == LAYOUT_NARROW) {
+        places.id = QStringLiteral("narrow");
+        places.width = 344;
+        places.device = {4, 14, 336, 128};
+        places.trunk = 24;
+        places.left = 42;
+        places.top = 168;
+        places.columns = places.isCompact ? 3 : 2;
+        places.moduleWidth = places.isCompact ? 92 : 142;
+        places.columnGap = places.isCompact ? 10 : 14;
+        return places;
     }
-    return isCompact ? SLayout{QStringLiteral("narrow"),
-                               344,
-                               {4, 14, 336, 128},
-                               24,
-                               42,
-                               168,
-                               3,
-                               92,
-                               70,
-                               10,
-                               22,
-                               true}
-                     : SLayout{QStringLiteral("narrow"),
-                               344,
-                               {4, 14, 336, 128},
-                               24,
-                               42,
-                               168,
-                               2,
-                               142,
-                               140,
-                               14,
-                               26,
-                               false};
+    places.id = QStringLiteral("wide");
+    places.width = 960;
+    if (places.isCompact) {
+        places.device = {12, 14, 400, 128};
+        places.trunk = 34;
+        places.left = 60;
+        places.top = 172;
+        places.columns = 9;
+        places.moduleWidth = 90;
+        places.columnGap = 9;
+        return places;
+    }
+    places.device = {12, 14, 286, 186};
+    places.trunk = 318;
+    places.left = 340;
+    places.top = 40;
+    places.columns = 4;
+    places.moduleWidth = 138;
+    places.columnGap = 18;
+    return places;
 }
 
 QString number(int value)

@@ -40,6 +40,8 @@ const int LongestName = 255;
 /** UTF-16 units. A longer key is no help for anybody, and may stand in many findings. */
 const int LongestKey = 1000;
 const int LongestShownText = 200;
+/** More than anybody reads, and no more than memory holds. */
+const int MostFindings = 100000;
 
 /** @p text as it is told in messages. */
 QString shown(const QString &text)
@@ -192,6 +194,17 @@ QList<SConfigurationFinding> DocumentCheck::run()
 
 void DocumentCheck::report(ERule rule, const SPlace &place, const SText &text)
 {
+    if (m_findings.size() < MostFindings) {
+        append(rule, place, text);
+    } else if (m_findings.size() == MostFindings) {
+        append(FINDINGS_LEFT_OUT, place,
+               {Texts::tr("There is more to be found; from here on it is left out."), QString(),
+                QString(), Texts::tr("Mend what is told, then check again.")});
+    }
+}
+
+void DocumentCheck::append(ERule rule, const SPlace &place, const SText &text)
+{
     SConfigurationFinding finding;
     finding.rule = id(rule);
     finding.severity = severity(rule);
@@ -200,7 +213,7 @@ void DocumentCheck::report(ERule rule, const SPlace &place, const SText &text)
     finding.message = text.message;
     finding.found = shown(text.found);
     finding.expected = text.expected;
-    finding.hint = text.hint;
+    finding.hint = text.hint.isEmpty() ? hint(rule) : text.hint;
     m_findings.append(finding);
 }
 
@@ -257,9 +270,8 @@ QString DocumentCheck::entryPath(const QString &list, const QString &key)
     if (key.size() > LongestKey) {
         return list;
     }
-    const QString path = CConfigurationItems::entryPath(list, key);
-    const int count = ++m_entryCounts[path];
-    return count == 1 ? path : QStringLiteral("%1[%2]").arg(path, QString::number(count));
+    const int occurrence = ++m_entryCounts[CConfigurationItems::entryPath(list, key)];
+    return CConfigurationItems::entryPath(list, key, occurrence);
 }
 
 void DocumentCheck::checkStructure(const Fields &fields, const QString &item)
@@ -522,7 +534,7 @@ void DocumentCheck::checkConfigurationName(const Fields &fields, const QString &
 CDeviceHardwareId DocumentCheck::checkHardwareId(const Fields &fields, const QString &item)
 {
     const QString text = fields.text(TAG_HARDWAREID);
-    const CDeviceHardwareId hardwareId(text);
+    CDeviceHardwareId hardwareId(text);
     if (hardwareId.isNull() && !text.isEmpty()) {
         report(HARDWARE_ID_INVALID,
                {fields.element(TAG_HARDWAREID), item + QStringLiteral(".hardwareId")},
@@ -1025,8 +1037,8 @@ void DocumentCheck::checkPlacedFiles(const QList<CFileElement> &files, const SPl
         if (!file.fileName().isEmpty()) {
             // Two entries of one name have all their files in common; once is enough.
             isClaimed = isClaimed && claim(file, place);
-            // Without the device's name the directory is not known.
-            if (!m_device.name().isEmpty()) {
+            // Without the names of device and configuration the directories are not known.
+            if (!m_device.name().isEmpty() && !file.devicePath().isEmpty()) {
                 checkInProject(file, place);
             }
         }

@@ -46,6 +46,7 @@ private:
     };
 
     void report(ERule rule, const SPlace &place, const SText &text);
+    void append(ERule rule, const SPlace &place, const SText &text);
 
     void visit(const QDomElement &element, const SElement &type, const QString &path);
     void visitDeep(const QDomElement &element, const SElement &list, const QString &path);

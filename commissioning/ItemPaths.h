@@ -14,10 +14,7 @@ public:
     /** The path of the next entry, whose key may have been there before. */
     QString next(const QString &key)
     {
-        const QString path = CConfigurationItems::entryPath(m_list, key);
-        const int occurrence = ++m_occurrences[key];
-        return occurrence == 1 ? path
-                               : QStringLiteral("%1[%2]").arg(path, QString::number(occurrence));
+        return CConfigurationItems::entryPath(m_list, key, ++m_occurrences[key]);
     }
 
 private:

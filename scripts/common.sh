@@ -15,9 +15,12 @@ jobs=$(nproc)
 # shellcheck disable=SC2034
 {
     build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools libexpat1-dev
-        libarchive-dev pkg-config python3-minimal)
+        libarchive-dev zlib1g-dev pkg-config python3-minimal)
     package_packages=("${build_packages[@]}" dpkg-dev file)
-    test_packages=("${build_packages[@]}" git tzdata strace)
+    # The pages, documents and completions are tried with the programs that read them.
+    test_packages=("${build_packages[@]}" git tzdata strace libxml2-utils python3-jsonschema doxygen
+        mandoc fish zsh)
+    browser_packages=("${test_packages[@]}" chromium poppler-utils)
     translation_packages=(git qttools5-dev-tools)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)

@@ -51,6 +51,15 @@ QStringList told(const CConfigurationCheck &check)
     return result;
 }
 
+QStringList rules(const CConfigurationCheck &check)
+{
+    QStringList result;
+    for (const SConfigurationFinding &finding : check.findings()) {
+        result << finding.rule;
+    }
+    return result;
+}
+
 struct SInvalid {
     const char *name;
     QList<const char *> findings;
@@ -456,7 +465,10 @@ private Q_SLOTS:
     void oneObjectForManyDocuments();
     void longTextsAreShortened();
     void manyFindings();
+    void endlessFindings();
     void deepDocument();
+    void longReservedName();
+    void namelessDeviceInAProject();
     void nothingIsKept();
     void severalThreads();
 };
@@ -603,7 +615,8 @@ void tst_CConfigurationCheck::projectDirectory()
 
 void tst_CConfigurationCheck::everyRuleHasAnExample()
 {
-    QSet<QString> shown = {u"project-file-unreadable"_s};
+    // The two that need more than a table.
+    QSet<QString> shown = {u"project-file-unreadable"_s, u"findings-left-out"_s};
     for (const SInvalid &invalid : InvalidFiles) {
         for (const QString &rule : rulesIn(invalid.findings)) {
             shown.insert(rule);
@@ -690,20 +703,22 @@ void tst_CConfigurationCheck::documentsOfTheRules()
         QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/docs/rules.md")));
     static const QRegularExpression heading(
         u"^### ([a-z0-9-]+)\\n\\n(Error|Warning)\\. ([^\\n]+(?:\\n[^\\n]+)*)\\n\\n"
-        u"```xml\\n[^`]+```\\n\\n\\*\\*Hint:\\*\\* "_s,
+        u"```xml\\n[^`]+```\\n\\n\\*\\*Hint:\\*\\* "
+        u"([^\\n]+(?:\\n[^\\n]+)*)\\n"_s,
         QRegularExpression::MultilineOption);
     QStringList documented;
     auto matches = heading.globalMatch(page);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        documented << u"%1 %2 %3"_s.arg(match.captured(1), match.captured(2),
-                                        match.captured(3).simplified());
+        documented << u"%1 %2 %3 %4"_s.arg(
+            match.captured(1), match.captured(2), match.captured(3).simplified(),
+            match.captured(4).simplified().replace(QLatin1Char('`'), QLatin1Char('\'')));
     }
     QStringList expected;
     for (const CConfigurationCheck::SRule &rule : CConfigurationCheck::rules()) {
         const bool isError = rule.severity == SConfigurationFinding::ERROR;
-        expected << u"%1 %2 %3"_s.arg(rule.id, isError ? u"Error"_s : u"Warning"_s,
-                                      rule.description);
+        expected << u"%1 %2 %3 %4"_s.arg(rule.id, isError ? u"Error"_s : u"Warning"_s,
+                                         rule.description, rule.hint);
     }
     QCOMPARE(documented, expected);
     QCOMPARE(page.count(u"\n### "_s), expected.size());
@@ -912,6 +927,51 @@ void tst_CConfigurationCheck::manyFindings()
     QCOMPARE(check.findings().at(count - 2).item, u"files[a][%1]"_s.arg(count));
 }
 
+void tst_CConfigurationCheck::endlessFindings()
+{
+    const int most = 100000;
+    CConfigurationCheck check;
+    QVERIFY(check.load(document(QByteArray("<a/>").repeated(most))));
+    QCOMPARE(check.findings().size(), most);
+    QCOMPARE(check.findings().constLast().rule, u"element-unknown"_s);
+    QVERIFY(check.load(document(QByteArray("<a/>").repeated(most + 2))));
+    QCOMPARE(check.findings().size(), most + 1);
+    QCOMPARE(check.findings().constLast().rule, u"findings-left-out"_s);
+    QCOMPARE(check.findings().at(most - 1).rule, u"element-unknown"_s);
+}
+
+void tst_CConfigurationCheck::longReservedName()
+{
+    // No directory has such a name: it is not even looked whether it is reserved.
+    for (const int size : {256, 1000000}) {
+        QByteArray bytes = document(QByteArray());
+        bytes.replace("STD", "setup" + QByteArray(size, 'x'));
+        CConfigurationCheck check;
+        QVERIFY(check.load(bytes));
+        QCOMPARE(check.findings().size(), 1);
+        QCOMPARE(check.findings().constFirst().rule, u"configuration-name-invalid"_s);
+    }
+}
+
+void tst_CConfigurationCheck::namelessDeviceInAProject()
+{
+    // Where files lie that have no directories of their own follows from both names.
+    const QByteArray config = "<ParameterFiles><File type=\"VornParameters\"><Name>P</Name></File>"
+                              "</ParameterFiles><FPGA_FileNames><File><Name>F</Name></File>"
+                              "</FPGA_FileNames>";
+    const QTemporaryDir project;
+    CConfigurationCheck check;
+    QVERIFY(check.setProjectDirectory(project.path()));
+    QVERIFY(check.load(document(config)));
+    QCOMPARE(check.findings().size(), 3);
+    QVERIFY(check.load(document(config).replace("<Name>N</Name>", "")));
+    QCOMPARE(check.findings().size(), 1);
+    QCOMPARE(check.findings().constFirst().rule, u"device-name-missing"_s);
+    QVERIFY(check.load(document(config).replace("STD", "")));
+    QCOMPARE(rules(check), QStringList({u"configuration-name-empty"_s, u"project-file-missing"_s}));
+    QCOMPARE(check.findings().constLast().item, u"device.fpgaFiles[F]"_s);
+}
+
 void tst_CConfigurationCheck::deepDocument()
 {
     const int depth = 200;
@@ -927,7 +987,7 @@ void tst_CConfigurationCheck::deepDocument()
 void tst_CConfigurationCheck::nothingIsKept()
 {
     if (!AllocationCounter::isAvailable()) {
-        QSKIP("A sanitizer brings its own heap.");
+        QSKIP("A sanitizer brings its own heap.", 0);
     }
     CConfigurationCheck check;
     const QString path = invalidFile(u"many-faults"_s);

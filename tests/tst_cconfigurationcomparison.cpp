@@ -72,6 +72,7 @@ private Q_SLOTS:
     void orderOfListsMeansNothing();
     void manyFiles_data();
     void manyFiles();
+    void manyFilesOfOneNameThatAllDiffer();
 };
 
 void tst_CConfigurationComparison::equal_data()
@@ -365,6 +366,22 @@ void tst_CConfigurationComparison::manyFiles_data()
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("names of their own") << QByteArray("%.csv");
     QTest::newRow("one name") << QByteArray("a.csv");
+}
+
+/** Nothing to tell which of them belong together, and too many to try all. */
+void tst_CConfigurationComparison::manyFilesOfOneNameThatAllDiffer()
+{
+    const int count = 10000;
+    QByteArray before;
+    QByteArray after;
+    for (int i = 0; i < count; ++i) {
+        before += file("a", QByteArray::number(i));
+        after += file("a", QByteArray::number(i + count));
+    }
+    const QStringList lines = difference(files(before), files(after));
+    QCOMPARE(lines.size(), count);
+    QCOMPARE(lines.constFirst(), u"file a: comment 0 -> 10000"_s);
+    QCOMPARE(lines.constLast(), u"file a [10000]: comment 9999 -> 19999"_s);
 }
 
 void tst_CConfigurationComparison::manyFiles()

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void restOfOursStays();
     void whatCannotBeStoredIsAConflict();
     void entriesOfOneKey();
+    void entriesOfOneKeyAddedByBoth();
     void conflictHasItsParts();
     void oursAloneIsOurs();
     void theirsAloneIsTheirs();
@@ -329,6 +330,40 @@ void tst_CConfigurationMerge::entriesOfOneKey()
     QCOMPARE(comments.size(), 3);
     QVERIFY(comments.contains(u"two"_s));
     QVERIFY(comments.contains(u"three"_s));
+}
+
+void tst_CConfigurationMerge::entriesOfOneKeyAddedByBoth()
+{
+    // The first and the last one of ours are equally near to the last one of theirs.
+    const auto document = [](const Bytes &commentsAndDirectories) {
+        QByteArray content;
+        for (const QByteArray &text : commentsAndDirectories) {
+            content += "<File><Name>a</Name><Comment>" + text.left(1) + "</Comment><DeviceDir>/"
+                + text.mid(1) + "/</DeviceDir></File>";
+        }
+        return load("<VornDeviceConfig version=\"1.0\"><Device><Config><Files>" + content
+                    + "</Files></Config></Device></VornDeviceConfig>");
+    };
+    const auto values = [](const QList<SConflict> &conflicts, bool isSwapped) {
+        QStringList result;
+        for (const SConflict &conflict : conflicts) {
+            result << (isSwapped ? conflict.theirs + u"|"_s + conflict.ours
+                                 : conflict.ours + u"|"_s + conflict.theirs);
+        }
+        result.sort();
+        return result;
+    };
+    const File base = document({});
+    const File ours = document({"1X", "2Y", "3Z", "4X"});
+    const File theirs = document({"5V", "6W", "7X"});
+    const CConfigurationMerge merge(*base, *ours, *theirs);
+    const CConfigurationMerge back(*base, *theirs, *ours);
+    const QStringList conflicts = values(merge.conflicts(), false);
+    QVERIFY(conflicts.contains(u"1|7"_s));
+    QStringList others = values(back.conflicts(), true);
+    // What theirs have less than ours cannot be added beside the others of its key.
+    others.removeAll(u"|"_s);
+    QCOMPARE(others, conflicts);
 }
 
 void tst_CConfigurationMerge::conflictHasItsParts()

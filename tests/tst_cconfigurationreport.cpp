@@ -1,9 +1,11 @@
+#include "commissioning/CConfigurationCheck.h"
 #include "commissioning/CConfigurationReport.h"
 #include "support/LargeConfiguration.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
 
+#include <QDir>
 #include <QDomDocument>
 #include <QRectF>
 #include <QRegularExpression>
@@ -215,6 +217,20 @@ CDeviceElement nastyDevice()
     return device;
 }
 
+/** Puts every text of a page between quotation marks. */
+class QuotingTranslator : public QTranslator
+{
+public:
+    QuotingTranslator() { QCoreApplication::installTranslator(this); }
+    ~QuotingTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *sourceText, const char *, int) const override
+    {
+        return u"\"%1\""_s.arg(QString::fromUtf8(sourceText));
+    }
+};
+
 bool setDevice(CDeviceConfigurationFile10 &file, const CDeviceElement &device)
 {
     return file.createNewDocument() && file.setConfiguration(device);
@@ -257,6 +273,8 @@ private Q_SLOTS:
     void emptyLists();
     void findingsStandBesideTheirItems_data();
     void findingsStandBesideTheirItems();
+    void findingsOfTheCheck_data();
+    void findingsOfTheCheck();
     void findingIsTold();
     void severities();
     void longSummaryIsFolded();
@@ -338,6 +356,8 @@ void tst_CConfigurationReport::page()
     for (const QString &target : targets) {
         QVERIFY2(ids.contains(target), qPrintable(target));
     }
+    QVERIFY(page.html().contains("<meta http-equiv=\"Content-Security-Policy\" "
+                                 "content=\"default-src 'none'; style-src 'unsafe-inline'\"/>"));
     QCOMPARE(page.all(u"h1"_s).size(), 1);
     QCOMPARE(page.all(u"main"_s).size(), 1);
     for (const QDomElement &svg : page.all(u"svg"_s, u"drawing"_s)) {
@@ -568,6 +588,51 @@ void tst_CConfigurationReport::findingsStandBesideTheirItems()
     }
 }
 
+void tst_CConfigurationReport::findingsOfTheCheck_data()
+{
+    QTest::addColumn<QString>("path");
+    int count = 0;
+    for (const QString &folder : {u"valid"_s, u"invalid"_s}) {
+        const QDir directory(QStringLiteral(VRN_TEST_DATA_DIR "/check/") + folder);
+        for (const QFileInfo &file : directory.entryInfoList(QDir::Files, QDir::Name)) {
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+            ++count;
+        }
+    }
+    QVERIFY(count > 50);
+}
+
+/** Whatever the check finds has its place, and none but that of the whole document at the top. */
+void tst_CConfigurationReport::findingsOfTheCheck()
+{
+    QFETCH(QString, path);
+    const MessageCatcher catcher;
+    CDeviceConfigurationFile10 file(nullptr);
+    CConfigurationCheck check;
+    QVERIFY(file.open(path));
+    QVERIFY(check.open(path));
+    const QList<SConfigurationFinding> findings = check.findings();
+    const Page page(file, findings);
+    QVERIFY(page.isWellFormed());
+    const bool hasDevice = !page.byId(u"device"_s).isNull();
+    for (int i = 0; i < findings.size(); ++i) {
+        const QDomElement element = page.byId(u"finding-%1"_s.arg(i + 1));
+        QVERIFY2(!element.isNull(), qPrintable(findings.at(i).item));
+        const QString &item = findings.at(i).item;
+        const bool isOfWhole = item.isEmpty() || item.startsWith(u"description"_s) || !hasDevice;
+        QVERIFY2((headingAbove(element) == u"The configuration as a whole"_s) == isOfWhole,
+                 qPrintable(item));
+        const QString drive = item.section(QLatin1Char('.'), 0, 0);
+        if (drive.startsWith(u"drive["_s)) {
+            QVERIFY2(isInside(element,
+                              [](const QDomElement &around) {
+                                  return around.attribute(u"class"_s) == u"card drive"_s;
+                              }),
+                     qPrintable(item));
+        }
+    }
+}
+
 void tst_CConfigurationReport::findingIsTold()
 {
     CDeviceConfigurationFile10 file(nullptr);
@@ -708,6 +773,8 @@ void tst_CConfigurationReport::marksInTheDrawing()
                     {finding(u"drive[1].param.name"_s, SConfigurationFinding::WARNING),
                      finding(u"drive[2].name"_s, SConfigurationFinding::WARNING),
                      finding(u"drive[2].param"_s, SConfigurationFinding::ERROR),
+                     finding(u"drive[3].name"_s, SConfigurationFinding::ERROR),
+                     finding(u"drive[3].param"_s, SConfigurationFinding::WARNING),
                      finding(u"drive"_s), finding(u"device.options"_s)});
     for (const QDomElement &svg : page.all(u"svg"_s, u"drawing"_s)) {
         QStringList marks;
@@ -722,9 +789,9 @@ void tst_CConfigurationReport::marksInTheDrawing()
             marks.append(mark);
             titles.append(link.firstChildElement(u"g"_s).firstChildElement(u"title"_s).text());
         }
-        QCOMPARE(
-            marks,
-            (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s, QString()}));
+        QCOMPARE(marks,
+                 (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s,
+                              u"#mark-error"_s}));
         QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus id 1000."_s);
         QVERIFY(titles.at(2).endsWith(u"It has warnings."_s));
         QVERIFY(titles.at(3).endsWith(u"It has errors."_s));
@@ -851,7 +918,6 @@ void tst_CConfigurationReport::texts()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
-    QStringList plain;
     const auto collect = [](const Page &page) {
         QStringList texts;
         for (const char *tag : {"h2", "dt", "th", "a", "summary", "p"}) {
@@ -861,7 +927,13 @@ void tst_CConfigurationReport::texts()
         }
         return texts;
     };
-    plain = collect(Page(file));
+    const QStringList plain = collect(Page(file));
+    {
+        const QuotingTranslator translator;
+        const Page page(file);
+        QVERIFY(page.isWellFormed());
+        QCOMPARE(page.root().attribute(u"lang"_s), u"\"en\""_s);
+    }
     const MarkingTranslator translator("CConfigurationReport");
     const Page page(file);
     QVERIFY(page.isWellFormed());

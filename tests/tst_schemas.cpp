@@ -129,6 +129,22 @@ void tst_Schemas::schemas_data()
                                    << QByteArray("<VornDeviceConfig version=\"1.0\"/>");
     QTest::newRow("settings") << QString::fromLatin1(SettingsSchema)
                               << QByteArray("<VornDeviceSettings version=\"1.0\"/>");
+    QTest::newRow("configuration with only what must be there")
+        << QString::fromLatin1(ConfigurationSchema)
+        << QByteArray("<VornDeviceConfig version=\"1.0\"><Head/><Description/><Device><Config>"
+                      "<ParameterFiles><File type=\"Undefined\"><Name>a</Name></File>"
+                      "</ParameterFiles><Dictionary/><OpcUa/>"
+                      "<Files><File><Name/></File></Files>"
+                      "<Plugins><Plugin><Name/></Plugin></Plugins></Config>"
+                      "<SubDevice type=\"KD3_drive\"><DriveNo>0</DriveNo></SubDevice></Device>"
+                      "</VornDeviceConfig>");
+    QTest::newRow("empty device") << QString::fromLatin1(ConfigurationSchema)
+                                  << QByteArray("<VornDeviceConfig version=\"1.0\"><Device/>"
+                                                "</VornDeviceConfig>");
+    QTest::newRow("settings with only what must be there")
+        << QString::fromLatin1(SettingsSchema)
+        << QByteArray("<VornDeviceSettings version=\"1.0\"><Head/><Device>"
+                      "<SubDevice><DriveNo>0</DriveNo></SubDevice></Device></VornDeviceSettings>");
 }
 
 void tst_Schemas::schemas()
@@ -455,6 +471,12 @@ void tst_Schemas::configuration_data()
     addChange("flag with blank", ">true<", "> true<", notInList);
     addChange("flag empty", ">true<", "><", notInList);
     addChange("flag false", ">true<", ">false<");
+    addChange("unknown in an OPC UA file", "<Name>kd3NodeSet", "<Unknown/><Name>kd3NodeSet",
+              notExpected);
+    addChange("unknown among the OPC UA files", "<OpcUaFiles>", "<OpcUaFiles><Unknown/>",
+              notExpected);
+    addChange("unknown in an additional file", "<Name>recipe", "<Unknown/><Name>recipe",
+              notExpected);
     addChange("unknown among the files", "<Files>", "<Files><Unknown/>", notExpected);
     addChange("unknown among the plug-ins", "<Plugins>", "<Plugins><Unknown/>", notExpected);
     addChange("file among the plug-ins", "<Plugins>", "<Plugins><File><Name/></File>", notExpected);
@@ -482,6 +504,10 @@ void tst_Schemas::configuration_data()
     addChange("drive not yet known", "KD2_drive", "UNKNOWN_drive");
     addChange("two parameter files of a drive", "<Param>", "<Param><File><Name/></File>",
               notExpected);
+    addChange("two KD2 parameter files", "<KD2Param>", "<KD2Param><File><Name/></File>",
+              notExpected);
+    addChange("two logic files", "<KD2Logic>", "<KD2Logic><File><Name/></File>", notExpected);
+    addChange("hardware identity of a drive", "KD2:Feed Drive:1:0:2", "KD2", "pattern");
     addChange("two firmware files", "<KD2Firmware>", "<KD2Firmware><File><Name/></File>",
               notExpected);
     addChange("file of a drive directly", "<Param>", "<File><Name/></File><Param>", notExpected);
@@ -495,6 +521,7 @@ void tst_Schemas::configuration_data()
     addChange("date empty", "2026-01-31", "");
     addChange("creation date is a word", "2025-12-24", "Christmas", noNumber);
     addChange("revision date is a word", "2026-01-30", "today", noNumber);
+    addChange("class of the other series", ">kd3<", ">kc2<");
     addChange("class in capitals", ">kd3<", ">KD3<", notInList);
     addChange("class empty", ">kd3<", "><", notInList);
     addChange("class undefined", ">kd3<", ">Undefined<");
@@ -544,6 +571,11 @@ void tst_Schemas::settings_data()
     addChange("two names of a drive", "<DriveNo>0", "<Name/><DriveNo>0", notExpected);
     addChange("two drive numbers", "<DriveNo>0", "<DriveNo>1</DriveNo><DriveNo>0", notExpected);
     addChange("drive without number", "<DriveNo>0</DriveNo>", "", "Missing child element");
+    addChange("unknown in a drive behind the name", "<DriveNo>255", "<Unknown/><DriveNo>255",
+              notExpected);
+    addChange("unknown in a drive in front of the name", "<Device>",
+              "<Device><SubDevice><DriveNo>9</DriveNo><Unknown/></SubDevice>", notExpected);
+    addChange("date with time zone", "2026-01-31", "2026-01-31Z", noNumber);
     addChange("drive without name", "<Name>Feed</Name>", "");
     addChange("name in front of the number", "<DriveNo>0</DriveNo>\n   <Name>Feed</Name>",
               "<Name>Feed</Name><DriveNo>0</DriveNo>");

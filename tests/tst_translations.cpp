@@ -270,7 +270,7 @@ void tst_translations::catalogue_data()
 void tst_translations::catalogue()
 {
     if (m_extractor.isEmpty()) {
-        QSKIP("There is no lupdate here.");
+        QSKIP("There is no lupdate here.", 0);
     }
     QFETCH(QString, name);
     QFETCH(QString, file);

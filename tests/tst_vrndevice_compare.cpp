@@ -123,13 +123,13 @@ void tst_VrnDeviceCompare::usage_data()
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("errors");
 
-    QTest::newRow("diff of one") << u"diff a"_s << u"2 argument(s) expected, 1 given"_s;
+    QTest::newRow("diff of one") << u"diff a"_s << u"The argument AFTER is missing."_s;
     QTest::newRow("diff of standard input twice") << u"diff - -"_s << u"standard input"_s;
-    QTest::newRow("apply without file") << u"apply p"_s << u"2 argument(s) expected, 1 given"_s;
+    QTest::newRow("apply without file") << u"apply p"_s << u"The argument FILE is missing."_s;
     QTest::newRow("apply from standard input twice") << u"apply - -"_s << u"standard input"_s;
     QTest::newRow("apply, check and output") << u"apply --check -o x p a"_s << u"--check"_s;
     QTest::newRow("apply, two outputs") << u"apply --json p -"_s << u"--json"_s;
-    QTest::newRow("merge of two") << u"merge a b"_s << u"3 argument(s) expected, 2 given"_s;
+    QTest::newRow("merge of two") << u"merge a b"_s << u"The argument THEIRS is missing."_s;
     QTest::newRow("merge of standard input twice") << u"merge - a -"_s << u"standard input"_s;
     QTest::newRow("merge, two outputs") << u"merge --json a - b"_s << u"--json"_s;
     QTest::newRow("merge, two outputs by option") << u"merge --json -o - a b c"_s << u"--json"_s;
@@ -477,7 +477,7 @@ bool tst_VrnDeviceCompare::branch(const QList<QByteArray> &ours,
 
 #define NEED_GIT() \
     if (QStandardPaths::findExecutable(u"git"_s).isEmpty()) { \
-        QSKIP("git is not installed"); \
+        QSKIP("git is not installed", 0); \
     }
 
 void tst_VrnDeviceCompare::gitMergesWhatLinesCannot()

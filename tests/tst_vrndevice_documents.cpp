@@ -112,7 +112,7 @@ QString tst_vrndevice_documents::execute(const QString &program, const QStringLi
 void tst_vrndevice_documents::manualIsWellFormed()
 {
     if (!isThere(u"mandoc"_s)) {
-        QSKIP("There is no mandoc here.");
+        QSKIP("There is no mandoc here.", 0);
     }
     for (const QString &language : {u"en"_s, u"de"_s}) {
         QProcessEnvironment environment = Tool::englishEnvironment();
@@ -227,7 +227,7 @@ void tst_vrndevice_documents::syntax()
 {
     QFETCH(QString, shell);
     if (!isThere(shell)) {
-        QSKIP("There is no such shell here.");
+        QSKIP("There is no such shell here.", 0);
     }
     QCOMPARE(execute(shell, {u"-n"_s, m_directory.filePath(u"sub/_"_s + shell)}), QString());
     if (shell == u"bash"_s && isThere(u"shellcheck"_s)) {
@@ -372,7 +372,7 @@ void tst_vrndevice_documents::completion()
     QFETCH(QStringList, wanted);
     QFETCH(QStringList, unwanted);
     if (!isThere(shell)) {
-        QSKIP("There is no such shell here.");
+        QSKIP("There is no such shell here.", 0);
     }
     const QStringList found = offered(shell, line);
     const QString all = found.join(u", "_s);

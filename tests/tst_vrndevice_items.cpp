@@ -142,24 +142,26 @@ void tst_vrndevice_items::usage_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("errors");
 
-    QTest::newRow("get: nothing") << QStringList{u"get"_s} << u"argument(s) expected"_s;
-    QTest::newRow("get: too much")
-        << QStringList{u"get"_s, FileName, u"a"_s, u"b"_s} << u"argument(s) expected"_s;
-    QTest::newRow("set: no path") << QStringList{u"set"_s, FileName} << u"argument(s) expected"_s;
+    QTest::newRow("get: nothing") << QStringList{u"get"_s} << u"The argument FILE is missing."_s;
+    QTest::newRow("get: too much") << QStringList{u"get"_s, FileName, u"a"_s, u"b"_s}
+                                   << u"The argument 'b' is one too many."_s;
+    QTest::newRow("set: no path") << QStringList{u"set"_s, FileName}
+                                  << u"The argument PATH is missing."_s;
     QTest::newRow("set: no value")
-        << QStringList{u"set"_s, FileName, u"device.name"_s} << u"argument(s) expected"_s;
+        << QStringList{u"set"_s, FileName, u"device.name"_s} << u"The argument VALUE is missing."_s;
     QTest::newRow("set: no second value")
         << QStringList{u"set"_s, FileName, u"device.name"_s, u"N"_s, u"device.comment"_s}
         << u"Each path needs a value."_s;
-    QTest::newRow("add: no path") << QStringList{u"add"_s, FileName} << u"argument(s) expected"_s;
+    QTest::newRow("add: no path") << QStringList{u"add"_s, FileName}
+                                  << u"The argument PATH is missing."_s;
     QTest::newRow("add: no value")
         << QStringList{u"add"_s, FileName, u"drive[7]"_s, u"drive[7].name"_s}
         << u"Each path needs a value."_s;
     QTest::newRow("remove: no path")
-        << QStringList{u"remove"_s, FileName} << u"argument(s) expected"_s;
+        << QStringList{u"remove"_s, FileName} << u"The argument PATH is missing."_s;
     QTest::newRow("set: two outputs")
         << QStringList{u"set"_s, u"--json"_s, u"-"_s, u"device.name"_s, u"N"_s} << u"--json"_s;
-    QTest::newRow("fmt: nothing") << QStringList{u"fmt"_s} << u"argument(s) expected"_s;
+    QTest::newRow("fmt: nothing") << QStringList{u"fmt"_s} << u"The argument FILE is missing."_s;
     QTest::newRow("fmt: two outputs") << QStringList{u"fmt"_s, u"--json"_s, u"-"_s} << u"--json"_s;
     QTest::newRow("fmt: two documents")
         << QStringList{u"fmt"_s, u"-"_s, FileName} << u"takes one document"_s;

@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -127,6 +128,14 @@ QStringList allTexts(const QJsonObject &node, const QString &list, const QString
         result += allTexts(child.toObject(), list, key);
     }
     return result;
+}
+
+bool eachHasItems(const QJsonObject &node)
+{
+    const QJsonArray children = node.value(u"children"_s).toArray();
+    return !node.value(u"items"_s).toArray().isEmpty()
+        && std::all_of(children.begin(), children.end(),
+                       [](const QJsonValue &child) { return eachHasItems(child.toObject()); });
 }
 
 } // namespace
@@ -311,6 +320,8 @@ void tst_VrnDeviceReport::treeShowsFindings()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     changeExample("<Class>kd3</Class>", "<Class>kd4</Class>");
+    changeExample("<OpcUaEnabled>true", "<OpcUaEnabled>perhaps");
+    changeExample("<ExecutionPlugin>motion", "<ExecutionPlugin>none");
     changeExample("PackagingLine/velkor/conf/</ProjectDir>\n    </File>\n   </Files>",
                   "/velkor/</ProjectDir>\n    </File>\n   </Files>");
     const SResult result = run({u"tree"_s, FileName});
@@ -323,7 +334,9 @@ void tst_VrnDeviceReport::treeShowsFindings()
         linesFrom(result.output, u"└─ Device"_s).value(1).contains(u"[device-class-unknown]"_s));
     const QStringList file = linesFrom(result.output, u"recipes.csv (Box formats)"_s);
     QVERIFY2(file.value(3).startsWith(u"   │        error: "_s), qPrintable(file.value(3)));
-    QCOMPARE(result.output.count(u"error: "_s), 3);
+    QVERIFY(linesFrom(result.output, u"├─ OPC UA"_s).value(1).startsWith(u"   │  │  error: "_s));
+    QVERIFY(linesFrom(result.output, u"Execution plug-in: none"_s).value(1).contains(u"'none'"_s));
+    QCOMPARE(result.output.count(u"error: "_s), 5);
 }
 
 void tst_VrnDeviceReport::treeOfUnusualTexts()
@@ -335,7 +348,9 @@ void tst_VrnDeviceReport::treeOfUnusualTexts()
                   "     <ProjectDir>PackagingLine/velkor/conf/</ProjectDir>\n"
                   "    </File>\n   </Files>",
                   "</File>\n   </Files>");
+    changeExample("<Comment>Box formats</Comment>", "<Comment>a\nb</Comment>");
     const SResult result = run({u"tree"_s, FileName});
+    QVERIFY(result.output.contains(u"recipes.csv (a\\nb)\n"_s));
     QVERIFY(result.output.contains(u"(two\\nlines, \\u009b31m and 很长)\n"_s));
     const QStringList file = linesFrom(result.output, u"recipes.csv"_s);
     QVERIFY(file.value(1).endsWith(u"device: -"_s));
@@ -361,6 +376,7 @@ void tst_VrnDeviceReport::treeAsJson()
         QVERIFY(allTexts(root, u"files"_s, u"deviceDir"_s).contains(expected.devicePath()));
         QVERIFY(allTexts(root, u"files"_s, u"projectDir"_s).contains(expected.projectPath()));
     }
+    QVERIFY(eachHasItems(root));
     QCOMPARE(allTexts(root, u"findings"_s, u"rule"_s), QStringList{u"drive-number-twice"_s});
     QCOMPARE(allTexts(root, u"findings"_s, u"severity"_s), QStringList{u"error"_s});
     QCOMPARE(allTexts(root, u"findings"_s, u"item"_s), QStringList{u"drive[2][2].driveNo"_s});
@@ -423,7 +439,7 @@ void tst_VrnDeviceReport::colours()
     QFETCH(QString, noColor);
     QFETCH(bool, expected);
     if (isTerminal && !PseudoTerminal().isOpen()) {
-        QSKIP("There are no pseudo-terminals here.");
+        QSKIP("There are no pseudo-terminals here.", 0);
     }
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     SSurroundings around;
@@ -468,8 +484,10 @@ void tst_VrnDeviceReport::usage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("errors");
-    QTest::newRow("report without a file") << QStringList{u"report"_s} << u"1 argument(s)"_s;
-    QTest::newRow("tree without a file") << QStringList{u"tree"_s} << u"1 argument(s)"_s;
+    QTest::newRow("report without a file")
+        << QStringList{u"report"_s} << u"The argument FILE is missing."_s;
+    QTest::newRow("tree without a file")
+        << QStringList{u"tree"_s} << u"The argument FILE is missing."_s;
     QTest::newRow("JSON and page on one stream")
         << QStringList{u"report"_s, FileName, u"--json"_s} << u"--json needs --output"_s;
     QTest::newRow("JSON and page on standard output")

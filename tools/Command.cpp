@@ -1,8 +1,8 @@
 #include "tools/Command.h"
 
+#include "commissioning/NearestName.h"
 #include "tools/Help.h"
 #include "tools/Output.h"
-#include "tools/Suggestion.h"
 
 #include <algorithm>
 

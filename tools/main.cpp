@@ -1,7 +1,7 @@
+#include "commissioning/NearestName.h"
 #include "tools/Command.h"
 #include "tools/Help.h"
 #include "tools/Output.h"
-#include "tools/Suggestion.h"
 #include "tools/Translations.h"
 
 #include <QCoreApplication>

@@ -67,7 +67,9 @@ def schema_faults(schema):
         if "properties" in node and "required" not in node:
             yield f"requires nothing in {place}"
         for name, member in node.get("properties", {}).items():
-            if isinstance(member, dict) and not {"description", "$ref", "const"} & set(member):
+            # A list of values tells enough by itself.
+            told = {"description", "$ref", "const", "enum"}
+            if isinstance(member, dict) and not told & set(member):
                 yield f"does not describe {place}/{name}"
 
 

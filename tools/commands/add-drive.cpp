@@ -65,13 +65,12 @@ int run(const CommandLine &line)
     const quint8 used = device.insertSubDevice(drive, wanted);
     // Only the new drive is written: the rest of the document stays as it is.
     file.appendSubDeviceElement(drive, file.deviceDomElement());
-    if (!file.save(path)) {
-        return EXIT_NOT_DONE;
+    const int exitCode = saveConfiguration(path, file);
+    if (exitCode != EXIT_DONE || isStandardStream(path)) {
+        return exitCode;
     }
 
-    if (!readDevice(path, file, device)) {
-        return EXIT_UNREADABLE_INPUT;
-    }
+    file.configuration(device);
     const CSubDeviceElement added = device.subDevice(used);
     Output out;
     if (line.wantsJson()) {

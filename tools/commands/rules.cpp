@@ -27,7 +27,8 @@ int run(const CommandLine &line)
                 isError(rule) ? QStringLiteral("error") : QStringLiteral("warning");
             array.append(QJsonObject{{QStringLiteral("id"), rule.id},
                                      {QStringLiteral("severity"), severity},
-                                     {QStringLiteral("description"), rule.description}});
+                                     {QStringLiteral("description"), rule.description},
+                                     {QStringLiteral("hint"), rule.hint}});
         }
         out.print({{QStringLiteral("rules"), array}});
         return out.finish();

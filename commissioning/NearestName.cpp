@@ -1,4 +1,4 @@
-#include "tools/Suggestion.h"
+#include "commissioning/NearestName.h"
 
 #include <QVector>
 
