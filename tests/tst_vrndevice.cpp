@@ -95,6 +95,9 @@ void tst_VrnDevice::usage_data()
     row("empty value for a switch", "show x --json=", 2, "", "--json takes no value.");
     row("value for a letter", "show x -h=1", 2, "", "-h takes no value.");
     row("value missing", "new x --name", 2, "", "new: The value of --name is missing.");
+    row("argument that is none of the choices", "completion tcsh", 2, "",
+        "completion: SHELL must be bash, zsh or fish.");
+    row("neither a choice nor a file", "new x --template y --name N", 3, "", "no template 'y'");
     row("hyphens alone before an option", "show -- --json x", 2, "", "'x' is one too many");
     row("help in spite of what is missing", "add-drive -h --type KD4_drive", 0, "Usage: ", "");
     row("no help after what is unknown", "show --jsn --help", 2, "", "'--jsn'");

@@ -221,7 +221,7 @@ QString CommandLine::sort(const QStringList &given)
             continue;
         }
         if (!word.startsWith(QLatin1String("--"))) {
-            const QString what = sortLetters(word, words);
+            QString what = sortLetters(word, words);
             if (!what.isEmpty()) {
                 return what;
             }
