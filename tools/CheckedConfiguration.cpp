@@ -1,30 +1,12 @@
 #include "tools/CheckedConfiguration.h"
 
-#include "commissioning/CConfigurationCheck.h"
-#include "imported/CMessageBoardHelper.h"
 #include "tools/Input.h"
+#include "tools/MessageSilence.h"
 #include "tools/Output.h"
 
 namespace {
 
 const QString ProjectOption = QStringLiteral("project");
-
-/** Keeps what is posted from the user, who is told the same in another way. */
-class Silence
-{
-public:
-    Silence()
-        : m_previous(CMessageBoardHelper::installHandler(
-            [](CMessageBoardHelper::ESeverity, const QString &, ICLogfile *) {}))
-    {
-    }
-    ~Silence() { CMessageBoardHelper::installHandler(m_previous); }
-
-private:
-    Q_DISABLE_COPY(Silence)
-
-    CMessageBoardHelper::Handler m_previous;
-};
 
 /** Opens @p path and has @p check look at the same. @return false when the file cannot be opened */
 bool open(const QString &path, CDeviceConfigurationFile10 &file, CConfigurationCheck &check,
@@ -34,7 +16,7 @@ bool open(const QString &path, CDeviceConfigurationFile10 &file, CConfigurationC
         if (!file.open(path)) {
             return false;
         }
-        const Silence silence;
+        const MessageSilence silence;
         isChecked = check.open(path);
         return true;
     }
@@ -47,7 +29,7 @@ bool open(const QString &path, CDeviceConfigurationFile10 &file, CConfigurationC
     if (!file.load(content)) {
         return false;
     }
-    const Silence silence;
+    const MessageSilence silence;
     isChecked = check.load(content);
     return true;
 }
@@ -61,12 +43,20 @@ void CheckedConfiguration::describeProject(CommandLine &line)
                    QStringLiteral("DIR"));
 }
 
+bool CheckedConfiguration::setProject(const CommandLine &line, CConfigurationCheck &check)
+{
+    if (!line.isSet(ProjectOption) || check.setProjectDirectory(line.value(ProjectOption))) {
+        return true;
+    }
+    printError(check.errorText());
+    return false;
+}
+
 int CheckedConfiguration::open(const CommandLine &line, CDeviceConfigurationFile10 &file,
                                QList<SConfigurationFinding> &findings)
 {
     CConfigurationCheck check;
-    if (line.isSet(ProjectOption) && !check.setProjectDirectory(line.value(ProjectOption))) {
-        printError(check.errorText());
+    if (!setProject(line, check)) {
         return EXIT_UNREADABLE_INPUT;
     }
     bool isChecked = false;
@@ -82,6 +72,6 @@ int CheckedConfiguration::open(const CommandLine &line, CDeviceConfigurationFile
 
 CConfigurationOverview CheckedConfiguration::overview(const CDeviceConfigurationFile10 &file)
 {
-    const Silence silence;
+    const MessageSilence silence;
     return CConfigurationOverview(file);
 }

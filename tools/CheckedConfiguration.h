@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commissioning/CConfigurationCheck.h"
 #include "commissioning/CConfigurationOverview.h"
 #include "commissioning/SConfigurationFinding.h"
 #include "configfile/CDeviceConfigurationFile10.h"
@@ -12,6 +13,8 @@ namespace CheckedConfiguration {
 
 /** Adds the option that names the directory of the project. */
 void describeProject(CommandLine &line);
+/** Gives it to @p check. @return false when it cannot be read; the reason has been printed */
+bool setProject(const CommandLine &line, CConfigurationCheck &check);
 
 /**
  * Opens the configuration that is the first argument and checks it, together with the files of the

@@ -1,7 +1,9 @@
 #include "commissioning/CConfigurationCheck.h"
-#include "imported/CMessageBoardHelper.h"
+#include "tools/CheckedConfiguration.h"
 #include "tools/Command.h"
+#include "tools/ConfigurationJson.h"
 #include "tools/Input.h"
+#include "tools/MessageSilence.h"
 #include "tools/Output.h"
 #include "tools/Terminal.h"
 
@@ -10,25 +12,7 @@
 
 namespace {
 
-const QString ProjectOption = QStringLiteral("project");
 const QString StrictOption = QStringLiteral("strict");
-
-/** Keeps what is posted from the user, who is told the same with the name of the input. */
-class Silence
-{
-public:
-    Silence()
-        : m_previous(CMessageBoardHelper::installHandler(
-            [](CMessageBoardHelper::ESeverity, const QString &, ICLogfile *) {}))
-    {
-    }
-    ~Silence() { CMessageBoardHelper::installHandler(m_previous); }
-
-private:
-    Q_DISABLE_COPY(Silence)
-
-    CMessageBoardHelper::Handler m_previous;
-};
 
 /** What was found in all files together. */
 struct SCount {
@@ -56,44 +40,9 @@ struct SCount {
     }
 };
 
-/** On one line, and without what a terminal takes for a command. */
-QString printable(const QString &text)
-{
-    QString result;
-    for (const QChar c : text) {
-        if (c == QLatin1Char('\n')) {
-            result += QLatin1String("\\n");
-        } else if (c.category() == QChar::Other_Control) {
-            result += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-        } else {
-            result += c;
-        }
-    }
-    return result;
-}
-
 bool isError(const SConfigurationFinding &finding)
 {
     return finding.severity == SConfigurationFinding::ERROR;
-}
-
-QString severityKey(SConfigurationFinding::ESeverity severity)
-{
-    return severity == SConfigurationFinding::ERROR ? QStringLiteral("error")
-                                                    : QStringLiteral("warning");
-}
-
-QJsonObject toJson(const SConfigurationFinding &finding)
-{
-    return {{QStringLiteral("rule"), finding.rule},
-            {QStringLiteral("severity"), severityKey(finding.severity)},
-            {QStringLiteral("item"), finding.item},
-            {QStringLiteral("line"), finding.position.line},
-            {QStringLiteral("column"), finding.position.column},
-            {QStringLiteral("message"), finding.message},
-            {QStringLiteral("found"), finding.found},
-            {QStringLiteral("expected"), finding.expected},
-            {QStringLiteral("hint"), finding.hint}};
 }
 
 /** "file:line:column", without what is not known. */
@@ -113,10 +62,10 @@ void print(const QString &path, const SConfigurationFinding &finding, bool wants
     out << Terminal::styled(placeText(path, finding.position) + QLatin1Char(':'),
                             Terminal::STYLE_BOLD, wantsColours)
         << ' ' << Terminal::styled(severity + QLatin1Char(':'), style, wantsColours) << ' '
-        << printable(finding.message) << " [" << finding.rule << "]\n";
+        << Terminal::printable(finding.message) << " [" << finding.rule << "]\n";
     const auto detail = [&out](const QString &name, const QString &text) {
         if (!text.isEmpty()) {
-            out << "    " << name << ' ' << printable(text) << '\n';
+            out << "    " << name << ' ' << Terminal::printable(text) << '\n';
         }
     };
     detail(Texts::tr("item:"), finding.item);
@@ -131,7 +80,7 @@ void print(const QString &path, const SConfigurationFinding &finding, bool wants
 /** Checks @p path, or standard input. @return why it cannot be read; empty when it was checked */
 QString checkInput(const QString &path, CConfigurationCheck &check)
 {
-    const Silence silence;
+    const MessageSilence silence;
     if (!isStandardStream(path)) {
         return check.open(path) ? QString() : check.errorText();
     }
@@ -149,9 +98,7 @@ QString checkInput(const QString &path, CConfigurationCheck &check)
 void describe(CommandLine &line)
 {
     line.addArguments(QStringLiteral("FILE"), Texts::tr("A configuration to check."));
-    line.addOption(ProjectOption,
-                   Texts::tr("Also look for the files of the configuration in this directory."),
-                   QStringLiteral("DIR"));
+    CheckedConfiguration::describeProject(line);
     line.addOption(StrictOption, Texts::tr("Fail for warnings, too."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --project . --strict"));
@@ -161,8 +108,7 @@ void describe(CommandLine &line)
 int run(const CommandLine &line)
 {
     CConfigurationCheck check;
-    if (line.isSet(ProjectOption) && !check.setProjectDirectory(line.value(ProjectOption))) {
-        printError(check.errorText());
+    if (!CheckedConfiguration::setProject(line, check)) {
         return EXIT_UNREADABLE_INPUT;
     }
     const bool wantsColours = Terminal::wantsColours(stdout);
