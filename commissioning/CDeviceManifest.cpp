@@ -33,7 +33,7 @@ const int LongestPath = 4095;
 const int SumDigits = 64;
 const int BlockSize = 64 * 1024;
 /** Its JSON takes up to thirty times as much while it is read. */
-const qint64 MaximumSize = 8 * 1024 * 1024;
+const qint64 MaximumSize = Q_INT64_C(8) * 1024 * 1024;
 
 QString format()
 {
@@ -154,7 +154,6 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
     entry.devicePath = object.value(Key::DEVICE_PATH).toString();
     entry.projectPath = object.value(Key::PROJECT_PATH).toString();
     entry.sha256 = object.value(Key::SHA256).toString().toLatin1();
-    entry.size = static_cast<qint64>(object.value(Key::SIZE).toDouble());
     if (!CDeviceManifest::isDevicePath(entry.devicePath)) {
         errorText = Texts::tr("\"%1\" is no path on a device.").arg(entry.devicePath);
         return false;
@@ -169,6 +168,7 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
         errorText = Texts::tr("The size of \"%1\" is none.").arg(entry.devicePath);
         return false;
     }
+    entry.size = static_cast<qint64>(object.value(Key::SIZE).toDouble());
     if (!isSum(object.value(Key::SHA256).toString())) {
         errorText = Texts::tr("The sum of \"%1\" is none.").arg(entry.devicePath);
         return false;
@@ -308,7 +308,8 @@ bool CDeviceManifest::readJson(const QByteArray &json, QString &errorText)
         return false;
     }
     QStringList directories;
-    for (const QJsonValue &value : root.value(Key::DIRECTORIES).toArray()) {
+    const QJsonArray listedDirectories = root.value(Key::DIRECTORIES).toArray();
+    for (const QJsonValue &value : listedDirectories) {
         QString directory;
         if (!readDirectory(value, directory, errorText)) {
             return false;
@@ -316,7 +317,8 @@ bool CDeviceManifest::readJson(const QByteArray &json, QString &errorText)
         directories.append(directory);
     }
     QList<SEntry> entries;
-    for (const QJsonValue &value : root.value(Key::FILES).toArray()) {
+    const QJsonArray listedFiles = root.value(Key::FILES).toArray();
+    for (const QJsonValue &value : listedFiles) {
         SEntry entry;
         if (!readEntry(value, entry, errorText)) {
             return false;

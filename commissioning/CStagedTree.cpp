@@ -92,34 +92,6 @@ QByteArray placeOf(const QString &path)
     return directory.endsWith('/') ? directory + own : directory + '/' + own;
 }
 
-/** Where a file system has nothing to sync, there is nothing that could be lost. */
-int syncAll(int fd)
-{
-    return fsync(fd) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS ? 0 : -1;
-}
-
-int syncParent(const QByteArray &name)
-{
-    const Descriptor parent(open(parentOf(name).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!parent.isOpen()) {
-        return errno == EACCES || errno == EPERM ? 0 : -1;
-    }
-    return syncAll(parent.get());
-}
-
-int writeAll(int fd, const char *bytes, int size)
-{
-    int done = 0;
-    while (done < size) {
-        const ssize_t written = write(fd, bytes + done, static_cast<size_t>(size - done));
-        if (written < 0 && errno != EINTR) {
-            return -1;
-        }
-        done += static_cast<int>(qMax<ssize_t>(written, 0));
-    }
-    return 0;
-}
-
 int setTime(int directory, const QByteArray &name)
 {
     const timespec times[2] = {{TreeTime, 0}, {TreeTime, 0}};
@@ -450,8 +422,8 @@ private:
         if (m_packed && m_packed->rename(m_archive) != 0) {
             return failArchive(qt_error_string(errno));
         }
-        const bool isSynced =
-            (!m_tree || syncParent(m_root) == 0) && (!m_packed || syncParent(m_archive) == 0);
+        const bool isSynced = (!m_tree || syncDirectory(parentOf(m_root)) == 0)
+            && (!m_packed || syncDirectory(parentOf(m_archive)) == 0);
         return isSynced
             || fail(Texts::tr("%1; everything is in place, but a power cut may undo it")
                         .arg(qt_error_string(errno)));

@@ -1,6 +1,7 @@
 #include "commissioning/DeviceArchive.h"
 
 #include "commissioning/TreeConstants.h"
+#include "storage/Descriptor.h"
 
 #include <QCoreApplication>
 #include <QtEndian>
@@ -63,22 +64,38 @@ Utf8Names::~Utf8Names()
     }
 }
 
-ArchiveWriter::ArchiveWriter(int fd) : m_archive(archive_write_new(), archive_write_free)
+ArchiveWriter::ArchiveWriter(int fd) : m_fd(fd), m_archive(archive_write_new(), archive_write_free)
 {
     archive *const written = m_archive.get();
     m_isOk = written != nullptr && archive_write_set_format_pax_restricted(written) == ARCHIVE_OK
         && archive_write_add_filter_gzip(written) == ARCHIVE_OK
         && archive_write_set_filter_option(written, "gzip", "timestamp", nullptr) == ARCHIVE_OK
         && archive_write_set_filter_option(written, "gzip", "compression-level", "6") == ARCHIVE_OK
-        && archive_write_open_fd(written, fd) == ARCHIVE_OK;
+        && archive_write_set_bytes_in_last_block(written, 1) == ARCHIVE_OK
+        && archive_write_open(written, this, nullptr, takeBlock, nullptr) == ARCHIVE_OK;
 }
 
 ArchiveWriter::~ArchiveWriter()
 {
-    // Nobody wants the rest of an archive that is not finished.
-    if (m_archive) {
-        archive_write_fail(m_archive.get());
+    m_isEnding = true;
+}
+
+/**
+ * libarchive never frees all of an archive for which writing failed, so a failure is kept from it
+ * until it finishes. An archive that is not finished ends at the next block: nobody wants its rest.
+ */
+ssize_t ArchiveWriter::takeBlock(archive *, void *self, const void *bytes, size_t size)
+{
+    auto *const writer = static_cast<ArchiveWriter *>(self);
+    if (writer->m_isEnding) {
+        return -1;
     }
+    if (writer->m_error == 0
+        && writeAll(writer->m_fd, static_cast<const char *>(bytes), static_cast<qint64>(size))
+            != 0) {
+        writer->m_error = errno;
+    }
+    return static_cast<ssize_t>(size);
 }
 
 bool ArchiveWriter::addHeader(const QByteArray &name, unsigned int type, unsigned int mode,
@@ -96,7 +113,7 @@ bool ArchiveWriter::addHeader(const QByteArray &name, unsigned int type, unsigne
     archive_entry_set_mtime(entry.get(), TreeTime, 0);
     archive_entry_set_uid(entry.get(), 0);
     archive_entry_set_gid(entry.get(), 0);
-    m_isOk = archive_write_header(m_archive.get(), entry.get()) == ARCHIVE_OK;
+    m_isOk = archive_write_header(m_archive.get(), entry.get()) == ARCHIVE_OK && m_error == 0;
     return m_isOk;
 }
 
@@ -112,20 +129,21 @@ bool ArchiveWriter::addFile(const QByteArray &name, qint64 size)
 
 bool ArchiveWriter::write(const char *bytes, int size)
 {
-    m_isOk =
-        m_isOk && archive_write_data(m_archive.get(), bytes, static_cast<size_t>(size)) == size;
+    m_isOk = m_isOk && archive_write_data(m_archive.get(), bytes, static_cast<size_t>(size)) == size
+        && m_error == 0;
     return m_isOk;
 }
 
 bool ArchiveWriter::finish()
 {
-    m_isOk = m_isOk && archive_write_close(m_archive.get()) == ARCHIVE_OK;
+    m_isOk = m_isOk && archive_write_close(m_archive.get()) == ARCHIVE_OK && m_error == 0;
     return m_isOk;
 }
 
 QString ArchiveWriter::errorText() const
 {
-    const int error = m_archive ? archive_errno(m_archive.get()) : ENOMEM;
+    const int ofArchive = m_archive ? archive_errno(m_archive.get()) : ENOMEM;
+    const int error = m_error != 0 ? m_error : ofArchive;
     return error > 0 ? qt_error_string(error) : reasonOf(m_archive.get());
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <locale.h>
 #include <memory>
+#include <sys/types.h>
 
 struct archive;
 
@@ -47,10 +48,16 @@ private:
     Q_DISABLE_COPY(ArchiveWriter)
 
     bool addHeader(const QByteArray &name, unsigned int type, unsigned int mode, qint64 size);
+    static ssize_t takeBlock(archive *, void *self, const void *bytes, size_t size);
 
     const Utf8Names m_names;
-    const std::unique_ptr<archive, int (*)(archive *)> m_archive;
+    const int m_fd;
+    /** Of writing; 0 for none. */
+    int m_error = 0;
+    bool m_isEnding = false;
     bool m_isOk = false;
+    // The last one, for it calls the writer while it is freed.
+    const std::unique_ptr<archive, int (*)(archive *)> m_archive;
 };
 
 /** Reads what ArchiveWriter wrote, in small memory; everything else is told as what it is. */

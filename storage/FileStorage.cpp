@@ -69,26 +69,6 @@ QByteArray followLinks(QByteArray name)
     return name;
 }
 
-int writeAll(int fd, const QByteArray &content)
-{
-    int done = 0;
-    while (done < content.size()) {
-        const ssize_t written =
-            write(fd, content.constData() + done, static_cast<size_t>(content.size() - done));
-        if (written < 0 && errno != EINTR) {
-            return -1;
-        }
-        done += static_cast<int>(qMax<ssize_t>(written, 0));
-    }
-    return 0;
-}
-
-/** Where a file system or device has nothing to sync, there is nothing that could be lost. */
-int sync(int fd)
-{
-    return fsync(fd) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS ? 0 : -1;
-}
-
 mode_t toMode(QFileDevice::Permissions permissions)
 {
     mode_t mode = 0;
@@ -177,16 +157,6 @@ private:
     Descriptor m_file;
 };
 
-int syncDirectory(const QByteArray &directory)
-{
-    const Descriptor entries(open(directory.isEmpty() ? "." : directory.constData(),
-                                  O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!entries.isOpen()) {
-        return errno == EACCES || errno == EPERM ? 0 : -1;
-    }
-    return sync(entries.get());
-}
-
 SResult notConfirmed(int error)
 {
     return {NOT_CONFIRMED,
@@ -196,8 +166,8 @@ SResult notConfirmed(int error)
 
 int rewrite(int fd, const QByteArray &content)
 {
-    return lseek(fd, 0, SEEK_SET) == 0 && writeAll(fd, content) == 0
-            && ftruncate(fd, content.size()) == 0 && sync(fd) == 0
+    return lseek(fd, 0, SEEK_SET) == 0 && writeAll(fd, content.constData(), content.size()) == 0
+            && ftruncate(fd, content.size()) == 0 && syncAll(fd) == 0
         ? 0
         : -1;
 }
@@ -251,14 +221,14 @@ SResult confirm(int fd, const struct stat &status, QFileDevice::Permissions perm
         && fchmod(fd, toMode(permissions)) != 0) {
         return failure(NOT_FINISHED, errno);
     }
-    return sync(fd) == 0 ? SResult() : notConfirmed(errno);
+    return syncAll(fd) == 0 ? SResult() : notConfirmed(errno);
 }
 
 SResult writeTo(Descriptor &device, const QByteArray &content)
 {
     // It was opened without waiting; from here on it may take its time.
     const bool written = fcntl(device.get(), F_SETFL, 0) == 0
-        && writeAll(device.get(), content) == 0 && device.close() == 0;
+        && writeAll(device.get(), content.constData(), content.size()) == 0 && device.close() == 0;
     return written ? SResult() : failure(NOT_FINISHED, errno);
 }
 
@@ -343,8 +313,8 @@ SResult replace(const QString &path, const QByteArray &content,
         const mode_t mode = permissions ? toMode(permissions) : status.st_mode & ALLPERMS;
         hasMode = fchmod(file.get(), mode) == 0;
     }
-    const bool replaced = hasMode && writeAll(file.get(), content) == 0 && sync(file.get()) == 0
-        && file.close() == 0 && file.rename(name) == 0;
+    const bool replaced = hasMode && writeAll(file.get(), content.constData(), content.size()) == 0
+        && syncAll(file.get()) == 0 && file.close() == 0 && file.rename(name) == 0;
     if (!replaced) {
         return failure(NOT_FINISHED, errno);
     }
