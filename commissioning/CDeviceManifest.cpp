@@ -26,8 +26,8 @@ class Texts
 };
 
 const int Version = 1;
-/** JSON numbers are exact only up to here. */
-const double LargestSize = 9007199254740992.0;
+/** From the next number on, several numbers in JSON are read as one. */
+const double LargestSize = 9007199254740991.0;
 const int LongestName = 255;
 const int LongestPath = 4095;
 const int SumDigits = 64;
