@@ -187,7 +187,8 @@ private slots:
         row("a size with a fraction", manifestOf("", file("a", "", "1.5")), "size of \"a\"");
         row("a size as text", manifestOf("", file("a", "", "\"1\"")), "size of \"a\"");
         row("a size that is too large", manifestOf("", file("a", "", "9007199254740994")), "size");
-        row("a size that is just too large", manifestOf("", file("a", "", "9007199254740992")), "size");
+        row("a size that is just too large", manifestOf("", file("a", "", "9007199254740992")),
+            "size");
         row("a size beyond all", manifestOf("", file("a", "", "1e300")), "size of \"a\"");
         row("a size in another form", manifestOf("", file("a", "", "1e0")), "changed");
         row("a sum that is too short", manifestOf("", file("a", "", "1", Sum.mid(1))),
