@@ -41,13 +41,13 @@ apt_settings()
         | grep -vE '^Acquire::(IndexTargets|CompressionTypes|cdrom|Changelogs)'
 }
 
+# apt_sources SUITE...
 apt_sources()
 {
-    {
-        archives "Codename: $suite"
-        archives "Codename: $suite-updates"
-        archives "Codename: $suite-security"
-    } | sed 's/^/deb /' | sort -u
+    local name
+    for name; do
+        archives "Codename: $name"
+    done | sed 's/^/deb /' | sort -u
 }
 
 # Gives the chroot the view of the network that this machine's apt has.
@@ -55,10 +55,18 @@ copy_apt_configuration()
 {
     local file files=()
     apt_settings | as_root tee "$root/etc/apt/apt.conf.d/90machine" >/dev/null
-    apt_sources | as_root tee "$root/etc/apt/sources.list" >/dev/null
+    apt_sources "$suite" "$suite-updates" "$suite-security" \
+        | as_root tee "$root/etc/apt/sources.list" >/dev/null
     for file in /etc/apt/{auth.conf,auth.conf.d,trusted.gpg,trusted.gpg.d,keyrings} \
         /etc/hosts /etc/resolv.conf /etc/ssl/certs/ca-certificates.crt; do
         [ ! -e "$file" ] || files+=("${file#/}")
     done
     as_root tar -C / --dereference -cf - "${files[@]}" | as_root tar -C "$root" -xf -
+}
+
+# A mirror in the middle of its own update may lack one list; the installation tells whether it matters.
+fetch_package_lists()
+{
+    copy_apt_configuration
+    in_chroot "$root" apt-get update || note 'some package lists could not be fetched, going on without'
 }

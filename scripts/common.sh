@@ -27,7 +27,7 @@ jobs=$(nproc)
     tidy_packages=("${test_packages[@]}" clang-tidy-14)
     benchmark_packages=("${build_packages[@]}" libbenchmark-dev libpugixml-dev libxml2-dev)
     chroot_packages=(debootstrap git util-linux)
-    package_check_packages=("${package_packages[@]}" git lintian mmdebstrap util-linux)
+    package_check_packages=("${package_packages[@]}" arch-test git lintian mmdebstrap util-linux)
     abi_packages=("${build_packages[@]}" python3 abigail-tools)
     shell_packages=(git shellcheck)
 }

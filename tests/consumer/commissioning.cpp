@@ -1,5 +1,4 @@
-// A program on a PC as a user of both libraries writes it: it tells what its project is described
-// by.
+// A program on a PC as a user of both libraries writes it: it tells the names of the main files.
 
 #include "commissioning/CDeviceManifest.h"
 #include "configfile/ICDeviceConfigurationFile.h"
