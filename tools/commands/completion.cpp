@@ -260,7 +260,7 @@ else
 fi
 )";
 
-/** @p text where colons and brackets end a part of a specification. */
+/** @p text for where colons and brackets would end a part. */
 QString zshEscaped(const QString &text)
 {
     QString result;
