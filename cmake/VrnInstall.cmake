@@ -1,7 +1,7 @@
 # What is installed: the libraries, the tool, the public headers in their folders, the schemas of the
 # documents, the CMake package and the pkg-config files.
 #
-# Each file belongs to a component, which is a package of its own in cmake/VrnPackages.cmake:
+# Each file belongs to a component, which is a package of its own in packaging/VrnPackages.cmake:
 #
 #   runtime        what a program needs that uses libvrnDeviceCore
 #   commissioning  what one needs in addition that uses libvrnCommissioning
@@ -84,7 +84,7 @@ endif()
 
 foreach(header IN LISTS VRN_PUBLIC_HEADERS)
     get_filename_component(folder "${header}" DIRECTORY)
-    install(FILES "${PROJECT_SOURCE_DIR}/${header}"
+    install(FILES "${PROJECT_SOURCE_DIR}/src/${header}"
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vrnDeviceCore/${folder}"
         COMPONENT development)
 endforeach()

@@ -38,7 +38,7 @@ function(vrn_library target build_definition)
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_compile_definitions(${target} PRIVATE ${build_definition})
     target_include_directories(${target} PUBLIC
-        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vrnDeviceCore>
     )
     # An unresolved symbol is found here and not by the first program that loads the library. The

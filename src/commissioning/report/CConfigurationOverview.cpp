@@ -1,0 +1,345 @@
+#include "commissioning/CConfigurationOverview.h"
+
+#include "commissioning/items/ItemPaths.h"
+#include "vocabulary/NVornXmlTags.h"
+
+#include <algorithm>
+
+using namespace NvrnDeviceCore;
+
+/** What the constructor reads; see the accessors of the same names. */
+class CConfigurationOverviewPrivate
+{
+public:
+    CDescriptionElement description;
+    CXMLMetaData metaData;
+    bool hasDevice = false;
+    CDeviceElement device;
+    CConfigurationOverview::SFile configurationFile;
+    QList<CConfigurationOverview::SDrive> drives;
+    QList<CConfigurationOverview::SParameterFile> parameterFiles;
+    CConfigurationOverview::SFile dictionary;
+    CConfigurationOverview::SFile faultTexts;
+    CConfigurationOverview::SFile etherCatMaster;
+    QList<CConfigurationOverview::SFile> fpgaFiles;
+    QList<CConfigurationOverview::SFile> opcUaFiles;
+    QList<CConfigurationOverview::SFile> additionalFiles;
+    QList<CConfigurationOverview::SPlugin> plugins;
+    QList<CConfigurationOverview::SOption> options;
+};
+
+namespace {
+
+using SFile = CConfigurationOverview::SFile;
+using SDrive = CConfigurationOverview::SDrive;
+
+const int DriveNumbers = 256;
+const int NoDriveNumber = 255;
+
+/** Without a description in the document there is none: not one of today. */
+CDescriptionElement description(const CDeviceConfigurationFile10 &file)
+{
+    CDescriptionElement result = file.description();
+    if (file.findDescriptionElement().isNull()) {
+        result.setVersion(QString());
+        result.setCreationDate(QDate());
+        result.setRevisionDate(QDate());
+    }
+    return result;
+}
+
+/** A device of that place in the directory layout, to ask it where one entry lies. */
+CDeviceElement withoutFiles(const CDeviceElement &device)
+{
+    CDeviceElement result;
+    result.setName(device.name());
+    result.setConfigurationName(device.configurationName());
+    result.setHardwareId(device.hardwareId());
+    return result;
+}
+
+QList<SFile> listedFiles(const QList<CFileElement> &files, const QString &list, EDeviceFile kind)
+{
+    ItemPaths paths(list);
+    QList<SFile> result;
+    for (const CFileElement &file : files) {
+        result.append({paths.next(file.fileName()), kind, file});
+    }
+    return result;
+}
+
+QList<CConfigurationOverview::SParameterFile>
+parameterFiles(const CDeviceElement &device, const CDeviceConfigurationFile10 &texts)
+{
+    ItemPaths paths(QStringLiteral("device.parameterFiles"));
+    CDeviceElement place = withoutFiles(device);
+    QList<CConfigurationOverview::SParameterFile> result;
+    for (const CParamFileElement &parameters : device.parameterFiles()) {
+        CConfigurationOverview::SParameterFile entry = {
+            paths.next(parameters.name()), parameters, texts.typeToStr(parameters.type()), {}};
+        place.setParameterFiles({parameters});
+        for (const EDeviceFile kind :
+             {DEVICE_FILE_PARAMETER_VALUES, DEVICE_FILE_PARAMETER_DEFINITION}) {
+            for (const CFileElement &file : place.parameterFiles(QFlags<EDeviceFile>(kind))) {
+                entry.files.append({entry.item, kind, file});
+            }
+        }
+        result.append(entry);
+    }
+    return result;
+}
+
+QList<SFile> fpgaFiles(const CDeviceElement &device)
+{
+    ItemPaths paths(QStringLiteral("device.fpgaFiles"));
+    QList<SFile> result;
+    for (int i = 0; i < device.fpgaFileCount(); ++i) {
+        result.append(
+            {paths.next(device.fpgaFile(i)), DEVICE_FILE_FPGA, device.fpgaFileElement(i)});
+    }
+    return result;
+}
+
+QList<CConfigurationOverview::SPlugin> plugins(const CDeviceElement &device)
+{
+    ItemPaths paths(QStringLiteral("device.plugins"));
+    CDeviceElement place = withoutFiles(device);
+    QList<CConfigurationOverview::SPlugin> result;
+    for (const CPluginElement &plugin : device.plugins()) {
+        place.setPlugins({plugin});
+        result.append({paths.next(plugin.name()), plugin, place.pluginFileElements().value(0),
+                       !plugin.name().isEmpty() && plugin.name() == device.executionPlugin()});
+    }
+    return result;
+}
+
+/** The document tells words; one that does not begin with "-" is the argument of the one before. */
+QList<CConfigurationOverview::SOption> options(const QStringList &words)
+{
+    ItemPaths paths(QStringLiteral("device.options"));
+    QList<CConfigurationOverview::SOption> result;
+    for (const QString &word : words) {
+        if (word.startsWith(QLatin1Char('-')) || result.isEmpty()) {
+            result.append({paths.next(word), word});
+        } else {
+            result.last().text += QLatin1Char(' ') + word;
+        }
+    }
+    return result;
+}
+
+QList<SFile> driveFiles(const CSubDeviceElement &drive, const QString &item)
+{
+    QList<SFile> result = {{item + QStringLiteral(".param"), DEVICE_FILE_SUB_DEVICE_PARAMETERS,
+                            drive.parameterFile()}};
+    if (drive.isKD2()) {
+        const CSubDeviceKD2Element kd2 = drive.toKD2();
+        result.append({item + QStringLiteral(".kd2Firmware"), DEVICE_FILE_KD2_FIRMWARE,
+                       kd2.kd2FirmwareFile()});
+        result.append(
+            {item + QStringLiteral(".kd2Logic"), DEVICE_FILE_KD2_LOGIC, kd2.kd2LogicFile()});
+        result.append({item + QStringLiteral(".kd2Param"), DEVICE_FILE_KD2_PARAMETERS,
+                       kd2.kd2ParameterFile()});
+    }
+    const auto isAbsent = [](const SFile &file) { return file.file.isNull(); };
+    result.erase(std::remove_if(result.begin(), result.end(), isAbsent), result.end());
+    return result;
+}
+
+/**
+ * The items of the drives, by the numbers with which the drives were read: a drive that has no
+ * number of its own in the document was given one then.
+ */
+class DriveItems
+{
+public:
+    DriveItems(const CDeviceConfigurationFile10 &file, const CDeviceElement &device)
+    {
+        QStringList withoutNumber;
+        ItemPaths paths(QStringLiteral("drive"));
+        const QDomElement element = file.findDeviceElement();
+        const QString &tag = NVornXmlTags::TAG_SUB_DEVICE;
+        for (QDomElement child = element.firstChildElement(tag); !child.isNull();
+             child = child.nextSiblingElement(tag)) {
+            const QString text = file.getNodeValue(NVornXmlTags::TAG_DRIVE_NO, child);
+            bool ok = false;
+            const uint number = text.toUInt(&ok);
+            const bool isNumber = ok && number < DriveNumbers;
+            const QString item = paths.next(isNumber ? QString::number(number) : text);
+            if (isNumber && m_items[number].isEmpty()) {
+                m_items[number] = item;
+                m_isTold[number] = true;
+            } else {
+                withoutNumber.append(item);
+            }
+        }
+        for (const int number : givenNumbers(device)) {
+            m_items[number] = withoutNumber.isEmpty() ? QString() : withoutNumber.takeFirst();
+        }
+    }
+
+    QString item(int number) const { return m_items[number]; }
+
+private:
+    /** In the order in which they were given: first those above all others, then the gaps. */
+    QList<int> givenNumbers(const CDeviceElement &device) const
+    {
+        int highest = NoDriveNumber - 1;
+        while (highest >= 0 && !m_isTold[highest]) {
+            --highest;
+        }
+        QList<int> above;
+        QList<int> gaps;
+        for (const CSubDeviceElement &drive : device.subDevices()) {
+            const int number = drive.driveId();
+            if (!m_isTold[number]) {
+                (number > highest && number < NoDriveNumber ? above : gaps).append(number);
+            }
+        }
+        return above + gaps;
+    }
+
+    QString m_items[DriveNumbers];
+    bool m_isTold[DriveNumbers] = {};
+};
+
+QList<SDrive> drives(const CDeviceConfigurationFile10 &file, const CDeviceElement &device)
+{
+    const DriveItems items(file, device);
+    QList<SDrive> result;
+    for (const CSubDeviceElement &drive : device.subDevices()) {
+        const QString item = items.item(drive.driveId());
+        result.append({item, drive, driveFiles(drive, item)});
+    }
+    return result;
+}
+
+int named(const QList<SFile> &files)
+{
+    return static_cast<int>(std::count_if(files.begin(), files.end(), [](const SFile &file) {
+        return !file.file.fileName().isEmpty();
+    }));
+}
+
+} // namespace
+
+CConfigurationOverview::CConfigurationOverview(const CDeviceConfigurationFile10 &file)
+    : d(new CConfigurationOverviewPrivate)
+{
+    d->description = ::description(file);
+    d->metaData = file.metaData();
+    d->hasDevice = file.configuration(d->device);
+    if (!d->hasDevice) {
+        return;
+    }
+    const CDeviceElement &device = d->device;
+    d->configurationFile = {QString(), DEVICE_FILE_NONE, device.configurationFile()};
+    d->drives = ::drives(file, device);
+    d->parameterFiles = ::parameterFiles(device, file);
+    d->dictionary = {QStringLiteral("device.dictionary"), DEVICE_FILE_OBJECT_DICTIONARY,
+                     file.odictFile()};
+    d->faultTexts = {QStringLiteral("device.faultTextFile"), DEVICE_FILE_FAULT_TEXTS,
+                     file.faultTextFile()};
+    d->etherCatMaster = {QStringLiteral("device.etherCatMasterFile"), DEVICE_FILE_ETHERCAT_MASTER,
+                         device.etherCatMasterFile()};
+    d->fpgaFiles = ::fpgaFiles(device);
+    d->opcUaFiles =
+        listedFiles(device.opcUaFiles(), QStringLiteral("device.opcUaFiles"), DEVICE_FILE_OPC_UA);
+    d->additionalFiles =
+        listedFiles(device.additionalFiles(), QStringLiteral("files"), DEVICE_FILE_ADDITIONAL);
+    d->plugins = ::plugins(device);
+    d->options = ::options(device.options());
+}
+
+CConfigurationOverview::~CConfigurationOverview() = default;
+
+const CDescriptionElement &CConfigurationOverview::description() const
+{
+    return d->description;
+}
+
+const CXMLMetaData &CConfigurationOverview::metaData() const
+{
+    return d->metaData;
+}
+
+bool CConfigurationOverview::hasDevice() const
+{
+    return d->hasDevice;
+}
+
+const CDeviceElement &CConfigurationOverview::device() const
+{
+    return d->device;
+}
+
+const CConfigurationOverview::SFile &CConfigurationOverview::configurationFile() const
+{
+    return d->configurationFile;
+}
+
+const QList<CConfigurationOverview::SDrive> &CConfigurationOverview::drives() const
+{
+    return d->drives;
+}
+
+const QList<CConfigurationOverview::SParameterFile> &CConfigurationOverview::parameterFiles() const
+{
+    return d->parameterFiles;
+}
+
+const CConfigurationOverview::SFile &CConfigurationOverview::dictionary() const
+{
+    return d->dictionary;
+}
+
+const CConfigurationOverview::SFile &CConfigurationOverview::faultTexts() const
+{
+    return d->faultTexts;
+}
+
+const CConfigurationOverview::SFile &CConfigurationOverview::etherCatMaster() const
+{
+    return d->etherCatMaster;
+}
+
+const QList<CConfigurationOverview::SFile> &CConfigurationOverview::fpgaFiles() const
+{
+    return d->fpgaFiles;
+}
+
+const QList<CConfigurationOverview::SFile> &CConfigurationOverview::opcUaFiles() const
+{
+    return d->opcUaFiles;
+}
+
+const QList<CConfigurationOverview::SFile> &CConfigurationOverview::additionalFiles() const
+{
+    return d->additionalFiles;
+}
+
+const QList<CConfigurationOverview::SPlugin> &CConfigurationOverview::plugins() const
+{
+    return d->plugins;
+}
+
+const QList<CConfigurationOverview::SOption> &CConfigurationOverview::options() const
+{
+    return d->options;
+}
+
+int CConfigurationOverview::fileCount() const
+{
+    int count = named({d->configurationFile, d->dictionary, d->faultTexts, d->etherCatMaster})
+        + named(d->fpgaFiles) + named(d->opcUaFiles) + named(d->additionalFiles);
+    for (const SParameterFile &parameters : d->parameterFiles) {
+        count += named(parameters.files);
+    }
+    for (const SDrive &drive : d->drives) {
+        count += named(drive.files);
+    }
+    for (const SPlugin &plugin : d->plugins) {
+        count += plugin.library.fileName().isEmpty() ? 0 : 1;
+    }
+    return count;
+}

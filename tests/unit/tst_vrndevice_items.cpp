@@ -1,0 +1,795 @@
+#include "configfile/CDeviceConfigurationFile10.h"
+#include "devicefiles/CDeviceFileSystem.h"
+#include "support/Files.h"
+#include "support/FullDisk.h"
+#include "support/Literals.h"
+#include "support/MessageCatcher.h"
+#include "support/Tool.h"
+
+#include <QJsonArray>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+using Tool::SResult;
+
+namespace {
+
+const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
+
+QDir templateDirectory()
+{
+    return QDir(QStringLiteral(VRN_SOURCE_DIR "/src/tools/templates"), u"*.3deco"_s);
+}
+
+QString toJson(const QString &path, const QString &value)
+{
+    return path + u'=' + value;
+}
+
+/** "path=value" of each. */
+QStringList items(const QJsonObject &json)
+{
+    QStringList result;
+    for (const QJsonValue item : json.value(u"items"_s).toArray()) {
+        const QJsonObject object = item.toObject();
+        result << toJson(object.value(u"path"_s).toString(), object.value(u"value"_s).toString());
+    }
+    return result;
+}
+
+QByteArray indented(const QByteArray &document)
+{
+    QByteArray result = document;
+    return result.replace("\n <", "\n\t  <");
+}
+
+/** The document without its dates: what is made at midnight may have another one. */
+QString undated(const QByteArray &document)
+{
+    static const QRegularExpression date(u">[0-9]{4}-[0-9]{2}-[0-9]{2}<"_s);
+    return QString::fromUtf8(document).replace(date, u">DATE<"_s);
+}
+
+} // namespace
+
+/** The commands that read and change items, format files, and begin with a template. */
+class tst_vrndevice_items : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void usage_data();
+    void usage();
+    void help();
+    void unreadableInput_data();
+    void unreadableInput();
+    void failuresLeaveTheFile_data();
+    void failuresLeaveTheFile();
+
+    void getOneItem_data();
+    void getOneItem();
+    void getSeveralItems();
+    void getJson();
+    void getPrintsLinesOfAValue();
+
+    void setOneItem();
+    void setSeveralItems();
+    void setJson();
+    void setValueWithHyphen();
+    void addEntryWithItems();
+    void addJson();
+    void removeEntries();
+    void removeJson();
+    void filters_data();
+    void filters();
+    void fullDisk_data();
+    void fullDisk();
+
+    void fmtRewrites();
+    void fmtChecks();
+    void fmtJson();
+    void fmtFilters();
+    void fmtGoesOnBehindAnUnreadableFile();
+    void fmtOfAFullDisk();
+
+    void newListsTemplates();
+    void newFromTemplate_data();
+    void newFromTemplate();
+    void newFromAFile();
+    void newKeepsWhatItDoesNotKnow();
+    void newRefusesTemplates();
+    void newPrintsTheDocument();
+    void templatesAreInOrder_data();
+    void templatesAreInOrder();
+
+private:
+    SResult run(const QStringList &arguments, const QByteArray &input = QByteArray()) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_directory->path());
+        process.start(QStringLiteral(VRN_TOOL), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        SResult result;
+        if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+            result.exitCode = process.exitCode();
+        }
+        result.output = QString::fromUtf8(process.readAllStandardOutput());
+        result.errors = QString::fromUtf8(process.readAllStandardError());
+        return result;
+    }
+    QString path(const QString &name = FileName) const { return m_directory->filePath(name); }
+    QByteArray bytes() const { return Files::read(path()); }
+
+    QScopedPointer<QTemporaryDir> m_directory;
+    QByteArray m_example;
+};
+
+void tst_vrndevice_items::init()
+{
+    m_directory.reset(new QTemporaryDir);
+    QVERIFY(m_directory->isValid());
+    QVERIFY(Tool::copyExample(FileName, m_directory->path()));
+    m_example = bytes();
+    QVERIFY(!m_example.isEmpty());
+}
+
+void tst_vrndevice_items::usage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("errors");
+
+    QTest::newRow("get: nothing") << QStringList{u"get"_s} << u"The argument FILE is missing."_s;
+    QTest::newRow("get: too much") << QStringList{u"get"_s, FileName, u"a"_s, u"b"_s}
+                                   << u"The argument 'b' is one too many."_s;
+    QTest::newRow("set: no path") << QStringList{u"set"_s, FileName}
+                                  << u"The argument PATH is missing."_s;
+    QTest::newRow("set: no value")
+        << QStringList{u"set"_s, FileName, u"device.name"_s} << u"The argument VALUE is missing."_s;
+    QTest::newRow("set: no second value")
+        << QStringList{u"set"_s, FileName, u"device.name"_s, u"N"_s, u"device.comment"_s}
+        << u"Each path needs a value."_s;
+    QTest::newRow("add: no path") << QStringList{u"add"_s, FileName}
+                                  << u"The argument PATH is missing."_s;
+    QTest::newRow("add: no value")
+        << QStringList{u"add"_s, FileName, u"drive[7]"_s, u"drive[7].name"_s}
+        << u"Each path needs a value."_s;
+    QTest::newRow("remove: no path")
+        << QStringList{u"remove"_s, FileName} << u"The argument PATH is missing."_s;
+    QTest::newRow("set: two outputs")
+        << QStringList{u"set"_s, u"--json"_s, u"-"_s, u"device.name"_s, u"N"_s} << u"--json"_s;
+    QTest::newRow("fmt: nothing") << QStringList{u"fmt"_s} << u"The argument FILE is missing."_s;
+    QTest::newRow("fmt: two outputs") << QStringList{u"fmt"_s, u"--json"_s, u"-"_s} << u"--json"_s;
+    QTest::newRow("fmt: two documents")
+        << QStringList{u"fmt"_s, u"-"_s, FileName} << u"takes one document"_s;
+    QTest::newRow("new: no file") << QStringList{u"new"_s, u"--class=kd3"_s, u"--name=N"_s}
+                                  << u"FILE is missing."_s;
+    QTest::newRow("new: no name") << QStringList{u"new"_s, u"x"_s, u"--template=kd3-drive"_s}
+                                  << u"--name is missing."_s;
+    QTest::newRow("new: no class")
+        << QStringList{u"new"_s, u"x"_s, u"--template=kd3-drive"_s, u"--class=kd4"_s, u"--name=N"_s}
+        << u"--class must be kc2 or kd3."_s;
+    QTest::newRow("new: two outputs")
+        << QStringList{u"new"_s, u"-"_s, u"--json"_s, u"--class=kd3"_s, u"--name=N"_s}
+        << u"--json"_s;
+}
+
+void tst_vrndevice_items::usage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, errors);
+    const SResult result = run(arguments, m_example);
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(result.errors.contains(errors), qPrintable(result.errors));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(bytes(), m_example);
+    QCOMPARE(Files::names(m_directory->path()), QStringList{FileName});
+}
+
+void tst_vrndevice_items::help()
+{
+    for (const QString &command : {u"get"_s, u"set"_s, u"add"_s, u"remove"_s, u"fmt"_s, u"new"_s}) {
+        const SResult result = run({command, u"--help"_s});
+        QCOMPARE(result.exitCode, 0);
+        QVERIFY(result.output.startsWith(u"Usage: vrndevice %1 "_s.arg(command)));
+        const QString example = u":\n  vrndevice "_s + command;
+        QVERIFY(result.output.contains(u"Example"_s + example)
+                || result.output.contains(u"Examples"_s + example));
+    }
+}
+
+void tst_vrndevice_items::unreadableInput_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("get") << QStringList{u"get"_s, u"missing"_s};
+    QTest::newRow("set") << QStringList{u"set"_s, u"missing"_s, u"device.name"_s, u"N"_s};
+    QTest::newRow("add") << QStringList{u"add"_s, u"missing"_s, u"drive[7]"_s};
+    QTest::newRow("remove") << QStringList{u"remove"_s, u"missing"_s, u"drive[0]"_s};
+    QTest::newRow("fmt") << QStringList{u"fmt"_s, u"missing"_s};
+    QTest::newRow("fmt --check") << QStringList{u"fmt"_s, u"--check"_s, u"missing"_s};
+}
+
+void tst_vrndevice_items::unreadableInput()
+{
+    QFETCH(QStringList, arguments);
+    const SResult missing = run(arguments);
+    QCOMPARE(missing.exitCode, 3);
+    QVERIFY2(missing.errors.contains(u"missing"_s), qPrintable(missing.errors));
+    QCOMPARE(missing.output, QString());
+
+    arguments.replace(arguments.indexOf(u"missing"_s), u"-"_s);
+    for (const QByteArray &input : {QByteArray(), m_example.chopped(20)}) {
+        const SResult broken = run(arguments, input);
+        QCOMPARE(broken.exitCode, 3);
+        QVERIFY(!broken.errors.isEmpty());
+        QCOMPARE(broken.output, QString());
+    }
+    arguments.replace(arguments.indexOf(u"-"_s), u"."_s);
+    QCOMPARE(run(arguments).exitCode, 3);
+}
+
+void tst_vrndevice_items::failuresLeaveTheFile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+
+    const auto row = [](const char *name, const QStringList &arguments, const QString &reason) {
+        QTest::newRow(name) << arguments << reason;
+    };
+    row("get: no drive", {u"get"_s, u"drive[7]"_s}, u"drive[7]: there is no such drive"_s);
+    row("get: no item", {u"get"_s, u"device.coment"_s},
+        u"device.coment: there is no such item; did you mean device.comment?"_s);
+    row("get: no path", {u"get"_s, QString()},
+        u"'' is no path: a word is missing at character 1"_s);
+    row("set: second", {u"set"_s, u"device.name"_s, u"N"_s, u"drive[7].name"_s, u"x"_s},
+        u"drive[7]: there is no such drive"_s);
+    row("set: value", {u"set"_s, u"device.name"_s, u"N"_s, u"drive[0].busId"_s, u"x"_s},
+        u"drive[0].busId: 'x' is no whole number from 0 to 4294967295"_s);
+    row("add: there", {u"add"_s, u"drive[0]"_s}, u"drive[0]: there is such a drive already"_s);
+    row("add: value", {u"add"_s, u"drive[7]"_s, u"drive[7].busId"_s, u"x"_s},
+        u"drive[7].busId: 'x' is no whole number from 0 to 4294967295"_s);
+    row("remove: second", {u"remove"_s, u"drive[0]"_s, u"drive[7]"_s},
+        u"drive[7]: there is no such drive"_s);
+    row("remove: twice", {u"remove"_s, u"drive[0]"_s, u"drive[0]"_s},
+        u"drive[0]: there is no such drive"_s);
+}
+
+void tst_vrndevice_items::failuresLeaveTheFile()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    arguments.insert(1, FileName);
+    const SResult result = run(arguments);
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.errors, u"vrndevice: error: %1: %2\n"_s.arg(FileName, reason));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(bytes(), m_example);
+    arguments[1] = u"-"_s;
+    const SResult filtered = run(arguments, m_example);
+    QCOMPARE(filtered.exitCode, 1);
+    QCOMPARE(filtered.errors, u"vrndevice: error: standard input: %1\n"_s.arg(reason));
+    QCOMPARE(filtered.output, QString());
+}
+
+void tst_vrndevice_items::getOneItem_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("text") << u"device.comment"_s << u"Folding box line 4, hall B"_s;
+    QTest::newRow("empty") << u"drive[0].comment"_s << QString();
+    QTest::newRow("option") << u"device.options[-opc]"_s << QString();
+    QTest::newRow("key") << u"drive[2].driveNo"_s << u"2"_s;
+}
+
+void tst_vrndevice_items::getOneItem()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, value);
+    const SResult result = run({u"get"_s, FileName, path});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, value + u'\n');
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(run({u"get"_s, u"-"_s, path}, m_example).output, value + u'\n');
+    const QJsonObject json = run({u"get"_s, u"--json"_s, FileName, path}).json();
+    QCOMPARE(items(json), QStringList{toJson(path, value)});
+}
+
+void tst_vrndevice_items::getSeveralItems()
+{
+    const SResult entry = run({u"get"_s, FileName, u"device.plugins[motion]"_s});
+    QCOMPARE(entry.exitCode, 0);
+    QCOMPARE(entry.output,
+             u"device.plugins[motion].version = 2\n"
+             "device.plugins[motion].priority = 20\n"_s);
+    QVERIFY(run({u"remove"_s, FileName, u"files[recipes.csv]"_s}).exitCode == 0);
+    const SResult nothing = run({u"get"_s, FileName, u"files"_s});
+    QCOMPARE(nothing.exitCode, 0);
+    QCOMPARE(nothing.output, QString());
+
+    const SResult all = run({u"get"_s, FileName});
+    QCOMPARE(all.exitCode, 0);
+    const QStringList lines = all.output.split(u'\n');
+    QCOMPARE(lines.first(), u"description.name = Packaging line"_s);
+    QCOMPARE(lines.at(lines.size() - 2),
+             u"drive[2].kd2Firmware.projectDir = PackagingLine/velkor/subdevices/2/firmware/"_s);
+    QVERIFY(all.output.contains(u"\ndevice.options[-trace] = \n"_s));
+}
+
+void tst_vrndevice_items::getJson()
+{
+    const QJsonObject json = run({u"get"_s, u"--json"_s, FileName}).json();
+    QCOMPARE(json.keys(), QStringList{u"items"_s});
+    QStringList lines;
+    for (const QString &item : items(json)) {
+        lines << QString(item).replace(item.indexOf(u'='), 1, u" = "_s);
+    }
+    QCOMPARE(lines.join(u'\n') + u'\n', run({u"get"_s, FileName}).output);
+}
+
+void tst_vrndevice_items::getPrintsLinesOfAValue()
+{
+    QCOMPARE(run({u"set"_s, FileName, u"device.comment"_s, u"one\ntwo = 2\n"_s}).exitCode, 0);
+    QCOMPARE(run({u"get"_s, FileName, u"device.comment"_s}).output, u"one\ntwo = 2\n\n"_s);
+    const QString all = run({u"get"_s, FileName}).output;
+    QVERIFY(all.contains(u"\ndevice.comment = one\n\ttwo = 2\n\t\ndevice.class = kd3\n"_s));
+}
+
+void tst_vrndevice_items::setOneItem()
+{
+    const SResult result = run({u"set"_s, FileName, u"drive[2].busId"_s, u"1003"_s});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, u"drive[2].busId = 1003\n"_s);
+    QCOMPARE(result.errors, QString());
+    QByteArray expected = m_example;
+    QCOMPARE(bytes(), expected.replace("<BusId>7<", "<BusId>1003<"));
+}
+
+void tst_vrndevice_items::setSeveralItems()
+{
+    const SResult result =
+        run({u"set"_s, FileName, u"device.name"_s, u"Größe <&>"_s, u"files[recipes.csv].name"_s,
+             u"a].csv"_s, u"files[a\\].csv].deviceDir"_s, u"velkor\\a"_s});
+    QCOMPARE(result.exitCode, 0);
+    // As it is stored; what has another name now, as it was given.
+    QCOMPARE(result.output,
+             u"device.name = Größe <&>\n"
+             "files[recipes.csv].name = a].csv\n"
+             "files[a\\].csv].deviceDir = /velkor/a/\n"_s);
+    const QByteArray file = "     <Name>recipes.csv</Name>\n     <Comment>Box formats</Comment>\n"
+                            "     <DeviceDir>/velkor/configurations/STD/conf/</DeviceDir>\n";
+    QVERIFY(m_example.contains(file));
+    QByteArray expected = m_example;
+    expected.replace("  <Name>PackagingLine</Name>\n", "  <Name>Größe &lt;&amp;&gt;</Name>\n")
+        .replace(file,
+                 "     <Name>a].csv</Name>\n     <Comment>Box formats</Comment>\n"
+                 "     <DeviceDir>/velkor/a/</DeviceDir>\n");
+    QCOMPARE(bytes(), expected);
+}
+
+void tst_vrndevice_items::setJson()
+{
+    const SResult result = run({u"set"_s, u"--json"_s, FileName, u"drive[0].param.projectDir"_s,
+                                u"a\\b"_s, u"device.comment"_s, QString()});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.json().keys(), QStringList{u"items"_s});
+    QCOMPARE(items(result.json()),
+             QStringList({u"drive[0].param.projectDir=a/b/"_s, u"device.comment="_s}));
+}
+
+void tst_vrndevice_items::setValueWithHyphen()
+{
+    const QString path = u"device.plugins[motion].priority"_s;
+    QCOMPARE(run({u"set"_s, FileName, path, u"-5"_s}).exitCode, 2);
+    QCOMPARE(bytes(), m_example);
+    QCOMPARE(run({u"set"_s, FileName, path, u"--"_s, u"-5"_s}).exitCode, 0);
+    QCOMPARE(run({u"get"_s, FileName, path}).output, u"-5\n"_s);
+}
+
+void tst_vrndevice_items::addEntryWithItems()
+{
+    const SResult result =
+        run({u"add"_s, FileName, u"drive[7]"_s, u"drive[7].name"_s, u"Gripper"_s,
+             u"drive[7].type"_s, u"KD2_drive"_s, u"drive[7].kd2Logic.name"_s, u"l.bit"_s});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output,
+             u"Added drive[7]\ndrive[7].name = Gripper\ndrive[7].type = KD2_drive\n"
+             "drive[7].kd2Logic.name = l.bit\n"_s);
+    const QByteArray added = "  <SubDevice type=\"KD2_drive\">\n"
+                             "   <HardwareId>KD3:KD3 Controller 8A:3:2:1</HardwareId>\n"
+                             "   <Name>Gripper</Name>\n"
+                             "   <Comment/>\n"
+                             "   <DriveNo>7</DriveNo>\n"
+                             "   <BusId>0</BusId>\n"
+                             "   <KD2Logic>\n"
+                             "    <File>\n"
+                             "     <Name>l.bit</Name>\n"
+                             "     <Comment/>\n"
+                             "     <DeviceDir/>\n"
+                             "     <ProjectDir/>\n"
+                             "    </File>\n"
+                             "   </KD2Logic>\n"
+                             "  </SubDevice>\n";
+    QByteArray expected = m_example;
+    QCOMPARE(bytes(), expected.replace(" </Device>\n", added + " </Device>\n"));
+}
+
+void tst_vrndevice_items::addJson()
+{
+    const SResult alone = run({u"add"_s, u"--json"_s, FileName, u"device.options[-x]"_s});
+    QCOMPARE(alone.exitCode, 0);
+    QCOMPARE(alone.json().keys(), QStringList({u"added"_s, u"items"_s}));
+    QCOMPARE(alone.json().value(u"added"_s).toString(), u"device.options[-x]"_s);
+    QCOMPARE(items(alone.json()), QStringList());
+    const SResult withItem = run({u"add"_s, u"--json"_s, FileName, u"device.options[-y]"_s,
+                                  u"device.options[-y]"_s, u"5"_s});
+    QCOMPARE(items(withItem.json()), QStringList{u"device.options[-y]=5"_s});
+    QVERIFY(bytes().contains("<Options>-trace -autostart -opc -x -y 5</Options>"));
+}
+
+void tst_vrndevice_items::removeEntries()
+{
+    const SResult result = run({u"remove"_s, FileName, u"device.options[-trace]"_s,
+                                u"device.plugins[motion]"_s, u"drive[0].comment"_s});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output,
+             u"Removed device.options[-trace]\nRemoved device.plugins[motion]\n"
+             "Removed drive[0].comment\n"_s);
+    QByteArray expected = m_example;
+    expected.replace("-trace -auto", "-auto")
+        .replace("    <Plugin>\n     <Name>motion</Name>\n     <Version>2</Version>\n"
+                 "     <Priority>20</Priority>\n    </Plugin>\n",
+                 "")
+        .replace("   <Name>Infeed</Name>\n   <Comment/>\n", "   <Name>Infeed</Name>\n");
+    QCOMPARE(bytes(), expected);
+}
+
+void tst_vrndevice_items::removeJson()
+{
+    const QStringList paths = {u"drive[1]"_s, u"device.dictionary"_s};
+    const SResult result = run(QStringList{u"remove"_s, u"--json"_s, FileName} + paths);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.json(), QJsonObject({{u"removed"_s, QJsonArray::fromStringList(paths)}}));
+}
+
+void tst_vrndevice_items::filters_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("set") << QStringList{u"set"_s, FileName, u"device.comment"_s, u"ü"_s};
+    QTest::newRow("add") << QStringList{u"add"_s, FileName, u"files[a]"_s};
+    QTest::newRow("remove") << QStringList{u"remove"_s, FileName, u"drive[1]"_s};
+}
+
+void tst_vrndevice_items::filters()
+{
+    QFETCH(QStringList, arguments);
+    QCOMPARE(run(arguments).exitCode, 0);
+    QVERIFY(bytes() != m_example);
+    arguments[1] = u"-"_s;
+    const SResult result = run(arguments, m_example);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output.toUtf8(), bytes());
+    QCOMPARE(result.errors, QString());
+}
+
+void tst_vrndevice_items::fullDisk_data()
+{
+    filters_data();
+}
+
+void tst_vrndevice_items::fullDisk()
+{
+    QFETCH(QStringList, arguments);
+    const FullDisk disk(1000);
+    const SResult result = run(arguments);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(FileName), qPrintable(result.errors));
+    QCOMPARE(result.output, QString());
+    QCOMPARE(bytes(), m_example);
+    QCOMPARE(Files::names(m_directory->path()), QStringList{FileName});
+}
+
+void tst_vrndevice_items::fmtRewrites()
+{
+    QVERIFY(Files::write(path(u"other"_s), indented(m_example)));
+    QFile::setPermissions(path(), QFileDevice::ReadOwner);
+    const QDateTime before = QFileInfo(path()).metadataChangeTime();
+    const SResult result = run({u"fmt"_s, FileName, u"other"_s});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, u"other: rewritten\n"_s);
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(Files::read(path(u"other"_s)), m_example);
+    QCOMPARE(bytes(), m_example);
+    QCOMPARE(QFileInfo(path()).metadataChangeTime(), before);
+    const SResult again = run({u"fmt"_s, FileName, u"other"_s});
+    QCOMPARE(again.exitCode, 0);
+    QCOMPARE(again.output, QString());
+}
+
+void tst_vrndevice_items::fmtChecks()
+{
+    QVERIFY(Files::write(path(u"other"_s), indented(m_example)));
+    const SResult result = run({u"fmt"_s, u"--check"_s, FileName, u"other"_s});
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.output, u"other: would change\n"_s);
+    QCOMPARE(Files::read(path(u"other"_s)), indented(m_example));
+    QCOMPARE(run({u"fmt"_s, u"--check"_s, FileName}).exitCode, 0);
+    QCOMPARE(run({u"fmt"_s, u"--check"_s, u"-"_s}, m_example).exitCode, 0);
+    const SResult piped = run({u"fmt"_s, u"--check"_s, u"-"_s, FileName}, indented(m_example));
+    QCOMPARE(piped.exitCode, 1);
+    QCOMPARE(piped.output, u"standard input: would change\n"_s);
+}
+
+void tst_vrndevice_items::fmtJson()
+{
+    QVERIFY(Files::write(path(u"other"_s), indented(m_example)));
+    const auto states = [](const SResult &result) {
+        QStringList list;
+        for (const QJsonValue file : result.json().value(u"files"_s).toArray()) {
+            list << toJson(file[u"path"].toString(), file[u"state"].toString());
+        }
+        return list;
+    };
+    const QStringList files = {FileName, u"other"_s, u"missing"_s};
+    const SResult checked = run(QStringList{u"fmt"_s, u"--json"_s, u"--check"_s} + files);
+    QCOMPARE(checked.exitCode, 3);
+    QCOMPARE(states(checked),
+             QStringList(
+                 {FileName + u"=canonical"_s, u"other=notCanonical"_s, u"missing=unreadable"_s}));
+    const SResult rewritten = run(QStringList{u"fmt"_s, u"--json"_s} + files);
+    QCOMPARE(rewritten.exitCode, 3);
+    QCOMPARE(
+        states(rewritten),
+        QStringList({FileName + u"=canonical"_s, u"other=rewritten"_s, u"missing=unreadable"_s}));
+}
+
+void tst_vrndevice_items::fmtFilters()
+{
+    for (const QByteArray &input : {m_example, indented(m_example)}) {
+        const SResult result = run({u"fmt"_s, u"-"_s}, input);
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(result.output.toUtf8(), m_example);
+        QCOMPARE(result.errors, QString());
+    }
+}
+
+void tst_vrndevice_items::fmtGoesOnBehindAnUnreadableFile()
+{
+    QVERIFY(Files::write(path(u"broken"_s), m_example.chopped(20)));
+    QVERIFY(Files::write(path(u"other"_s), indented(m_example)));
+    const SResult result = run({u"fmt"_s, u"missing"_s, u"broken"_s, u"."_s, u"other"_s});
+    QCOMPARE(result.exitCode, 3);
+    QCOMPARE(result.output, u"other: rewritten\n"_s);
+    QVERIFY2(result.errors.contains(u"error: missing: No such file"_s), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(u"broken:"_s), qPrintable(result.errors));
+    QCOMPARE(Files::read(path(u"broken"_s)), m_example.chopped(20));
+}
+
+void tst_vrndevice_items::fmtOfAFullDisk()
+{
+    QVERIFY(Files::write(path(u"other"_s), indented(m_example)));
+    const FullDisk disk(1000);
+    const SResult result = run({u"fmt"_s, u"--json"_s, u"other"_s});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.output.contains(u"\"notSaved\""_s));
+    QCOMPARE(Files::read(path(u"other"_s)), indented(m_example));
+}
+
+void tst_vrndevice_items::newListsTemplates()
+{
+    const SResult result = run({u"new"_s, u"--list-templates"_s});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(
+        result.output,
+        u"kc2-kd2-drive  A KC2 controller with one KD2 drive\n"
+        "kd3-drive      A single KD3 drive\n"
+        "kd3-ethercat   A KD3 controller with two KD3 drives and an EtherCAT master plug-in\n"_s);
+    QStringList names;
+    const QJsonObject json = run({u"new"_s, u"--list-templates"_s, u"--json"_s}).json();
+    for (const QJsonValue entry : json.value(u"templates"_s).toArray()) {
+        QVERIFY(!entry[u"description"].toString().isEmpty());
+        names << entry[u"name"].toString() + u".3deco"_s;
+    }
+    QCOMPARE(names, templateDirectory().entryList(QDir::Files, QDir::Name));
+}
+
+void tst_vrndevice_items::newFromTemplate_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("deviceClass");
+    QTest::addColumn<QStringList>("drives");
+    QTest::addColumn<QString>("plugins");
+    QTest::newRow("controller KC2")
+        << u"kc2-kd2-drive"_s << u"kc2"_s << QStringList{u"Sub-Device 0, KD2"_s} << QString();
+    QTest::newRow("drive") << u"kd3-drive"_s << u"kd3"_s << QStringList{u"DRIVE-0, KD3"_s}
+                           << QString();
+    QTest::newRow("controller KD3")
+        << u"kd3-ethercat"_s << u"kd3"_s << QStringList{u"DRIVE-0, KD3"_s, u"DRIVE-1, KD3"_s}
+        << u"CECatMaster"_s;
+}
+
+void tst_vrndevice_items::newFromTemplate()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, deviceClass);
+    QFETCH(QStringList, drives);
+    QFETCH(QString, plugins);
+    const QDate before = QDate::currentDate();
+    const QString option = u"--template=%1"_s.arg(name);
+    const SResult result = run({u"new"_s, u"made"_s, option, u"--name=Größe 1"_s});
+    const QDate after = QDate::currentDate();
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, u"Created made: device Größe 1\n"_s);
+    QCOMPARE(result.errors, QString());
+
+    const MessageCatcher messages;
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(path(u"made"_s)));
+    QVERIFY(file.configuration(device));
+    QVERIFY(messages.messages().isEmpty());
+    QCOMPARE(device.name(), u"Größe 1"_s);
+    QCOMPARE(file.deviceClassToStr(device.deviceClass()), deviceClass);
+    QStringList found;
+    for (const CSubDeviceElement &drive : device.subDevices()) {
+        found << drive.name() + (drive.isKD2() ? u", KD2"_s : u", KD3"_s);
+    }
+    QCOMPARE(found, drives);
+    QCOMPARE(device.plugins().value(0).name(), plugins);
+    QCOMPARE(file.description().name(), u"Größe 1"_s);
+    for (const QDate &date : {file.description().creationDate(), file.description().revisionDate(),
+                              file.metaData().date()}) {
+        QVERIFY(date >= before && date <= after);
+    }
+    // The other directories are where the layout puts them.
+    QCOMPARE(device.odictFile().projectPath(), u"Größe 1/opt/velkor/conf/"_s);
+    QCOMPARE(device.subDevice(0).parameterFile().projectPath(),
+             u"Größe 1/velkor/subdevices/0/param/"_s);
+    QVERIFY(!Files::read(path(u"made"_s)).contains("NewDevice"));
+
+    const SResult sameClass =
+        run({u"new"_s, u"same"_s, option, u"--name=Größe 1"_s, u"--class"_s, deviceClass});
+    QCOMPARE(sameClass.exitCode, 0);
+    QCOMPARE(undated(Files::read(path(u"same"_s))), undated(Files::read(path(u"made"_s))));
+    const QString otherClass = deviceClass == u"kd3"_s ? u"kc2"_s : u"kd3"_s;
+    const SResult refused =
+        run({u"new"_s, u"none"_s, option, u"--name=N"_s, u"--class"_s, otherClass});
+    QCOMPARE(refused.exitCode, 1);
+    QVERIFY2(refused.errors.contains(u"The template %1 is for the class '%2', not for %3."_s.arg(
+                 name, deviceClass, otherClass)),
+             qPrintable(refused.errors));
+    QVERIFY(!QFileInfo::exists(path(u"none"_s)));
+}
+
+void tst_vrndevice_items::newFromAFile()
+{
+    const QString option = u"--template=%1"_s.arg(FileName);
+    const SResult result = run({u"new"_s, u"--json"_s, u"made"_s, option, u"--name=Line 2"_s});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.json(), run({u"show"_s, u"--json"_s, u"made"_s}).json());
+    QCOMPARE(bytes(), m_example);
+
+    // It is the same but for names, directories in the project, dates and the author.
+    QByteArray made = Files::read(path(u"made"_s));
+    QVERIFY(!made.contains("PackagingLine"));
+    QVERIFY(made.contains("<Author/>"));
+    QCOMPARE(made.count("<ProjectDir>Line 2/"), m_example.count("<ProjectDir>PackagingLine/"));
+    made.replace("Line 2/", "PackagingLine/")
+        .replace("  <Name>Line 2</Name>\n  <Comment>Commissioned",
+                 "  <Name>Packaging line</Name>\n"
+                 "  <Comment>Commissioned")
+        .replace("<Name>Line 2<", "<Name>PackagingLine<")
+        .replace("<Author/>", "<Author>Commissioning</Author>");
+    QCOMPARE(undated(made), undated(m_example));
+}
+
+void tst_vrndevice_items::newKeepsWhatItDoesNotKnow()
+{
+    QByteArray document = m_example;
+    document.replace("  <Config>\n",
+                     "  <!--kept-->\n  <Vendor note=\"1\">\n"
+                     "   <ProjectDir>PackagingLine/</ProjectDir>\n  </Vendor>\n  <Config>\n");
+    QVERIFY(Files::write(path(u"base"_s), document));
+    QCOMPARE(run({u"new"_s, u"made"_s, u"--template=base"_s, u"--name=N"_s}).exitCode, 0);
+    QVERIFY(Files::read(path(u"made"_s))
+                .contains("  <!--kept-->\n  <Vendor note=\"1\">\n"
+                          "   <ProjectDir>PackagingLine/</ProjectDir>\n  </Vendor>\n"));
+}
+
+void tst_vrndevice_items::newRefusesTemplates()
+{
+    const auto make = [this](const QString &from) {
+        return run({u"new"_s, u"made"_s, u"--template"_s, from, u"--name=N"_s});
+    };
+    const SResult missing = make(u"kd3"_s);
+    QCOMPARE(missing.exitCode, 3);
+    QVERIFY2(missing.errors.contains(u"There is no template 'kd3', and no such file. Built in are: "
+                                     "kc2-kd2-drive, kd3-drive, kd3-ethercat."_s),
+             qPrintable(missing.errors));
+    QVERIFY(Files::write(path(u"broken"_s), m_example.chopped(20)));
+    QCOMPARE(make(u"broken"_s).exitCode, 3);
+    QVERIFY(Files::write(path(u"empty"_s), "<VornDeviceConfig version=\"1.0\"/>"));
+    const SResult empty = make(u"empty"_s);
+    QCOMPARE(empty.exitCode, 3);
+    QVERIFY(empty.errors.contains(u"empty: The configuration has no device."_s));
+    const SResult control =
+        run({u"new"_s, u"made"_s, u"--template=kd3-drive"_s, u"--name=a\u0001"_s});
+    QCOMPARE(control.exitCode, 1);
+    QVERIFY2(control.errors.contains(u"U+0001"_s), qPrintable(control.errors));
+    QVERIFY(!QFileInfo::exists(path(u"made"_s)));
+
+    const SResult present = run({u"new"_s, FileName, u"--template=kd3-drive"_s, u"--name=N"_s});
+    QCOMPARE(present.exitCode, 1);
+    QCOMPARE(bytes(), m_example);
+    // A file that is called like a built-in template is named with its directory.
+    QVERIFY(Files::write(path(u"kd3-drive"_s), m_example));
+    QCOMPARE(make(u"./kd3-drive"_s).exitCode, 0);
+    QCOMPARE(run({u"get"_s, u"made"_s, u"drive[2].name"_s}).output, u"Gluer\n"_s);
+}
+
+void tst_vrndevice_items::newPrintsTheDocument()
+{
+    const QStringList options = {u"--template=kd3-drive"_s, u"--name=N"_s};
+    QCOMPARE(run(QStringList{u"new"_s, u"made"_s} + options).exitCode, 0);
+    const SResult result = run(QStringList{u"new"_s, u"-"_s} + options);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(undated(result.output.toUtf8()), undated(Files::read(path(u"made"_s))));
+    const SResult piped =
+        run({u"new"_s, u"-"_s, u"--template=-"_s, u"--name=N"_s}, Files::read(path(u"made"_s)));
+    QCOMPARE(undated(piped.output.toUtf8()), undated(result.output.toUtf8()));
+}
+
+void tst_vrndevice_items::templatesAreInOrder_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const QFileInfo &file : templateDirectory().entryInfoList(QDir::Files, QDir::Name)) {
+        QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    }
+}
+
+void tst_vrndevice_items::templatesAreInOrder()
+{
+    QFETCH(QString, path);
+    QCOMPARE(run({u"fmt"_s, u"--check"_s, path}).exitCode, 0);
+    const MessageCatcher messages;
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(path));
+    QVERIFY(file.configuration(device));
+    QVERIFY(messages.messages().isEmpty());
+    QCOMPARE(file.currentFileVersion(), u"1.0"_s);
+    QVERIFY(file.description().creationDate().isValid());
+    QVERIFY(file.description().revisionDate().isValid());
+
+    const CDeviceFileSystem layout(device);
+    QCOMPARE(device.odictFile().devicePath(), layout.stdObjectDictionaryPath());
+    QCOMPARE(device.faultTextFile().devicePath(), layout.stdFaultTextFilePath());
+    if (!device.etherCatMasterFile().isNull()) {
+        QCOMPARE(device.etherCatMasterFile().devicePath(), layout.stdEtherCatMasterFilePath());
+    }
+    for (const CSubDeviceElement &drive : device.subDevices()) {
+        const int number = drive.driveId();
+        QCOMPARE(drive.hardwareIdStr(), device.hardwareIdStr());
+        QCOMPARE(drive.parameterFile().devicePath(), layout.smSubDeviceParamPath(number));
+        if (drive.isKD2()) {
+            const CSubDeviceKD2Element kd2 = drive.toKD2();
+            QCOMPARE(kd2.kd2ParameterFile().devicePath(), layout.smSubDeviceParamPath(number));
+            QCOMPARE(kd2.kd2LogicFile().devicePath(), layout.smSubDeviceLogicPath(number));
+            QCOMPARE(kd2.kd2FirmwareFile().devicePath(), layout.smSubDeviceFirmwarePath(number));
+        }
+    }
+    for (const CFileElement &entry : device.allFiles(
+             NvrnDeviceCore::DEVICE_FILE_OBJECT_DICTIONARY | NvrnDeviceCore::DEVICE_FILE_FAULT_TEXTS
+             | NvrnDeviceCore::DEVICE_FILE_ETHERCAT_MASTER
+             | NvrnDeviceCore::DEVICE_FILE_SUB_DEVICE_PARAMETERS
+             | NvrnDeviceCore::DEVICE_FILE_KD2_FIRMWARE | NvrnDeviceCore::DEVICE_FILE_KD2_LOGIC
+             | NvrnDeviceCore::DEVICE_FILE_KD2_PARAMETERS)) {
+        QCOMPARE(entry.projectPath(), layout.toRelativeProjectPath(entry.devicePath()));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_vrndevice_items)
+#include "tst_vrndevice_items.moc"
