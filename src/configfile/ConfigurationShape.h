@@ -125,6 +125,8 @@ struct SNode {
     QString word;
     /** For users; of a list that of an entry, with %1 for its key. */
     const char *text = nullptr;
+    /** Of a list: its entries together. */
+    const char *heading = nullptr;
     /** The path does not begin with that of the node around it. */
     bool isAtTop = false;
     /** Of an item. */
@@ -151,5 +153,7 @@ const SNode &root();
 
 /** A text of these tables in the user's language. */
 QString label(const char *text);
+/** The same as a heading, or before a colon: with a capital letter. */
+QString title(const char *text);
 
 } // namespace ConfigurationShape
