@@ -1,67 +1,25 @@
 #include "configfile/CDeviceConfigurationFileBase.h"
 
+#include "elements/DriveNumbers.h"
+#include "elements/StartOptions.h"
 #include "imported/CMessageBoardHelper.h"
 #include "imported/CStr.h"
+#include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
-#include "vocabulary/TextTables.h"
 
 #include <QCoreApplication>
 #include <QDomDocument>
-
-#include <bitset>
 
 using namespace NVornXmlTags;
 
 namespace {
 
 const QLatin1Char OptionSeparator(' ');
-const int DriveNumbers = 256;
 
 /** The texts of this class, under the context in which they are translated. */
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile)
-};
-
-/** Gives each sub-device a drive number of its own, whatever the document says. */
-class DriveNumberKeeper
-{
-public:
-    /** Takes the number told by @p text; -1 when that is no drive number or is taken. */
-    int take(const QString &text)
-    {
-        bool ok = false;
-        const uint id = text.toUInt(&ok);
-        if (!ok || id >= DriveNumbers || m_used.test(id)) {
-            return -1;
-        }
-        m_used.set(id);
-        return static_cast<int>(id);
-    }
-
-    /** Takes the number above all used ones, or the lowest free one; -1 when all are used. */
-    int takeNext()
-    {
-        // 255 is left to documents that ask for it: elsewhere it means "no drive number".
-        int id = DriveNumbers - 1;
-        while (id > 0 && !m_used.test(static_cast<size_t>(id - 1))) {
-            --id;
-        }
-        if (id == DriveNumbers - 1) {
-            id = 0;
-            while (id < DriveNumbers && m_used.test(static_cast<size_t>(id))) {
-                ++id;
-            }
-        }
-        if (id == DriveNumbers) {
-            return -1;
-        }
-        m_used.set(static_cast<size_t>(id));
-        return id;
-    }
-
-private:
-    std::bitset<DriveNumbers> m_used;
 };
 
 } // namespace
@@ -142,8 +100,7 @@ QDomElement CDeviceConfigurationFileBase::createSubDeviceDomElement(QDomElement 
         return QDomElement();
     }
     QDomElement element = device.ownerDocument().createElement(TAG_SUB_DEVICE);
-    element.setAttribute(
-        ATTR_TYPE, TextTables::text(TextTables::subDeviceTypes(), NvrnDeviceCore::ELEMENT_UNKNOWN));
+    element.setAttribute(ATTR_TYPE, DriveTypes::unknown());
     device.appendChild(element);
     return element;
 }
@@ -202,8 +159,7 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
         return;
     }
     QDomElement element = createSubDeviceDomElement(device);
-    element.setAttribute(ATTR_TYPE,
-                         TextTables::text(TextTables::subDeviceTypes(), subDevice.type()));
+    element.setAttribute(ATTR_TYPE, DriveTypes::text(subDevice.type()));
     setNodeValue(TAG_HARDWAREID, subDevice.hardwareIdStr(), element);
     setNodeValue(TAG_NAME, subDevice.name(), element);
     setNodeValue(TAG_COMMENT, subDevice.comment(), element);
@@ -286,25 +242,18 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
                                                      const QDomElement &element) const
 {
     subDevices.clear();
-    DriveNumberKeeper numbers;
-    QList<int> withoutNumber;
+    QStringList numberTexts;
     for (QDomElement child = element.firstChildElement(TAG_SUB_DEVICE); !child.isNull();
          child = child.nextSiblingElement(TAG_SUB_DEVICE)) {
-        CSubDeviceElement subDevice = subDeviceElement(child);
-        const int id = numbers.take(getNodeValue(TAG_DRIVE_NO, child));
-        if (id < 0) {
-            withoutNumber.append(subDevices.size());
-        } else {
-            subDevice.setDriveId(static_cast<quint8>(id));
-        }
-        subDevices.append(subDevice);
+        subDevices.append(subDeviceElement(child));
+        numberTexts.append(getNodeValue(TAG_DRIVE_NO, child));
     }
-    // Last, so that none of them takes a number that another one has in the document.
+    const QVector<DriveNumbers::SAssigned> numbers = DriveNumbers::assigned(numberTexts);
     QList<int> withoutPlace;
-    for (const int index : withoutNumber) {
+    for (int index = 0; index < numbers.size(); ++index) {
         CSubDeviceElement &subDevice = subDevices[index];
-        const int id = numbers.takeNext();
-        if (id < 0) {
+        const DriveNumbers::SAssigned &assigned = numbers.at(index);
+        if (assigned.number < 0) {
             withoutPlace.prepend(index);
             CMessageBoardHelper::setDebugWarning(
                 Texts::tr("The sub-device '%1' is left out: all drive numbers are used.")
@@ -312,11 +261,13 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
                 logfile());
             continue;
         }
-        subDevice.setDriveId(static_cast<quint8>(id));
-        CMessageBoardHelper::setDebugWarning(
-            Texts::tr("The sub-device '%1' has no drive number of its own and gets %2.")
-                .arg(subDevice.name(), QString::number(id)),
-            logfile());
+        subDevice.setDriveId(static_cast<quint8>(assigned.number));
+        if (!assigned.isOwn) {
+            CMessageBoardHelper::setDebugWarning(
+                Texts::tr("The sub-device '%1' has no drive number of its own and gets %2.")
+                    .arg(subDevice.name(), QString::number(assigned.number)),
+                logfile());
+        }
     }
     for (const int index : withoutPlace) {
         subDevices.removeAt(index);
@@ -325,9 +276,7 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
 
 CSubDeviceElement CDeviceConfigurationFileBase::subDeviceElement(const QDomElement &element) const
 {
-    const QString kd2 =
-        TextTables::text(TextTables::subDeviceTypes(), NvrnDeviceCore::ELEMENT_KD2_SUB_DEVICE);
-    if (element.attribute(ATTR_TYPE) == kd2) {
+    if (DriveTypes::isKd2(element.attribute(ATTR_TYPE))) {
         CSubDeviceKD2Element subDevice;
         readSubDevice(subDevice, element);
         subDevice.setKd2ParameterFile(singleFile(TAG_KD2_PARAM, element));
@@ -465,8 +414,7 @@ bool CDeviceConfigurationFileBase::opcUaFlag(const QDomElement &config) const
 
 QStringList CDeviceConfigurationFileBase::optionList(const QDomElement &config) const
 {
-    return getNodeValue(config.firstChildElement(TAG_OPTIONS))
-        .split(OptionSeparator, Qt::SkipEmptyParts);
+    return StartOptions::deviceWords(getNodeValue(config.firstChildElement(TAG_OPTIONS)));
 }
 
 void CDeviceConfigurationFileBase::setCurrentFileVersion(const QString &version)

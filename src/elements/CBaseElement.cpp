@@ -3,6 +3,7 @@
 #include "elements/CDeviceElement.h"
 #include "elements/CSubDeviceKD2Element.h"
 #include "elements/CSubDeviceKD3Element.h"
+#include "elements/DriveNumbers.h"
 #include "elements/FieldList.h"
 
 #include <QFileInfo>
@@ -18,7 +19,7 @@ public:
     QString comment;
     CDeviceHardwareId hardwareId;
     QString configurationName = QStringLiteral("STD");
-    quint8 driveId = 255;
+    quint8 driveId = DriveNumbers::None;
 
     template <typename Self>
     static auto fields(Self &self)

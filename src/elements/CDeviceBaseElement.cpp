@@ -1,9 +1,11 @@
 #include "elements/CDeviceBaseElement.h"
 
 #include "devicefiles/CDeviceFileSystem.h"
+#include "elements/DriveNumbers.h"
 #include "elements/ElementPaths.h"
 #include "elements/FieldList.h"
 #include "elements/FileCollector.h"
+#include "elements/StartOptions.h"
 #include "vocabulary/NvrFileNames.h"
 #include "vocabulary/TextTables.h"
 
@@ -47,15 +49,6 @@ public:
 };
 
 namespace {
-
-const quint8 NoDriveId = 255;
-
-const QString OpcUaOption = QStringLiteral("-opc");
-
-bool isOption(const QString &text)
-{
-    return text.startsWith(QLatin1Char('-'));
-}
 
 template <typename Item>
 bool removeIndex(QList<Item> &list, int index)
@@ -187,7 +180,7 @@ void CDeviceBaseElement::setConfigurationName(const QString &configurationName)
 
 quint8 CDeviceBaseElement::driveId() const
 {
-    return NoDriveId;
+    return DriveNumbers::None;
 }
 
 void CDeviceBaseElement::setDriveId(unsigned char driveId)
@@ -349,7 +342,7 @@ QStringList CDeviceBaseElement::fpgaFiles() const
 
 quint8 CDeviceBaseElement::insertSubDevice(CSubDeviceElement &subDevice, unsigned char id)
 {
-    if (id == NoDriveId && !m_subDevices.contains(NoDriveId)) {
+    if (id == DriveNumbers::None && !m_subDevices.contains(DriveNumbers::None)) {
         id = nextFreeDriveID();
     }
     fitSubDevice(subDevice, id, hardwareIdStr());
@@ -456,14 +449,14 @@ void CDeviceBaseElement::setOptions(const QString &options)
 
 void CDeviceBaseElement::appendOption(const QString &option)
 {
-    if (isOption(option) && !options().contains(option)) {
+    if (StartOptions::isOption(option) && !options().contains(option)) {
         d->options.append(option);
     }
 }
 
 bool CDeviceBaseElement::removeOption(const QString &option)
 {
-    if (!isOption(option)) {
+    if (!StartOptions::isOption(option)) {
         return false;
     }
     // indexOf() matches whole entries, so that "-op" does not remove "-opc".
@@ -667,9 +660,9 @@ void CDeviceBaseElement::setOpcUaEnabled(bool enabled)
 {
     d->opcUaEnabled = enabled;
     if (enabled) {
-        appendOption(OpcUaOption);
+        appendOption(StartOptions::opcUa());
     } else {
-        removeOption(OpcUaOption);
+        removeOption(StartOptions::opcUa());
     }
 }
 
@@ -773,7 +766,7 @@ bool CDeviceBaseElement::removeSubDevice(unsigned char id)
 
 quint8 CDeviceBaseElement::nextFreeDriveID() const
 {
-    return m_subDevices.isEmpty() ? quint8(0) : static_cast<quint8>(m_subDevices.lastKey() + 1);
+    return DriveNumbers::behind(m_subDevices.isEmpty() ? -1 : m_subDevices.lastKey());
 }
 
 QString CDeviceBaseElement::stdAppPluginDevicePath() const

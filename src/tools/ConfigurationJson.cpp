@@ -1,5 +1,7 @@
 #include "tools/ConfigurationJson.h"
 
+#include "vocabulary/DriveTypes.h"
+
 namespace {
 
 QJsonObject toJson(const CPluginElement &plugin)
@@ -48,7 +50,7 @@ QJsonObject toJson(const CFileElement &file)
 
 QString subDeviceTypeName(const CSubDeviceElement &subDevice)
 {
-    return subDevice.isKD2() ? QStringLiteral("KD2_drive") : QStringLiteral("KD3_drive");
+    return subDevice.isKD2() ? DriveTypes::kd2() : DriveTypes::kd3();
 }
 
 QJsonObject toJson(const CSubDeviceElement &subDevice)

@@ -2,12 +2,15 @@
 
 #include "commissioning/CConfigurationItems.h"
 #include "devicefiles/CDeviceFileSystem.h"
+#include "elements/CanonicalPaths.h"
+#include "elements/DriveNumbers.h"
+#include "elements/StartOptions.h"
 #include "imported/CDomDoc.h"
 #include "imported/CStr.h"
+#include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QRegExp>
 
 #include <algorithm>
@@ -26,15 +29,8 @@ class Texts
 };
 
 const QLatin1Char Separator('/');
-const QLatin1Char Blank(' ');
 const QLatin1Char Hyphen('-');
 const QString OptionList = QStringLiteral("device.options");
-const QString OpcUaOption = QStringLiteral("-opc");
-const QString Kd2Type = QStringLiteral("KD2_drive");
-const QString Kd3Type = QStringLiteral("KD3_drive");
-const QString UnknownType = QStringLiteral("UNKNOWN_drive");
-const uint HighestDriveNumber = 254;
-const uint UnassignedDriveNumber = 255;
 /** No name of a file or directory can be longer; in bytes. */
 const int LongestName = 255;
 /** UTF-16 units. A longer key is no help for anybody, and may stand in many findings. */
@@ -115,14 +111,6 @@ QString meant(const QString &text, const QStringList &allowed)
             return isSameIgnoringCase(candidate, text);
         });
     return found == allowed.cend() ? QString() : *found;
-}
-
-/** The key of a drive: its number as it is read, and the text where that is none. */
-QString driveKey(const QString &text)
-{
-    bool isNumber = false;
-    const uint number = text.toUInt(&isNumber);
-    return isNumber && number <= UnassignedDriveNumber ? QString::number(number) : text;
 }
 
 } // namespace
@@ -262,7 +250,7 @@ QString DocumentCheck::itemOf(const SElement &type, const Fields &fields, const 
         return path;
     }
     const QString text = fields.text(type.keyTag);
-    return entryPath(path, type.meaning == MEANING_DRIVE ? driveKey(text) : text);
+    return entryPath(path, type.meaning == MEANING_DRIVE ? DriveNumbers::key(text) : text);
 }
 
 QString DocumentCheck::entryPath(const QString &list, const QString &key)
@@ -548,46 +536,44 @@ CDeviceHardwareId DocumentCheck::checkHardwareId(const Fields &fields, const QSt
 void DocumentCheck::checkOptions(const Fields &fields)
 {
     const QDomElement element = fields.element(TAG_OPTIONS);
-    const QStringList words = CDomDoc::text(element).split(Blank, Qt::SkipEmptyParts);
+    // What stands before the first option is not one, but is listed as one.
+    const QList<StartOptions::SOption> options =
+        StartOptions(CDomDoc::text(element), StartOptions::SEPARATOR_SPACE).options();
     const QString expected = Texts::tr("options like -trace with one blank between each two");
-    // What stands before the first option is none, but is listed as one.
-    QList<QStringList> options;
-    for (const QString &word : words) {
-        if (word.startsWith(Hyphen) || options.isEmpty()) {
-            options.append(QStringList());
-        }
-        options.last().append(word);
-    }
     const auto hasSpace = [](const QString &word) {
         return std::any_of(word.cbegin(), word.cend(), [](QChar c) { return c.isSpace(); });
     };
-    const auto badWord = std::find_if(words.cbegin(), words.cend(), hasSpace);
-    if (badWord != words.cend()) {
-        report(OPTION_INVALID, {element, OptionList},
-               {Texts::tr("Options are separated by something other than a blank."), *badWord,
-                expected, Texts::tr("The device takes this for one word.")});
+    for (const StartOptions::SOption &option : options) {
+        const auto badWord = std::find_if(option.words.cbegin(), option.words.cend(), hasSpace);
+        if (badWord != option.words.cend()) {
+            report(OPTION_INVALID, {element, OptionList},
+                   {Texts::tr("Options are separated by something other than a blank."), *badWord,
+                    expected, Texts::tr("The device takes this for one word.")});
+            break;
+        }
     }
     QSet<QStringList> known;
-    for (const QStringList &option : qAsConst(options)) {
-        const SPlace place = {element, entryPath(OptionList, option.constFirst())};
-        const QString text = option.join(Blank);
-        if (option.constFirst() == OpcUaOption && m_opcUaOption.element.isNull()) {
+    for (const StartOptions::SOption &option : options) {
+        const QString name = option.name();
+        const SPlace place = {element, entryPath(OptionList, name)};
+        const QString text = option.text();
+        if (name == StartOptions::opcUa() && m_opcUaOption.element.isNull()) {
             m_opcUaOption = place;
         }
-        if (option.constFirst() == Hyphen) {
+        if (name == Hyphen) {
             report(OPTION_INVALID, place,
                    {Texts::tr("An option has a hyphen, but no name."), text, expected, QString()});
-        } else if (!option.constFirst().startsWith(Hyphen) && !isBlank(text)) {
+        } else if (!StartOptions::isOption(name) && !isBlank(text)) {
             report(OPTION_INVALID, place,
                    {Texts::tr("'%1' is no option, and follows none.").arg(shown(text)), text,
                     expected,
                     Texts::tr("An option begins with a hyphen; what follows it is its argument.")});
-        } else if (known.contains(option)) {
+        } else if (known.contains(option.words)) {
             report(OPTION_TWICE, place,
                    {Texts::tr("The option '%1' stands more than once.").arg(shown(text)), text,
                     QString(), Texts::tr("Remove all but one.")});
         }
-        known.insert(option);
+        known.insert(option.words);
     }
 }
 
@@ -612,15 +598,16 @@ void DocumentCheck::checkConfig(const Fields &fields, const QString &item)
     if (m_isOpcUaFlagValid && m_isOpcUaEnabled && !hasOpcUaOption) {
         report(OPC_UA_MISMATCH, m_opcUaFlag,
                {Texts::tr("The OPC UA server is enabled, but the option %1 is missing.")
-                    .arg(OpcUaOption),
+                    .arg(StartOptions::opcUa()),
                 VALUE_TRUE, VALUE_FALSE,
-                Texts::tr("Add the option %1, or disable the server.").arg(OpcUaOption)});
+                Texts::tr("Add the option %1, or disable the server.").arg(StartOptions::opcUa())});
     } else if (m_isOpcUaFlagValid && !m_isOpcUaEnabled && hasOpcUaOption) {
-        report(OPC_UA_MISMATCH, m_opcUaOption,
-               {Texts::tr("There is the option %1, but the OPC UA server is not enabled.")
-                    .arg(OpcUaOption),
-                OpcUaOption, QString(),
-                Texts::tr("Enable the server, or remove the option %1.").arg(OpcUaOption)});
+        report(
+            OPC_UA_MISMATCH, m_opcUaOption,
+            {Texts::tr("There is the option %1, but the OPC UA server is not enabled.")
+                 .arg(StartOptions::opcUa()),
+             StartOptions::opcUa(), QString(),
+             Texts::tr("Enable the server, or remove the option %1.").arg(StartOptions::opcUa())});
     }
     const QString executionPlugin = fields.text(TAG_EXECUTIONPLUGIN);
     if (!executionPlugin.isEmpty() && !m_plugins.contains(executionPlugin)) {
@@ -822,30 +809,32 @@ void DocumentCheck::checkDrive(const Fields &fields, const QString &item)
 
 void DocumentCheck::checkDriveType(const Fields &fields, const QString &item)
 {
-    const QStringList types = {Kd2Type, Kd3Type};
+    const QStringList types = DriveTypes::all();
     const SPlace place = {fields.parent(), item + QStringLiteral(".type")};
     const QString text = fields.parent().attribute(ATTR_TYPE);
-    if (text == Kd3Type) {
+    if (text == DriveTypes::kd3()) {
         for (const QString &tag : {TAG_KD2_PARAM, TAG_KD2_LOGIC, TAG_KD2_FIRMWARE}) {
             if (fields.element(tag).hasChildNodes()) {
                 report(DRIVE_TYPE_MISMATCH, {fields.element(tag), item},
                        {Texts::tr("'%1' is passed over: the drive is of type '%2'.").arg(tag, text),
-                        text, Kd2Type, Texts::tr("Remove the file, or mend the drive's type.")});
+                        text, DriveTypes::kd2(),
+                        Texts::tr("Remove the file, or mend the drive's type.")});
             }
         }
     } else if (text.isEmpty()) {
         report(DRIVE_TYPE_MISSING, place,
-               {Texts::tr("The drive has no type; it is read as '%1'.").arg(Kd3Type), QString(),
-                inWords(types), QString()});
-    } else if (text == UnknownType) {
+               {Texts::tr("The drive has no type; it is read as '%1'.").arg(DriveTypes::kd3()),
+                QString(), inWords(types), QString()});
+    } else if (text == DriveTypes::unknown()) {
         report(DRIVE_TYPE_UNDEFINED, place,
-               {Texts::tr("The type of the drive is left open; it is read as '%1'.").arg(Kd3Type),
+               {Texts::tr("The type of the drive is left open; it is read as '%1'.")
+                    .arg(DriveTypes::kd3()),
                 text, inWords(types), QString()});
-    } else if (text != Kd2Type) {
+    } else if (text != DriveTypes::kd2()) {
         const QString wanted = meant(text, types);
         report(DRIVE_TYPE_UNKNOWN, place,
                {Texts::tr("There is no type '%1' of drives; the drive is read as '%2'.")
-                    .arg(shown(text), Kd3Type),
+                    .arg(shown(text), DriveTypes::kd3()),
                 text, inWords(types), wanted.isEmpty() ? QString() : caseHint(wanted)});
     }
 }
@@ -855,7 +844,7 @@ void DocumentCheck::checkDriveNumber(const Fields &fields, const QString &item)
     const SPlace place = {fields.place(TAG_DRIVE_NO), item + QStringLiteral(".driveNo")};
     const QString text = fields.text(TAG_DRIVE_NO);
     const QString expected =
-        Texts::tr("a number from 0 to %1").arg(QString::number(HighestDriveNumber));
+        Texts::tr("a number from 0 to %1").arg(QString::number(DriveNumbers::Highest));
     const QString nextFree =
         Texts::tr("The drive is read with the next number that no other drive has.");
     bool isNumber = false;
@@ -863,8 +852,8 @@ void DocumentCheck::checkDriveNumber(const Fields &fields, const QString &item)
     if (text.isEmpty()) {
         report(DRIVE_NUMBER_MISSING, place,
                {Texts::tr("The drive has no number."), QString(), expected, nextFree});
-    } else if (!isNumber || number > HighestDriveNumber) {
-        const bool isNone = isNumber && number == UnassignedDriveNumber;
+    } else if (!isNumber || number > DriveNumbers::Highest) {
+        const bool isNone = isNumber && number == DriveNumbers::None;
         report(DRIVE_NUMBER_INVALID, place,
                {Texts::tr("'%1' is no number of a drive.").arg(shown(text)), text, expected,
                 isNone ? Texts::tr("This number means that no number is assigned.") : nextFree});
@@ -967,7 +956,7 @@ bool DocumentCheck::checkFileName(const Fields &fields, const QString &item)
 void DocumentCheck::checkDevicePath(const CFileElement &file, const SPlace &place,
                                     const QString &text)
 {
-    const QString path = QDir::cleanPath(file.devicePath()) + Separator;
+    const QString path = CanonicalPaths::deviceDirectory(file);
     const QString expected = Texts::tr("a directory below %1 or %2")
                                  .arg(CDeviceFileSystem::smPath(), CDeviceFileSystem::optSMPath());
     if (components(file.devicePath()).contains(QLatin1String(".."))) {
@@ -1007,7 +996,7 @@ void DocumentCheck::checkDevicePath(const CFileElement &file, const SPlace &plac
 bool DocumentCheck::checkProjectPath(const CFileElement &file, const SPlace &place, bool isOfDevice)
 {
     const QString path = file.projectPath();
-    const QString clean = QDir::cleanPath(path);
+    const QString clean = CanonicalPaths::of(path);
     if (isAbsolute(path)) {
         report(PROJECT_PATH_ABSOLUTE, place,
                {Texts::tr("The directory '%1' is absolute.").arg(shown(path)), path,
@@ -1047,9 +1036,8 @@ void DocumentCheck::checkPlacedFiles(const QList<CFileElement> &files, const SPl
 
 bool DocumentCheck::claim(const CFileElement &file, const SPlace &place)
 {
-    const QString onDevice =
-        file.devicePath().isEmpty() ? QString() : QDir::cleanPath(file.deviceFilePath());
-    const QPair<QString, QString> key(onDevice, QDir::cleanPath(file.projectFilePath()));
+    const QString onDevice = CanonicalPaths::onDevice(file);
+    const QPair<QString, QString> key(onDevice, CanonicalPaths::inProject(file));
     const QString name = shown(file.fileName());
     if (m_files.contains(key)) {
         report(FILE_TWICE, place,
@@ -1076,7 +1064,7 @@ void DocumentCheck::checkInProject(const CFileElement &file, const SPlace &place
     if (m_project == nullptr) {
         return;
     }
-    const QString path = QDir::cleanPath(file.projectFilePath());
+    const QString path = CanonicalPaths::inProject(file);
     const ProjectFiles::SFile inProject = m_project->find(path);
     const QString name = shown(path);
     switch (inProject.state) {

@@ -2,6 +2,7 @@
 
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "vocabulary/DriveTypes.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -253,7 +254,7 @@ ConfigurationChanges::SChange ConfigurationChanges::ofItem(const SItemPath &path
 
 bool ConfigurationChanges::isKd2(const SSnapshotEntry &drive)
 {
-    return drive.value(TypeItem) == QLatin1String("KD2_drive");
+    return DriveTypes::isKd2(drive.value(TypeItem));
 }
 
 void ConfigurationChanges::appendItemDifferences(const QString &part, const SSnapshotEntry &before,

@@ -1,6 +1,7 @@
 #include "commissioning/compare/ConfigurationSnapshot.h"
 
 #include "commissioning/items/ItemPath.h"
+#include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QDate>
@@ -17,8 +18,6 @@ using SItem = CConfigurationItems::SItem;
 namespace {
 
 const QLatin1Char Dot('.');
-const QString Kd2Drive = QStringLiteral("KD2_drive");
-const QString Kd3Drive = QStringLiteral("KD3_drive");
 const QString Undefined = QStringLiteral("Undefined");
 
 /** More pairs of entries of one key are not compared with each other: that would take too long. */
@@ -152,7 +151,7 @@ QString SItemPath::entryPath() const
 QString defaultValue(const QString &list, const QString &item)
 {
     if (item == QLatin1String("type")) {
-        return list == QLatin1String("drive") ? Kd3Drive : Undefined;
+        return list == QLatin1String("drive") ? DriveTypes::kd3() : Undefined;
     }
     if (item == QLatin1String("class")) {
         return Undefined;
@@ -168,9 +167,8 @@ QString readValue(const CDeviceConfigurationFile10 &file, const QString &list, c
 {
     const QString word = item.section(Dot, -1);
     if (word == QLatin1String("type")) {
-        return list != QLatin1String("drive") ? file.typeToStr(file.strToType(text))
-            : text == Kd2Drive                ? Kd2Drive
-                                              : Kd3Drive;
+        return list == QLatin1String("drive") ? DriveTypes::read(text)
+                                              : file.typeToStr(file.strToType(text));
     }
     if (word == QLatin1String("class")) {
         return file.deviceClassToStr(file.strToDeviceClass(text));

@@ -3,6 +3,9 @@
 #include "commissioning/items/ItemPath.h"
 #include "commissioning/items/NearestName.h"
 #include "elements/CDeviceElement.h"
+#include "elements/DriveNumbers.h"
+#include "elements/StartOptions.h"
+#include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QCoreApplication>
@@ -24,12 +27,6 @@ class Texts
 };
 
 const QLatin1Char Hyphen('-');
-
-const QString Kd2Drive = QStringLiteral("KD2_drive");
-const QString Kd3Drive = QStringLiteral("KD3_drive");
-/** 255 means "no drive number" elsewhere. */
-const uint LargestNewDriveNumber = 254;
-const uint LargestDriveNumber = 255;
 
 enum class EKind {
     /** An element with items in it. */
@@ -282,95 +279,11 @@ int indexOfUnwritable(const QString &text)
     return -1;
 }
 
-/** The drive number that @p text tells, as readers of the document take it; else the text. */
-QString driveKey(const QString &text)
+/** People also separate options by other white space than the device knows. */
+StartOptions optionsIn(const QString &text)
 {
-    bool isNumber = false;
-    const uint number = text.toUInt(&isNumber);
-    return isNumber && number <= LargestDriveNumber ? QString::number(number) : text;
+    return {text, StartOptions::SEPARATOR_WHITE_SPACE};
 }
-
-/**
- * The start options in their one text, taken apart without losing how they stand there: each begins
- * at a "-" at the start or behind white space, and reaches to the next.
- */
-class OptionText
-{
-public:
-    struct SOption {
-        QString name;
-        QString argument;
-        /** The name begins here, and all that belongs to the option ends there. */
-        int begin = 0;
-        int end = 0;
-    };
-
-    explicit OptionText(const QString &text) : m_text(text)
-    {
-        int index = skipBlanks(0);
-        while (index < text.size()) {
-            SOption option;
-            option.begin = index;
-            int end = wordEnd(index);
-            option.name = text.mid(index, end - index);
-            const int argument = skipBlanks(end);
-            for (index = argument; index < text.size() && text.at(index) != Hyphen;) {
-                end = wordEnd(index);
-                index = skipBlanks(end);
-            }
-            option.end = end;
-            option.argument = text.mid(argument, std::max(0, end - argument));
-            m_options.append(option);
-        }
-    }
-
-    QList<SOption> options() const { return m_options; }
-
-    QString with(const QString &option) const
-    {
-        return m_text.isEmpty() ? option : m_text + QLatin1Char(' ') + option;
-    }
-
-    QString replaced(const SOption &option, const QString &name, const QString &argument) const
-    {
-        const QString text = argument.isEmpty() ? name : name + QLatin1Char(' ') + argument;
-        return m_text.left(option.begin) + text + m_text.mid(option.end);
-    }
-
-    QString without(const SOption &option) const
-    {
-        // With the white space on one side, so that the others stand as they stood.
-        const int next = skipBlanks(option.end);
-        if (next < m_text.size()) {
-            return m_text.left(option.begin) + m_text.mid(next);
-        }
-        int before = option.begin;
-        while (before > 0 && m_text.at(before - 1).isSpace()) {
-            --before;
-        }
-        return m_text.left(before);
-    }
-
-private:
-    int skipBlanks(int index) const
-    {
-        while (index < m_text.size() && m_text.at(index).isSpace()) {
-            ++index;
-        }
-        return index;
-    }
-
-    int wordEnd(int index) const
-    {
-        while (index < m_text.size() && !m_text.at(index).isSpace()) {
-            ++index;
-        }
-        return index;
-    }
-
-    const QString m_text;
-    QList<SOption> m_options;
-};
 
 QDomElement followed(QDomElement element, const QStringList &tags)
 {
@@ -399,7 +312,7 @@ QDomElement nextInside(const QDomElement &top, const QDomElement &element)
 
 bool isKd2(const QDomElement &drive)
 {
-    return drive.attribute(ATTR_TYPE) == Kd2Drive;
+    return DriveTypes::isKd2(drive.attribute(ATTR_TYPE));
 }
 
 /** What a path names. */
@@ -500,7 +413,7 @@ private:
 QString CConfigurationItemsPrivate::key(const SNode &list, const QDomElement &entry) const
 {
     const QString text = file.getNodeValue(followed(entry, list.children.first().tags));
-    return list.entry == EEntry::DRIVE ? driveKey(text) : text;
+    return list.entry == EEntry::DRIVE ? DriveNumbers::key(text) : text;
 }
 
 /** Whether readers of the document take @p element for an entry of the list. */
@@ -582,9 +495,10 @@ bool CConfigurationItemsPrivate::findEntry(const SItemPathStep &segment, SPlace 
     const QDomElement element = place.element();
     int left = segment.occurrence;
     if (list.kind == EKind::OPTIONS) {
-        const QList<OptionText::SOption> options = OptionText(file.getNodeValue(element)).options();
+        const QList<StartOptions::SOption> options =
+            optionsIn(file.getNodeValue(element)).options();
         for (int i = 0; i < options.size() && left > 0; ++i) {
-            left -= options.at(i).name == segment.key ? 1 : 0;
+            left -= options.at(i).name() == segment.key ? 1 : 0;
             place.option = left == 0 ? i : -1;
         }
         return left == 0;
@@ -643,7 +557,7 @@ bool CConfigurationItemsPrivate::step(const SItemPathStep &given, SPlace &place,
                         .arg(path, segment.word));
     }
     if (child->entry == EEntry::DRIVE) {
-        segment.key = driveKey(segment.key);
+        segment.key = DriveNumbers::key(segment.key);
         place.path = segment.text();
     }
     place.entry = segment;
@@ -693,9 +607,9 @@ bool CConfigurationItemsPrivate::isThere(const SPlace &place) const
 QString CConfigurationItemsPrivate::text(const SPlace &place) const
 {
     if (place.option >= 0) {
-        const OptionText::SOption option =
-            OptionText(file.getNodeValue(place.element())).options().at(place.option);
-        return place.isEntry ? option.argument : option.name;
+        const StartOptions::SOption option =
+            optionsIn(file.getNodeValue(place.element())).options().at(place.option);
+        return place.isEntry ? option.argument : option.name();
     }
     if (place.isEntry) {
         return QString();
@@ -745,8 +659,8 @@ void CConfigurationItemsPrivate::listNode(const SNode &node, const QDomElement &
         });
         break;
     case EKind::OPTIONS:
-        for (const auto &option : OptionText(file.getNodeValue(element)).options()) {
-            const QString optionPath = entryPath(option.name);
+        for (const auto &option : optionsIn(file.getNodeValue(element)).options()) {
+            const QString optionPath = entryPath(option.name());
             if (lists.entries != nullptr) {
                 lists.entries->append(optionPath);
             }
@@ -812,9 +726,9 @@ bool CConfigurationItemsPrivate::acceptsKey(const SNode &list, const QString &pa
     if (list.entry == EEntry::DRIVE) {
         bool isNumber = false;
         const uint number = key.toUInt(&isNumber);
-        return (isNumber && number <= LargestNewDriveNumber && QString::number(number) == key)
+        return (isNumber && number <= DriveNumbers::Highest && QString::number(number) == key)
             || fail(Texts::tr("%1: '%2' is no drive number; one is a number from 0 to %3")
-                        .arg(path, key, QString::number(LargestNewDriveNumber)));
+                        .arg(path, key, QString::number(DriveNumbers::Highest)));
     }
     if (list.entry == EEntry::OPTION) {
         const auto isSpace = [](QChar c) { return c.isSpace(); };
@@ -888,7 +802,7 @@ bool CConfigurationItemsPrivate::accepts(const SPlace &place, QString &value)
         }
         break;
     case EValue::DRIVE_TYPE:
-        if (value != Kd2Drive && value != Kd3Drive) {
+        if (!DriveTypes::all().contains(value)) {
             return fail(Texts::tr("%1: '%2' is no type of drives; there are KD2_drive and "
                                   "KD3_drive")
                             .arg(path, value));
@@ -970,17 +884,17 @@ QDomElement CConfigurationItemsPrivate::created(const SPlace &place)
 void CConfigurationItemsPrivate::setOption(const SPlace &place, const QString &value)
 {
     const QDomElement element = place.element();
-    const OptionText text(file.getNodeValue(element));
-    const OptionText::SOption option = text.options().at(place.option);
+    const StartOptions text = optionsIn(file.getNodeValue(element));
+    const StartOptions::SOption option = text.options().at(place.option);
     file.setNodeValue(element,
-                      place.isEntry ? text.replaced(option, option.name, value)
+                      place.isEntry ? text.replaced(option, option.name(), value)
                                     : text.replaced(option, value, option.argument));
 }
 
 void CConfigurationItemsPrivate::removeOption(const SPlace &place)
 {
     const QDomElement element = place.element();
-    const OptionText text(file.getNodeValue(element));
+    const StartOptions text = optionsIn(file.getNodeValue(element));
     file.setNodeValue(element, text.without(text.options().at(place.option)));
 }
 
@@ -1028,7 +942,7 @@ void CConfigurationItemsPrivate::addEntry(const SPlace &place)
         break;
     }
     case EEntry::OPTION:
-        file.setNodeValue(list, OptionText(file.getNodeValue(list)).with(key));
+        file.setNodeValue(list, optionsIn(file.getNodeValue(list)).with(key));
         break;
     case EEntry::NONE:
         break;

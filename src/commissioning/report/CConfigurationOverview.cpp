@@ -1,7 +1,11 @@
 #include "commissioning/CConfigurationOverview.h"
 
 #include "commissioning/items/ItemPaths.h"
+#include "elements/DriveNumbers.h"
+#include "elements/StartOptions.h"
 #include "vocabulary/NVornXmlTags.h"
+
+#include <QHash>
 
 #include <algorithm>
 
@@ -32,9 +36,6 @@ namespace {
 
 using SFile = CConfigurationOverview::SFile;
 using SDrive = CConfigurationOverview::SDrive;
-
-const int DriveNumbers = 256;
-const int NoDriveNumber = 255;
 
 /** Without a description in the document there is none: not one of today. */
 CDescriptionElement description(const CDeviceConfigurationFile10 &file)
@@ -113,17 +114,13 @@ QList<CConfigurationOverview::SPlugin> plugins(const CDeviceElement &device)
     return result;
 }
 
-/** The document tells words; one that does not begin with "-" is the argument of the one before. */
 QList<CConfigurationOverview::SOption> options(const QStringList &words)
 {
     ItemPaths paths(QStringLiteral("device.options"));
     QList<CConfigurationOverview::SOption> result;
-    for (const QString &word : words) {
-        if (word.startsWith(QLatin1Char('-')) || result.isEmpty()) {
-            result.append({paths.next(word), word});
-        } else {
-            result.last().text += QLatin1Char(' ') + word;
-        }
+    const StartOptions options(words.join(QLatin1Char(' ')), StartOptions::SEPARATOR_SPACE);
+    for (const StartOptions::SOption &option : options.options()) {
+        result.append({paths.next(option.name()), option.text()});
     }
     return result;
 }
@@ -146,69 +143,32 @@ QList<SFile> driveFiles(const CSubDeviceElement &drive, const QString &item)
     return result;
 }
 
-/**
- * The items of the drives, by the numbers with which the drives were read: a drive that has no
- * number of its own in the document was given one then.
- */
-class DriveItems
+/** The items of the drives, by the numbers with which the drives were read. */
+QHash<int, QString> driveItems(const CDeviceConfigurationFile10 &file)
 {
-public:
-    DriveItems(const CDeviceConfigurationFile10 &file, const CDeviceElement &device)
-    {
-        QStringList withoutNumber;
-        ItemPaths paths(QStringLiteral("drive"));
-        const QDomElement element = file.findDeviceElement();
-        const QString &tag = NVornXmlTags::TAG_SUB_DEVICE;
-        for (QDomElement child = element.firstChildElement(tag); !child.isNull();
-             child = child.nextSiblingElement(tag)) {
-            const QString text = file.getNodeValue(NVornXmlTags::TAG_DRIVE_NO, child);
-            bool ok = false;
-            const uint number = text.toUInt(&ok);
-            const bool isNumber = ok && number < DriveNumbers;
-            const QString item = paths.next(isNumber ? QString::number(number) : text);
-            if (isNumber && m_items[number].isEmpty()) {
-                m_items[number] = item;
-                m_isTold[number] = true;
-            } else {
-                withoutNumber.append(item);
-            }
-        }
-        for (const int number : givenNumbers(device)) {
-            m_items[number] = withoutNumber.isEmpty() ? QString() : withoutNumber.takeFirst();
-        }
+    QStringList texts;
+    QStringList items;
+    ItemPaths paths(QStringLiteral("drive"));
+    const QString &tag = NVornXmlTags::TAG_SUB_DEVICE;
+    for (QDomElement child = file.findDeviceElement().firstChildElement(tag); !child.isNull();
+         child = child.nextSiblingElement(tag)) {
+        texts.append(file.getNodeValue(NVornXmlTags::TAG_DRIVE_NO, child));
+        items.append(paths.next(DriveNumbers::key(texts.constLast())));
     }
-
-    QString item(int number) const { return m_items[number]; }
-
-private:
-    /** In the order in which they were given: first those above all others, then the gaps. */
-    QList<int> givenNumbers(const CDeviceElement &device) const
-    {
-        int highest = NoDriveNumber - 1;
-        while (highest >= 0 && !m_isTold[highest]) {
-            --highest;
-        }
-        QList<int> above;
-        QList<int> gaps;
-        for (const CSubDeviceElement &drive : device.subDevices()) {
-            const int number = drive.driveId();
-            if (!m_isTold[number]) {
-                (number > highest && number < NoDriveNumber ? above : gaps).append(number);
-            }
-        }
-        return above + gaps;
+    const QVector<DriveNumbers::SAssigned> numbers = DriveNumbers::assigned(texts);
+    QHash<int, QString> result;
+    for (int i = 0; i < numbers.size(); ++i) {
+        result.insert(numbers.at(i).number, items.at(i));
     }
-
-    QString m_items[DriveNumbers];
-    bool m_isTold[DriveNumbers] = {};
-};
+    return result;
+}
 
 QList<SDrive> drives(const CDeviceConfigurationFile10 &file, const CDeviceElement &device)
 {
-    const DriveItems items(file, device);
+    const QHash<int, QString> items = driveItems(file);
     QList<SDrive> result;
     for (const CSubDeviceElement &drive : device.subDevices()) {
-        const QString item = items.item(drive.driveId());
+        const QString item = items.value(drive.driveId());
         result.append({item, drive, driveFiles(drive, item)});
     }
     return result;

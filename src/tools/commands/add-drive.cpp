@@ -1,15 +1,15 @@
+#include "elements/DriveNumbers.h"
 #include "tools/Command.h"
 #include "tools/ConfigurationJson.h"
 #include "tools/Input.h"
 #include "tools/Output.h"
+#include "vocabulary/DriveTypes.h"
 
 namespace {
 
 const QString TypeOption = QStringLiteral("type");
 const QString NameOption = QStringLiteral("name");
 const QString IdOption = QStringLiteral("id");
-
-const quint8 NextFree = 255;
 
 /** A new drive of the type named @p type; an empty container for any other text. */
 CSubDeviceElement newDrive(const QString &type)
@@ -28,8 +28,7 @@ void describe(CommandLine &line)
     line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to change."));
     line.setFileNames({QStringLiteral("*.3deco")});
     line.addOption(TypeOption, Texts::tr("Series of the drive."), QStringLiteral("TYPE"),
-                   {subDeviceTypeName(CSubDeviceElement(CSubDeviceKD2Element())),
-                    subDeviceTypeName(CSubDeviceElement(CSubDeviceKD3Element()))});
+                   DriveTypes::all());
     line.addOption(NameOption,
                    Texts::tr("Name of the drive; by default made from its drive number."),
                    QStringLiteral("NAME"));
@@ -45,8 +44,9 @@ int run(const CommandLine &line)
         return line.badUsage(Texts::tr("--type must be KD2_drive or KD3_drive."));
     }
     bool isNumber = true;
-    const uint id = line.isSet(IdOption) ? line.value(IdOption).toUInt(&isNumber) : NextFree;
-    if (!isNumber || id > NextFree || (id == NextFree && line.isSet(IdOption))) {
+    const uint id =
+        line.isSet(IdOption) ? line.value(IdOption).toUInt(&isNumber) : DriveNumbers::None;
+    if (!isNumber || (id > DriveNumbers::Highest && line.isSet(IdOption))) {
         return line.badUsage(Texts::tr("--id must be a number from 0 to 254."));
     }
 
@@ -57,7 +57,8 @@ int run(const CommandLine &line)
         return EXIT_UNREADABLE_INPUT;
     }
     const auto wanted = static_cast<quint8>(id);
-    if (wanted != NextFree && device.subDevice(wanted).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
+    if (wanted != DriveNumbers::None
+        && device.subDevice(wanted).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
         printError(Texts::tr("%1: The drive number %2 is in use.").arg(path, QString::number(id)));
         return EXIT_NOT_DONE;
     }

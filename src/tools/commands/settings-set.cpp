@@ -1,3 +1,4 @@
+#include "elements/DriveNumbers.h"
 #include "settings/CDeviceSettingsFile.h"
 #include "tools/Command.h"
 #include "tools/Input.h"
@@ -11,15 +12,13 @@ const QString NameOption = QStringLiteral("name");
 const QString DriveOption = QStringLiteral("drive");
 const QString CreateOption = QStringLiteral("create");
 
-const uint HighestDriveNumber = 254;
-
 /** Sets what "NUMBER=NAME" tells. @return whether it is that */
 bool setDriveName(const QString &assignment, CDeviceSettings &settings)
 {
     const int equals = assignment.indexOf(QLatin1Char('='));
     bool isNumber = false;
     const uint number = assignment.left(equals).toUInt(&isNumber);
-    const bool isAssignment = equals > 0 && isNumber && number <= HighestDriveNumber;
+    const bool isAssignment = equals > 0 && isNumber && number <= DriveNumbers::Highest;
     if (isAssignment) {
         settings.setSubDeviceName(assignment.mid(equals + 1), static_cast<quint8>(number));
     }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "elements/CFileElement.h"
+
+/**
+ * The places of a file in the one form in which they are compared: "." and superfluous separators
+ * are left out, and ".." takes back the directory before it where there is one.
+ */
+namespace CanonicalPaths {
+
+/** @p path in that form, without a separator at its end. */
+QString of(const QString &path);
+
+/** Directory and name on the device; null without a directory. */
+QString onDevice(const CFileElement &file);
+/** Directory and name in the project; empty without a name. */
+QString inProject(const CFileElement &file);
+
+/** The directory on the device, with a separator at its end. */
+QString deviceDirectory(const CFileElement &file);
+
+} // namespace CanonicalPaths

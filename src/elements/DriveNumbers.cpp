@@ -1,0 +1,74 @@
+#include "elements/DriveNumbers.h"
+
+#include <bitset>
+
+namespace DriveNumbers {
+
+namespace {
+
+using Used = std::bitset<Count>;
+
+/** The number behind the highest in use, or the lowest free one; -1 when all are used. */
+int next(const Used &used)
+{
+    // 255 is left to documents that ask for it: elsewhere it means "no drive number".
+    int number = Highest;
+    while (number >= 0 && !used.test(static_cast<size_t>(number))) {
+        --number;
+    }
+    number = behind(number);
+    if (number != None) {
+        return number;
+    }
+    number = 0;
+    while (number < Count && used.test(static_cast<size_t>(number))) {
+        ++number;
+    }
+    return number == Count ? -1 : number;
+}
+
+} // namespace
+
+int read(const QString &text)
+{
+    bool isNumber = false;
+    const uint number = text.toUInt(&isNumber);
+    return isNumber && number < Count ? static_cast<int>(number) : -1;
+}
+
+QString key(const QString &text)
+{
+    const int number = read(text);
+    return number < 0 ? text : QString::number(number);
+}
+
+quint8 behind(int highest)
+{
+    return static_cast<quint8>(highest + 1);
+}
+
+QVector<SAssigned> assigned(const QStringList &texts)
+{
+    QVector<SAssigned> result;
+    result.reserve(texts.size());
+    Used used;
+    for (const QString &text : texts) {
+        const int number = read(text);
+        const bool isOwn = number >= 0 && !used.test(static_cast<size_t>(number));
+        if (isOwn) {
+            used.set(static_cast<size_t>(number));
+        }
+        result.append({isOwn ? number : -1, isOwn});
+    }
+    for (SAssigned &drive : result) {
+        if (!drive.isOwn) {
+            drive.number = next(used);
+        }
+        if (drive.number >= 0) {
+            used.set(static_cast<size_t>(drive.number));
+        }
+    }
+    return result;
+}
+
+} // namespace DriveNumbers
