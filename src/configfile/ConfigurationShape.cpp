@@ -502,8 +502,9 @@ SNode optionsNode()
 {
     SNode result =
         list(TAG_OPTIONS, "options", QT_TRANSLATE_NOOP("ConfigurationShape", "option %1"),
-             EEntry::OPTION, QString(), {node(nameItem(EValue::KEY_NAME))});
+             EEntry::OPTION, QString(), {node(nameItem(EValue::KEY_OPTION))});
     result.kind = EKind::OPTIONS;
+    result.item.value = EValue::OPTION_ARGUMENT;
     return result;
 }
 
