@@ -504,8 +504,9 @@ SNode optionsNode()
     SNode result =
         list(TAG_OPTIONS, "options", QT_TRANSLATE_NOOP("ConfigurationShape", "option %1"),
              QT_TRANSLATE_NOOP("ConfigurationShape", "start options"), EEntry::OPTION, QString(),
-             {node(nameItem(EValue::KEY_NAME))});
+             {node(nameItem(EValue::KEY_OPTION))});
     result.kind = EKind::OPTIONS;
+    result.item.value = EValue::OPTION_ARGUMENT;
     return result;
 }
 

@@ -29,6 +29,10 @@ enum class EValue {
     KEY_NAME,
     /** The number of a drive: as KEY_NAME, from 0 to 254. */
     KEY_DRIVE_NUMBER,
+    /** A start option: a word that begins with "-". */
+    KEY_OPTION,
+    /** What follows a start option in the one text. */
+    OPTION_ARGUMENT,
     DATE,
     DEVICE_CLASS,
     HARDWARE_ID,
@@ -129,7 +133,7 @@ struct SNode {
     const char *heading = nullptr;
     /** The path does not begin with that of the node around it. */
     bool isAtTop = false;
-    /** Of an item. */
+    /** Of an item, and of the start options: the argument, which an entry itself has as value. */
     SItem item;
     /** Of a list. */
     EEntry entry = EEntry::NONE;
