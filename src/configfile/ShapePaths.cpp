@@ -13,7 +13,9 @@ using Nodes = QVector<const SNode *>;
 struct SIndex {
     Nodes top;
     QHash<QString, const SNode *> byPath;
-    QHash<int, const SNode *> byFile;
+    QHash<int, QString> byFile;
+    QHash<int, QString> byEntry;
+    QHash<int, QString> words;
     QStringList lists;
 };
 
@@ -60,10 +62,14 @@ void index(const Nodes &nodes, const QString &path, SIndex &result)
         const QString nodePath = path.isEmpty() ? node->word : path + QLatin1Char('.') + node->word;
         result.byPath.insert(nodePath, node);
         if (node->file != NvrnDeviceCore::DEVICE_FILE_NONE) {
-            result.byFile.insert(node->file, node);
+            result.byFile.insert(node->file, nodePath);
         }
         if (node->isList()) {
             result.lists.append(nodePath);
+            result.byEntry.insert(static_cast<int>(node->entry), nodePath);
+        }
+        if (node->isItem()) {
+            result.words.insert(static_cast<int>(node->item.value), node->word);
         }
         index(ShapePaths::below(*node), nodePath, result);
     }
@@ -106,7 +112,28 @@ const QStringList &ShapePaths::lists()
     return index().lists;
 }
 
-const SNode *ShapePaths::find(NvrnDeviceCore::EDeviceFile kind)
+QString ShapePaths::list(EEntry entry)
+{
+    return index().byEntry.value(static_cast<int>(entry));
+}
+
+QString ShapePaths::word(EValue value)
+{
+    return index().words.value(static_cast<int>(value));
+}
+
+QString ShapePaths::path(NvrnDeviceCore::EDeviceFile kind)
 {
     return index().byFile.value(kind);
+}
+
+QString ShapePaths::noun(NvrnDeviceCore::EDeviceFile kind)
+{
+    const SNode *const node = find(path(kind));
+    if (node == nullptr) {
+        return QString();
+    }
+    // The text of a list has a place for the key of an entry.
+    return node->isList() ? label(node->text).remove(QLatin1String("%1")).trimmed()
+                          : label(node->text);
 }

@@ -22,8 +22,18 @@ const ConfigurationShape::SNode *find(const QString &path);
 
 /** The paths of all lists, in the order in which they are listed. */
 const QStringList &lists();
+/** That of the list of such entries. */
+QString list(ConfigurationShape::EEntry entry);
 
-/** The node of files of that kind: a single file, or a list; null for a kind without one. */
-const ConfigurationShape::SNode *find(NvrnDeviceCore::EDeviceFile kind);
+/** The word of the item of a kind that no other item has, as DRIVE_TYPE or ACTIVE_FPGA_FILE. */
+QString word(ConfigurationShape::EValue value);
+
+/** That of the single file or list for files of that kind; empty for a kind without one. */
+QString path(NvrnDeviceCore::EDeviceFile kind);
+/**
+ * How users call a file of that kind: "object dictionary", "FPGA image"; empty for one without a
+ * path.
+ */
+QString noun(NvrnDeviceCore::EDeviceFile kind);
 
 } // namespace ShapePaths
