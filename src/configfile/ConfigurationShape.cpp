@@ -616,6 +616,10 @@ QString ConfigurationShape::label(const char *text)
 
 QString ConfigurationShape::title(const char *text)
 {
-    const QString words = label(text);
-    return words.left(1).toUpper() + words.mid(1);
+    return capitalized(label(text));
+}
+
+QString ConfigurationShape::capitalized(const QString &text)
+{
+    return text.left(1).toUpper() + text.mid(1);
 }

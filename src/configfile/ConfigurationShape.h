@@ -159,5 +159,6 @@ const SNode &root();
 QString label(const char *text);
 /** The same as a heading, or before a colon: with a capital letter. */
 QString title(const char *text);
+QString capitalized(const QString &text);
 
 } // namespace ConfigurationShape
