@@ -1,6 +1,6 @@
 #include "elements/CDeviceBaseElement.h"
 
-#include "elements/CDeviceBaseElementData.h"
+#include "elements/DeviceBaseElementData.h"
 #include "elements/ElementPaths.h"
 #include "elements/FieldList.h"
 #include "vocabulary/TextTables.h"

@@ -3,7 +3,7 @@
 #include "elements/CDeviceBaseElement.h"
 
 #include "devicefiles/CDeviceFileSystem.h"
-#include "elements/CDeviceBaseElementData.h"
+#include "elements/DeviceBaseElementData.h"
 #include "elements/FileCollector.h"
 #include "vocabulary/NvrFileNames.h"
 
