@@ -224,6 +224,32 @@ SResult confirm(int fd, const struct stat &status, QFileDevice::Permissions perm
     return syncAll(fd) == 0 ? SResult() : notConfirmed(errno);
 }
 
+/** Owner and mode of a new file: those of @p before, null when it replaces none, or as wanted. */
+bool setOwnerAndMode(int fd, const struct stat *before, QFileDevice::Permissions permissions)
+{
+    if (before != nullptr) {
+        keepOwner(fd, *before);
+    }
+    if (!permissions && before == nullptr) {
+        return true;
+    }
+    const mode_t mode = permissions ? toMode(permissions) : before->st_mode & ALLPERMS;
+    return fchmod(fd, mode) == 0;
+}
+
+/** Makes the file complete, and only then gives it the name @p name. */
+SResult fill(TemporaryFile &file, const QByteArray &name, const QByteArray &content,
+             const struct stat *before, QFileDevice::Permissions permissions)
+{
+    const bool replaced = setOwnerAndMode(file.get(), before, permissions)
+        && writeAll(file.get(), content.constData(), content.size()) == 0
+        && syncAll(file.get()) == 0 && file.close() == 0 && file.rename(name) == 0;
+    if (!replaced) {
+        return failure(NOT_FINISHED, errno);
+    }
+    return syncDirectory(directoryOf(name)) == 0 ? SResult() : notConfirmed(errno);
+}
+
 SResult writeTo(Descriptor &device, const QByteArray &content)
 {
     // It was opened without waiting; from here on it may take its time.
@@ -305,20 +331,7 @@ SResult replace(const QString &path, const QByteArray &content,
         }
         return failure(isNew ? NOT_OPENED : NOT_FINISHED, error);
     }
-    if (!isNew) {
-        keepOwner(file.get(), status);
-    }
-    bool hasMode = true;
-    if (permissions || !isNew) {
-        const mode_t mode = permissions ? toMode(permissions) : status.st_mode & ALLPERMS;
-        hasMode = fchmod(file.get(), mode) == 0;
-    }
-    const bool replaced = hasMode && writeAll(file.get(), content.constData(), content.size()) == 0
-        && syncAll(file.get()) == 0 && file.close() == 0 && file.rename(name) == 0;
-    if (!replaced) {
-        return failure(NOT_FINISHED, errno);
-    }
-    return syncDirectory(directoryOf(name)) == 0 ? SResult() : notConfirmed(errno);
+    return fill(file, name, content, isNew ? nullptr : &status, permissions);
 }
 
 } // namespace FileStorage

@@ -3,6 +3,7 @@
 #include "commissioning/CDeviceManifest.h"
 #include "configfile/CDeviceConfigurationFile10.h"
 #include "support/AllocationCounter.h"
+#include "support/BrokenDocuments.h"
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
@@ -26,11 +27,6 @@ QString dataDirectory(const QString &name)
 QString validFile(const QString &name)
 {
     return dataDirectory(u"valid/"_s) + name;
-}
-
-QString invalidFile(const QString &name)
-{
-    return dataDirectory(u"invalid/%1.3deco"_s.arg(name));
 }
 
 /** "line:column rule item" */
@@ -65,7 +61,7 @@ struct SInvalid {
     QList<const char *> findings;
 };
 
-/** The files in tests/data/check/invalid, and everything that is wrong with them. */
+/** The broken documents, and everything that is wrong with them. */
 const QList<SInvalid> InvalidFiles = {
     {"version-missing", {"2:1 version-missing"}},
     {"version-empty", {"2:1 version-missing"}},
@@ -512,7 +508,7 @@ void tst_CConfigurationCheck::invalidFiles_data()
 void tst_CConfigurationCheck::invalidFiles()
 {
     QFETCH(QStringList, findings);
-    const QString path = invalidFile(QString::fromUtf8(QTest::currentDataTag()));
+    const QString path = BrokenDocuments::path(QString::fromUtf8(QTest::currentDataTag()));
     CConfigurationCheck check;
     QVERIFY2(check.open(path), qPrintable(check.errorText()));
     QCOMPARE(told(check), findings);
@@ -528,9 +524,10 @@ void tst_CConfigurationCheck::everyInvalidFileIsListed()
         listed << QString::fromUtf8(invalid.name) + u".3deco"_s;
     }
     listed.sort();
-    QStringList present = Files::names(dataDirectory(u"invalid"_s));
+    QStringList present = Files::names(BrokenDocuments::directory());
     present.sort();
     QCOMPARE(listed, present);
+    QCOMPARE(BrokenDocuments::problems(), QStringList());
 }
 
 void tst_CConfigurationCheck::project_data()
@@ -690,7 +687,7 @@ void tst_CConfigurationCheck::severities()
     for (const SInvalid &invalid : InvalidFiles) {
         if (rulesIn(invalid.findings).contains(rule)) {
             CConfigurationCheck check;
-            QVERIFY(check.open(invalidFile(QString::fromUtf8(invalid.name))));
+            QVERIFY(check.open(BrokenDocuments::path(QString::fromUtf8(invalid.name))));
             for (const SConfigurationFinding &finding : check.findings()) {
                 QVERIFY(finding.rule != rule || finding.severity == expected);
             }
@@ -730,7 +727,7 @@ void tst_CConfigurationCheck::itemsAreThoseOfTheDocument()
     for (const SInvalid &invalid : InvalidFiles) {
         CDeviceConfigurationFile10 file(nullptr);
         const MessageCatcher catcher;
-        QVERIFY(file.open(invalidFile(QString::fromUtf8(invalid.name))));
+        QVERIFY(file.open(BrokenDocuments::path(QString::fromUtf8(invalid.name))));
         const CConfigurationItems items(file);
         const QStringList lists = {u"device"_s, u"device.options"_s, u"device.plugins"_s,
                                    u"files"_s, u"device.class"_s};
@@ -824,7 +821,7 @@ void tst_CConfigurationCheck::texts_data()
 void tst_CConfigurationCheck::texts()
 {
     CConfigurationCheck check;
-    QVERIFY(check.open(invalidFile(QString::fromUtf8(QTest::currentDataTag()))));
+    QVERIFY(check.open(BrokenDocuments::path(QString::fromUtf8(QTest::currentDataTag()))));
     QCOMPARE(check.findings().size(), 1);
     const SConfigurationFinding finding = check.findings().constFirst();
     QTEST(finding.message, "message");
@@ -854,7 +851,7 @@ void tst_CConfigurationCheck::unreadable()
     const QString path = directory.filePath(u"a.3deco"_s);
     QVERIFY(Files::write(path, content));
     CConfigurationCheck check;
-    QVERIFY(check.open(invalidFile(u"many-faults"_s)));
+    QVERIFY(check.open(BrokenDocuments::path(u"many-faults"_s)));
     QVERIFY(!check.findings().isEmpty());
     QVERIFY(!check.open(path));
     QVERIFY2(check.errorText().startsWith(path + errorText), qPrintable(check.errorText()));
@@ -888,7 +885,7 @@ void tst_CConfigurationCheck::versionsAreNotPosted()
     CConfigurationCheck check;
     for (const QString &name : {u"version-later"_s, u"version-previous"_s, u"version-missing"_s,
                                 u"many-faults"_s, u"dictionary-outside-device-directory"_s}) {
-        QVERIFY(check.open(invalidFile(name)));
+        QVERIFY(check.open(BrokenDocuments::path(name)));
     }
     QVERIFY(catcher.messages().isEmpty());
 }
@@ -897,7 +894,7 @@ void tst_CConfigurationCheck::oneObjectForManyDocuments()
 {
     CConfigurationCheck check;
     for (const SInvalid &invalid : InvalidFiles) {
-        QVERIFY(check.open(invalidFile(QString::fromUtf8(invalid.name))));
+        QVERIFY(check.open(BrokenDocuments::path(QString::fromUtf8(invalid.name))));
         QCOMPARE(told(check), ::texts(invalid.findings));
     }
     QVERIFY(check.open(validFile(u"complete.3deco"_s)));
@@ -995,7 +992,7 @@ void tst_CConfigurationCheck::nothingIsKept()
         QSKIP("A sanitizer brings its own heap.", 0);
     }
     CConfigurationCheck check;
-    const QString path = invalidFile(u"many-faults"_s);
+    const QString path = BrokenDocuments::path(u"many-faults"_s);
     QVERIFY(check.open(path));
     AllocationCounter::start();
     QVERIFY(check.open(path));
@@ -1014,9 +1011,9 @@ void tst_CConfigurationCheck::severalThreads()
         const SInvalid &invalid = InvalidFiles.at(i);
         bool ok = true;
         for (int n = 0; n < 20; ++n) {
-            ok = ok && check.open(invalidFile(QString::fromUtf8(invalid.name)))
+            ok = ok && check.open(BrokenDocuments::path(QString::fromUtf8(invalid.name)))
                 && told(check) == ::texts(invalid.findings)
-                && check.open(invalidFile(u"configuration-name-setup"_s))
+                && check.open(BrokenDocuments::path(u"configuration-name-setup"_s))
                 && check.findings().size() == 1;
         }
         return ok;

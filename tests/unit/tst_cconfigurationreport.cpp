@@ -1,5 +1,6 @@
 #include "commissioning/CConfigurationCheck.h"
 #include "commissioning/CConfigurationReport.h"
+#include "support/BrokenDocuments.h"
 #include "support/LargeConfiguration.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCatcher.h"
@@ -592,8 +593,9 @@ void tst_CConfigurationReport::findingsOfTheCheck_data()
 {
     QTest::addColumn<QString>("path");
     int count = 0;
-    for (const QString &folder : {u"valid"_s, u"invalid"_s}) {
-        const QDir directory(QStringLiteral(VRN_TEST_DATA_DIR "/check/") + folder);
+    for (const QString &folder :
+         {QStringLiteral(VRN_TEST_DATA_DIR "/check/valid"), BrokenDocuments::directory()}) {
+        const QDir directory(folder);
         for (const QFileInfo &file : directory.entryInfoList(QDir::Files, QDir::Name)) {
             QTest::newRow(qPrintable(file.fileName())) << file.filePath();
             ++count;

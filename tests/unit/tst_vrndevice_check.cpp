@@ -1,4 +1,5 @@
 #include "commissioning/CConfigurationCheck.h"
+#include "support/BrokenDocuments.h"
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/PseudoTerminal.h"
@@ -18,9 +19,9 @@ namespace {
 
 using Tool::SResult;
 
-QString dataFile(const QString &name)
+QString validFile(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/check/") + name + u".3deco"_s;
+    return QStringLiteral(VRN_TEST_DATA_DIR "/check/valid/") + name + u".3deco"_s;
 }
 
 SResult check(const QStringList &arguments)
@@ -97,9 +98,9 @@ void tst_VrnDeviceCheck::exitCodes_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
-    const QString valid = dataFile(u"valid/complete"_s);
-    const QString warning = dataFile(u"invalid/revised-before-created"_s);
-    const QString error = dataFile(u"invalid/file-twice"_s);
+    const QString valid = validFile(u"complete"_s);
+    const QString warning = BrokenDocuments::path(u"revised-before-created"_s);
+    const QString error = BrokenDocuments::path(u"file-twice"_s);
     const QString broken = QStringLiteral(VRN_TEST_DATA_DIR "/configuration/invalid/"
                                                             "mismatched-end-tag.3deco");
     const auto row = [](const char *name, const QStringList &arguments, int exitCode) {
@@ -131,7 +132,7 @@ void tst_VrnDeviceCheck::exitCodes()
 
 void tst_VrnDeviceCheck::textOfAFinding()
 {
-    const QString path = dataFile(u"invalid/class-in-capitals"_s);
+    const QString path = BrokenDocuments::path(u"class-in-capitals"_s);
     const SResult result = check({path});
     QCOMPARE(result.output,
              path
@@ -143,7 +144,7 @@ void tst_VrnDeviceCheck::textOfAFinding()
                    "1 error, 0 warnings in 1 file\n"_s);
     QCOMPARE(result.errors, QString());
 
-    const SResult found = check({dataFile(u"invalid/attribute-unknown"_s)});
+    const SResult found = check({BrokenDocuments::path(u"attribute-unknown"_s)});
     QVERIFY2(found.output.contains(u"\n    found: mode=\"fast\"\n"_s), qPrintable(found.output));
 }
 
@@ -151,7 +152,7 @@ void tst_VrnDeviceCheck::textOfAFindingWithoutPosition()
 {
     const QTemporaryDir directory;
     QVERIFY(Files::write(directory.filePath(u"manifest.json"_s), "{}"));
-    const QString path = dataFile(u"valid/minimal"_s);
+    const QString path = validFile(u"minimal"_s);
     const SResult result = check({path, u"--project"_s, directory.path()});
     QCOMPARE(result.exitCode, 1);
     QVERIFY2(result.output.startsWith(path + u": error: The project's manifest cannot be read: "_s),
@@ -160,9 +161,9 @@ void tst_VrnDeviceCheck::textOfAFindingWithoutPosition()
 
 void tst_VrnDeviceCheck::summary()
 {
-    const QString one = dataFile(u"invalid/revised-before-created"_s);
-    const QString many = dataFile(u"invalid/many-faults"_s);
-    const QString valid = dataFile(u"valid/complete"_s);
+    const QString one = BrokenDocuments::path(u"revised-before-created"_s);
+    const QString many = BrokenDocuments::path(u"many-faults"_s);
+    const QString valid = validFile(u"complete"_s);
     QCOMPARE(lastLine(check({one}).output), u"0 errors, 1 warning in 1 file"_s);
     QCOMPARE(lastLine(check({many}).output), u"10 errors, 1 warning in 1 file"_s);
     QCOMPARE(lastLine(check({one, valid, one}).output), u"0 errors, 2 warnings in 3 files"_s);
@@ -171,8 +172,8 @@ void tst_VrnDeviceCheck::summary()
 
 void tst_VrnDeviceCheck::nothingIsWrong()
 {
-    const QString path = dataFile(u"valid/complete"_s);
-    const QString minimal = dataFile(u"valid/minimal"_s);
+    const QString path = validFile(u"complete"_s);
+    const QString minimal = validFile(u"minimal"_s);
     const SResult result = check({path, minimal});
     QCOMPARE(result.output, u"%1: nothing is wrong\n%2: nothing is wrong\n"_s.arg(path, minimal));
     QCOMPARE(result.errors, QString());
@@ -183,7 +184,7 @@ void tst_VrnDeviceCheck::unreadableFilesAreTold()
     const QTemporaryDir directory;
     const QString path = directory.filePath(u"broken.3deco"_s);
     QVERIFY(Files::write(path, "<VornDeviceConfig>\n <Device>\n</VornDeviceConfig>\n"));
-    const QString valid = dataFile(u"valid/complete"_s);
+    const QString valid = validFile(u"complete"_s);
     const SResult result = check({path, valid, directory.filePath(u"none"_s)});
     QCOMPARE(result.exitCode, 3);
     QCOMPARE(result.output, valid + u": nothing is wrong\n"_s);
@@ -202,12 +203,12 @@ void tst_VrnDeviceCheck::unreadableFilesAreTold()
 
 void tst_VrnDeviceCheck::standardInput()
 {
-    const SResult valid = checkInput(Files::read(dataFile(u"valid/complete"_s)), {u"-"_s});
+    const SResult valid = checkInput(Files::read(validFile(u"complete"_s)), {u"-"_s});
     QCOMPARE(valid.exitCode, 0);
     QCOMPARE(valid.output, u"standard input: nothing is wrong\n"_s);
 
     const SResult invalid =
-        checkInput(Files::read(dataFile(u"invalid/class-in-capitals"_s)), {u"-"_s});
+        checkInput(Files::read(BrokenDocuments::path(u"class-in-capitals"_s)), {u"-"_s});
     QCOMPARE(invalid.exitCode, 1);
     QVERIFY2(invalid.output.startsWith(u"standard input:18:3: error: "_s),
              qPrintable(invalid.output));
@@ -249,7 +250,7 @@ void tst_VrnDeviceCheck::project()
 
 void tst_VrnDeviceCheck::projectThatIsNone()
 {
-    const SResult result = check({dataFile(u"valid/complete"_s), u"--project"_s, u"/nowhere"_s});
+    const SResult result = check({validFile(u"complete"_s), u"--project"_s, u"/nowhere"_s});
     QCOMPARE(result.exitCode, 3);
     QCOMPARE(result.output, QString());
     QCOMPARE(result.errors, u"vrndevice: error: /nowhere: There is no such directory.\n"_s);
@@ -257,8 +258,8 @@ void tst_VrnDeviceCheck::projectThatIsNone()
 
 void tst_VrnDeviceCheck::json()
 {
-    const QString path = dataFile(u"invalid/revised-before-created"_s);
-    const QString valid = dataFile(u"valid/complete"_s);
+    const QString path = BrokenDocuments::path(u"revised-before-created"_s);
+    const QString valid = validFile(u"complete"_s);
     const QJsonObject finding = {
         {u"rule"_s, u"date-order"_s},
         {u"severity"_s, u"warning"_s},
@@ -282,7 +283,7 @@ void tst_VrnDeviceCheck::json()
 
 void tst_VrnDeviceCheck::jsonOfUnreadableFiles()
 {
-    const QString error = dataFile(u"invalid/file-twice"_s);
+    const QString error = BrokenDocuments::path(u"file-twice"_s);
     const SResult result = check({u"/nowhere/a"_s, error, u"--json"_s});
     const QJsonArray files = result.json().value(u"files"_s).toArray();
     QCOMPARE(files.size(), 2);
@@ -296,7 +297,7 @@ void tst_VrnDeviceCheck::jsonOfUnreadableFiles()
 
 void tst_VrnDeviceCheck::controlCharactersAreNotPrinted()
 {
-    const SResult lines = check({dataFile(u"invalid/file-name-with-line-break"_s)});
+    const SResult lines = check({BrokenDocuments::path(u"file-name-with-line-break"_s)});
     QVERIFY2(lines.output.contains(u"    item: files[recipes.csv\\n     ]\n"_s),
              qPrintable(lines.output));
     // The control character 0x9B begins a sequence for terminals, as ESC and "[" do.
@@ -308,14 +309,14 @@ void tst_VrnDeviceCheck::controlCharactersAreNotPrinted()
 
 void tst_VrnDeviceCheck::colours()
 {
-    const QStringList arguments = {dataFile(u"invalid/class-in-capitals"_s)};
+    const QStringList arguments = {BrokenDocuments::path(u"class-in-capitals"_s)};
     const QByteArray red = "\x1b[31merror:\x1b[0m";
     const QString term = u"TERM"_s;
     if (!PseudoTerminal().isOpen()) {
         QSKIP("There are no pseudo-terminals here.", 0);
     }
     QVERIFY(onTerminal(arguments, {{term, u"xterm"_s}}).contains(red));
-    QVERIFY(onTerminal({dataFile(u"invalid/revised-before-created"_s)},
+    QVERIFY(onTerminal({BrokenDocuments::path(u"revised-before-created"_s)},
                        {{term, u"xterm"_s}, {u"NO_COLOR"_s, QString()}})
                 .contains("\x1b[33mwarning:\x1b[0m"));
     for (const QMap<QString, QString> &variables :
@@ -332,7 +333,7 @@ void tst_VrnDeviceCheck::thousandFiles()
 {
     const int count = 1000;
     const QTemporaryDir directory;
-    const QByteArray content = Files::read(dataFile(u"invalid/revised-before-created"_s));
+    const QByteArray content = Files::read(BrokenDocuments::path(u"revised-before-created"_s));
     QStringList paths;
     for (int i = 0; i < count; ++i) {
         paths << directory.filePath(u"%1.3deco"_s.arg(i));

@@ -46,6 +46,44 @@ bool isKd2Part(const SItemPath &drive, const QString &part)
     return node != nullptr && node->isOfKd2Only;
 }
 
+/** One list while it is merged. */
+struct SMergedList {
+    SMergedList(const QString &name, const QVector<SSnapshotEntry> &entries)
+        : list(name), ours(entries), changes(ours)
+    {
+        for (const SSnapshotEntry &entry : ours) {
+            keys.insert(entry.path.key);
+        }
+    }
+
+    const QString list;
+    const QVector<SSnapshotEntry> ours;
+    QVector<SSnapshotEntry> newInOurs;
+    QVector<SSnapshotEntry> newInTheirs;
+    ListChanges changes;
+    /** Those of OURS once the changes are made. */
+    QSet<QString> keys;
+};
+
+/** The entries whose index is not among @p matches. */
+QVector<SSnapshotEntry> withoutMatches(const QVector<SSnapshotEntry> &entries,
+                                       const QVector<int> &matches)
+{
+    QVector<bool> isMatched(entries.size(), false);
+    for (const int index : matches) {
+        if (index >= 0) {
+            isMatched[index] = true;
+        }
+    }
+    QVector<SSnapshotEntry> result;
+    for (int i = 0; i < entries.size(); ++i) {
+        if (!isMatched.at(i)) {
+            result << entries.at(i);
+        }
+    }
+    return result;
+}
+
 /** Finds what has to be done to OURS. */
 class Merger
 {
@@ -76,6 +114,9 @@ private:
     bool mergeSeries(const QStringList &parts, const SSnapshotEntry &base,
                      const SSnapshotEntry &ours, const SSnapshotEntry &theirs, EOrigin origin);
     void mergeList(const QString &list);
+    void mergeKnownEntries(SMergedList &merged);
+    void mergeRemoval(const SSnapshotEntry &base, int index, SMergedList &merged);
+    void mergeNewEntries(SMergedList &merged);
     QString mergeActiveFpgaFile();
 
     void addValueConflict(const SItemPath &path, const QString &item, const SSnapshotEntry &base,
@@ -83,6 +124,8 @@ private:
     void addRemovalConflict(CConfigurationMerge::EConflict kind, const QString &part,
                             const SSnapshotEntry &base, const SSnapshotEntry &changed,
                             const SItemPath &path);
+    void addEntryConflict(CConfigurationMerge::EConflict kind, const SSnapshotEntry &entry,
+                          const QList<SChange> &changes);
     QList<SChange> changesOf(const QString &list, const SSnapshotEntry &base,
                              const SSnapshotEntry &side, const ConfigurationSnapshot &whole) const;
 
@@ -225,6 +268,17 @@ void Merger::mergeEntry(const SSnapshotEntry &base, const SSnapshotEntry &ours,
     m_changes << removals << own << others;
 }
 
+/** One side removed an entry that the other one changed. */
+void Merger::addEntryConflict(CConfigurationMerge::EConflict kind, const SSnapshotEntry &entry,
+                              const QList<SChange> &changes)
+{
+    SConflict conflict;
+    conflict.conflict = kind;
+    conflict.path = entry.path.entryPath();
+    conflict.details = described(changes);
+    m_conflicts << conflict;
+}
+
 /** What one side did to an entry, whether it is active among the FPGA images included. */
 QList<SChange> Merger::changesOf(const QString &list, const SSnapshotEntry &base,
                                  const SSnapshotEntry &side,
@@ -243,85 +297,74 @@ QList<SChange> Merger::changesOf(const QString &list, const SSnapshotEntry &base
 
 void Merger::mergeList(const QString &list)
 {
-    const QVector<SSnapshotEntry> base = m_base.entries(list);
-    const QVector<SSnapshotEntry> ours = m_ours.entries(list);
-    const QVector<SSnapshotEntry> theirs = m_theirs.entries(list);
-    const QVector<int> inOurs = ConfigurationSnapshot::match(base, ours);
-    const QVector<int> inTheirs = ConfigurationSnapshot::match(base, theirs);
-    QVector<bool> isNewInOurs(ours.size(), true);
-    QVector<bool> isNewInTheirs(theirs.size(), true);
-    ListChanges whole(ours);
-    QSet<QString> keys;
-    for (const SSnapshotEntry &entry : ours) {
-        keys.insert(entry.path.key);
-    }
-
-    const auto addConflict = [&](CConfigurationMerge::EConflict kind, const SSnapshotEntry &entry,
-                                 const QList<SChange> &changes) {
-        SConflict conflict;
-        conflict.conflict = kind;
-        conflict.path = entry.path.entryPath();
-        conflict.details = described(changes);
-        m_conflicts << conflict;
-    };
-    for (int i = 0; i < base.size(); ++i) {
-        const int o = inOurs.at(i);
-        const int t = inTheirs.at(i);
-        if (o >= 0) {
-            isNewInOurs[o] = false;
-        }
-        if (t >= 0) {
-            isNewInTheirs[t] = false;
-        }
-        if (o >= 0 && t >= 0) {
-            mergeEntry(base.at(i), ours.at(o), theirs.at(t), IN_BASE);
-        } else if (o >= 0) {
-            const QList<SChange> changes = changesOf(list, base.at(i), ours.at(o), m_ours);
-            if (changes.isEmpty()) {
-                whole.remove(o);
-                keys.remove(ours.at(o).path.key);
-            } else {
-                addConflict(CConfigurationMerge::REMOVED_BY_THEIRS, base.at(i), changes);
-            }
-        } else if (t >= 0) {
-            const QList<SChange> changes = changesOf(list, base.at(i), theirs.at(t), m_theirs);
-            if (!changes.isEmpty()) {
-                addConflict(CConfigurationMerge::REMOVED_BY_OURS, base.at(i), changes);
-            }
-        }
-    }
-
-    const auto newOnes = [](const QVector<SSnapshotEntry> &entries, const QVector<bool> &isNew) {
-        QVector<SSnapshotEntry> result;
-        for (int i = 0; i < entries.size(); ++i) {
-            if (isNew.at(i)) {
-                result << entries.at(i);
-            }
-        }
-        return result;
-    };
-    const QVector<SSnapshotEntry> newInOurs = newOnes(ours, isNewInOurs);
-    const QVector<SSnapshotEntry> newInTheirs = newOnes(theirs, isNewInTheirs);
-    const QVector<int> counterparts = ConfigurationSnapshot::match(newInTheirs, newInOurs);
-    for (int i = 0; i < newInTheirs.size(); ++i) {
-        const SSnapshotEntry &entry = newInTheirs.at(i);
-        if (counterparts.at(i) < 0) {
-            whole.add(entry);
-            keys.insert(entry.path.key);
-            continue;
-        }
-        SSnapshotEntry nothing;
-        nothing.path = entry.path;
-        mergeEntry(nothing, newInOurs.at(counterparts.at(i)), entry, ADDED_BY_BOTH);
-    }
-
+    SMergedList merged(list, m_ours.entries(list));
+    mergeKnownEntries(merged);
+    mergeNewEntries(merged);
     QString active;
     if (list == fpgaFileList()) {
         active = mergeActiveFpgaFile();
         // OURS removed it, which is told as a conflict of the image.
-        active = keys.contains(active) ? active : QString();
+        active = merged.keys.contains(active) ? active : QString();
     }
-    whole.appendTo(list, m_ours.device, active, m_changes);
+    merged.changes.appendTo(list, m_ours.device, active, m_changes);
+}
+
+/** The entries that BASE has; what is new on each side is left for mergeNewEntries(). */
+void Merger::mergeKnownEntries(SMergedList &merged)
+{
+    const QVector<SSnapshotEntry> base = m_base.entries(merged.list);
+    const QVector<SSnapshotEntry> theirs = m_theirs.entries(merged.list);
+    const QVector<int> inOurs = ConfigurationSnapshot::match(base, merged.ours);
+    const QVector<int> inTheirs = ConfigurationSnapshot::match(base, theirs);
+    merged.newInOurs = withoutMatches(merged.ours, inOurs);
+    merged.newInTheirs = withoutMatches(theirs, inTheirs);
+    for (int i = 0; i < base.size(); ++i) {
+        const int o = inOurs.at(i);
+        const int t = inTheirs.at(i);
+        if (o >= 0 && t >= 0) {
+            mergeEntry(base.at(i), merged.ours.at(o), theirs.at(t), IN_BASE);
+        } else if (o >= 0) {
+            mergeRemoval(base.at(i), o, merged);
+        } else if (t >= 0) {
+            const QList<SChange> changes =
+                changesOf(merged.list, base.at(i), theirs.at(t), m_theirs);
+            if (!changes.isEmpty()) {
+                addEntryConflict(CConfigurationMerge::REMOVED_BY_OURS, base.at(i), changes);
+            }
+        }
+    }
+}
+
+/** THEIRS removed the entry that OURS has at @p index. */
+void Merger::mergeRemoval(const SSnapshotEntry &base, int index, SMergedList &merged)
+{
+    const SSnapshotEntry &ours = merged.ours.at(index);
+    const QList<SChange> changes = changesOf(merged.list, base, ours, m_ours);
+    if (changes.isEmpty()) {
+        merged.changes.remove(index);
+        merged.keys.remove(ours.path.key);
+    } else {
+        addEntryConflict(CConfigurationMerge::REMOVED_BY_THEIRS, base, changes);
+    }
+}
+
+/** The entries that BASE does not have: those of THEIRS come, unless OURS has the same ones. */
+void Merger::mergeNewEntries(SMergedList &merged)
+{
+    const QVector<int> counterparts =
+        ConfigurationSnapshot::match(merged.newInTheirs, merged.newInOurs);
+    for (int i = 0; i < merged.newInTheirs.size(); ++i) {
+        const SSnapshotEntry &entry = merged.newInTheirs.at(i);
+        const int counterpart = counterparts.at(i);
+        if (counterpart < 0) {
+            merged.changes.add(entry);
+            merged.keys.insert(entry.path.key);
+        } else {
+            SSnapshotEntry nothing;
+            nothing.path = entry.path;
+            mergeEntry(nothing, merged.newInOurs.at(counterpart), entry, ADDED_BY_BOTH);
+        }
+    }
 }
 
 /** @return the image that THEIRS wants to be active; empty when nothing has to be done */

@@ -186,6 +186,22 @@ bool readDirectory(const QJsonValue &value, QString &directory, QString &errorTe
     return true;
 }
 
+/** Reads the elements of an array, until one is wrong. */
+template <typename Item>
+bool readEach(const QJsonValue &array, bool (*readItem)(const QJsonValue &, Item &, QString &),
+              QList<Item> &items, QString &errorText)
+{
+    const QJsonArray values = array.toArray();
+    for (const QJsonValue &value : values) {
+        Item item;
+        if (!readItem(value, item, errorText)) {
+            return false;
+        }
+        items.append(item);
+    }
+    return true;
+}
+
 struct SNode {
     /** With NUL for each slash, so that what is in a directory follows right behind it. */
     QString key;
@@ -308,24 +324,10 @@ bool CDeviceManifest::readJson(const QByteArray &json, QString &errorText)
         return false;
     }
     QStringList directories;
-    const QJsonArray listedDirectories = root.value(Key::DIRECTORIES).toArray();
-    for (const QJsonValue &value : listedDirectories) {
-        QString directory;
-        if (!readDirectory(value, directory, errorText)) {
-            return false;
-        }
-        directories.append(directory);
-    }
     QList<SEntry> entries;
-    const QJsonArray listedFiles = root.value(Key::FILES).toArray();
-    for (const QJsonValue &value : listedFiles) {
-        SEntry entry;
-        if (!readEntry(value, entry, errorText)) {
-            return false;
-        }
-        entries.append(entry);
-    }
-    if (!isTree(directories, entries, errorText)) {
+    if (!readEach(root.value(Key::DIRECTORIES), readDirectory, directories, errorText)
+        || !readEach(root.value(Key::FILES), readEntry, entries, errorText)
+        || !isTree(directories, entries, errorText)) {
         return false;
     }
     CDeviceManifest read;

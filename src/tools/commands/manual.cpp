@@ -196,10 +196,8 @@ void describe(CommandLine &line)
     line.addExample(QStringLiteral("> vrndevice.1"));
 }
 
-int run(const CommandLine & /*line*/)
+void printStart(Page &page)
 {
-    Output out;
-    Page page(out.stream());
     page.line(QStringLiteral(".TH VRNDEVICE 1 %1 \"vrndevice %2\" \"%3\"")
                   .arg(QStringLiteral(VRN_RELEASE_DATE),
                        escaped(QCoreApplication::applicationVersion()),
@@ -219,7 +217,10 @@ int run(const CommandLine & /*line*/)
     page.text(Texts::tr("Results go to standard output, diagnostics to standard error. Programs "
                         "should ask for --json: nothing in it but sentences depends on the "
                         "language."));
+}
 
+void printOptionsAndCommands(Page &page)
+{
     page.section(Texts::tr("Options"));
     for (const CommandLine::SOption &option : optionsOfTool()) {
         page.item(formatted(option), option.description);
@@ -229,7 +230,10 @@ int run(const CommandLine & /*line*/)
     for (const SCommand &command : commands()) {
         describeCommand(command, page);
     }
+}
 
+void printSurroundings(Page &page)
+{
     page.section(Texts::tr("Exit status"));
     for (const SExitCode &exitCode : exitCodes()) {
         page.item(bold(QString::number(exitCode.code)), exitCode.meaning);
@@ -244,7 +248,10 @@ int run(const CommandLine & /*line*/)
     for (const STerm &file : files()) {
         page.item(italic(QString::fromLatin1(file.term)), file.explanation);
     }
+}
 
+void printExamples(Page &page)
+{
     page.section(Texts::tr("Examples"));
     page.text(Texts::tr("A new configuration with two drives, and a look at it:"));
     page.example(
@@ -257,7 +264,16 @@ int run(const CommandLine & /*line*/)
     page.example({QStringLiteral("vrndevice network set network.conf MODE=STATIC "
                                  "ADDRESS=192.168.1.10"),
                   QStringLiteral("vrndevice network check network.conf")});
+}
 
+int run(const CommandLine & /*line*/)
+{
+    Output out;
+    Page page(out.stream());
+    printStart(page);
+    printOptionsAndCommands(page);
+    printSurroundings(page);
+    printExamples(page);
     page.section(Texts::tr("See also"));
     page.line(QStringLiteral(".BR bash (1),\n.BR os\\-release (5)"));
     return out.finish();

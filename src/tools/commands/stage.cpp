@@ -170,29 +170,54 @@ void describe(CommandLine &line)
         QStringLiteral("DeviceConfiguration.3deco --project . --archive device.tar.gz --record"));
 }
 
-int run(const CommandLine &line)
+/** @return what is wrong with the options; empty when nothing is */
+QString wrongUsage(const CommandLine &line)
 {
-    const QString project = line.value(QStringLiteral("project"));
+    const bool hasRoot = !line.value(QStringLiteral("to")).isEmpty();
+    if (line.value(QStringLiteral("project")).isEmpty()) {
+        return Texts::tr("Which project? Give --project DIR.");
+    }
+    if (!hasRoot && line.value(QStringLiteral("archive")).isEmpty()) {
+        return Texts::tr("Nothing to make. Give --to ROOT, --archive OUT, or both.");
+    }
+    if (!hasRoot && line.isSet(QStringLiteral("replace"))) {
+        return Texts::tr("Nothing to replace. Give --to ROOT.");
+    }
+    return QString();
+}
+
+bool write(const CStagingPlan &plan, const CommandLine &line, CDeviceManifest &manifest,
+           QString &reason)
+{
     CStagedTree::STarget target;
     target.root = line.value(QStringLiteral("to"));
     target.archive = line.value(QStringLiteral("archive"));
     target.mayReplaceRoot = line.isSet(QStringLiteral("replace"));
-    if (project.isEmpty()) {
-        return line.badUsage(Texts::tr("Which project? Give --project DIR."));
-    }
-    if (target.root.isEmpty() && target.archive.isEmpty()) {
-        return line.badUsage(Texts::tr("Nothing to make. Give --to ROOT, --archive OUT, or both."));
-    }
-    if (target.mayReplaceRoot && target.root.isEmpty()) {
-        return line.badUsage(Texts::tr("Nothing to replace. Give --to ROOT."));
-    }
+    const InterruptWatch watch;
+    Progress progress(Texts::tr("Staging"));
+    CStagedTree tree;
+    tree.setProgress([&](qint64 done, qint64 total) {
+        progress.show(done, total);
+        return isInterrupted == 0;
+    });
+    const bool isMade = tree.write(plan, target);
+    manifest = tree.manifest();
+    reason = tree.errorText();
+    return isMade;
+}
 
+int run(const CommandLine &line)
+{
+    const QString wrong = wrongUsage(line);
+    if (!wrong.isEmpty()) {
+        return line.badUsage(wrong);
+    }
     CStagingPlan::SDocument document;
     CDeviceElement device;
     if (!readDocument(line.argument(0), document, device)) {
         return EXIT_UNREADABLE_INPUT;
     }
-    const CStagingPlan plan(device, document, project);
+    const CStagingPlan plan(device, document, line.value(QStringLiteral("project")));
     if (!plan.problems().isEmpty()) {
         return reportProblems(plan.problems(), line.wantsJson());
     }
@@ -201,31 +226,18 @@ int run(const CommandLine &line)
     if (isRecorded && !mayRecord(recordPath(line), reason)) {
         return reportNotStaged(reason, line.wantsJson());
     }
-
-    CStagedTree tree;
-    {
-        const InterruptWatch watch;
-        Progress progress(Texts::tr("Staging"));
-        tree.setProgress([&](qint64 done, qint64 total) {
-            progress.show(done, total);
-            return isInterrupted == 0;
-        });
-        reason.clear();
-        if (!tree.write(plan, target)) {
-            reason = tree.errorText();
-        }
-    }
-    if (!reason.isEmpty()) {
+    CDeviceManifest manifest;
+    if (!write(plan, line, manifest, reason)) {
         return reportNotStaged(reason, line.wantsJson());
     }
     if (isRecorded) {
         const FileStorage::SResult recorded =
-            FileStorage::replace(recordPath(line), tree.manifest().toJson());
+            FileStorage::replace(recordPath(line), manifest.toJson());
         if (!recorded) {
             return reportNotSaved(recordPath(line), recorded.reason);
         }
     }
-    return reportStaged(line, tree.manifest());
+    return reportStaged(line, manifest);
 }
 
 const CommandRegistration
