@@ -398,9 +398,9 @@ void tst_CConfigurationReport::header()
     QCOMPARE(facts.value(u"Platform, version, revision"_s), u"3 · 2 · 1"_s);
     QCOMPARE(facts.value(u"Hardware identity"_s), u"KD3:Servo Drive 8A:3:2:1"_s);
     QCOMPARE(facts.value(u"Configuration name"_s), u"production"_s);
-    QCOMPARE(facts.value(u"Version of the configuration"_s), u"2.1"_s);
-    QCOMPARE(facts.value(u"Created"_s), u"2025-12-24"_s);
-    QCOMPARE(facts.value(u"Last revision"_s), u"2026-01-30"_s);
+    QCOMPARE(facts.value(u"Version"_s), u"2.1"_s);
+    QCOMPARE(facts.value(u"Creation date"_s), u"2025-12-24"_s);
+    QCOMPARE(facts.value(u"Revision date"_s), u"2026-01-30"_s);
     QCOMPARE(facts.value(u"Written by"_s), u"A. Engineer"_s);
     QCOMPARE(facts.value(u"Written on"_s), u"2026-01-31"_s);
 
@@ -458,9 +458,9 @@ void tst_CConfigurationReport::kindsAndMarks()
     QCOMPARE(cells(row(u"Machine.3pdef"_s)).first(), u"Parameter definition, VornParameters"_s);
     QVERIFY(row(u"Machine.3param"_s).text().contains(u"all axes"_s));
     QCOMPARE(cells(row(u"KD3_Dictionary_V1.xml"_s)).first(), u"Object dictionary"_s);
-    QCOMPARE(cells(row(u"firmware.bin"_s)).first(), u"Firmware"_s);
+    QCOMPARE(cells(row(u"firmware.bin"_s)).first(), u"KD2 firmware"_s);
     QCOMPARE(headingAbove(row(u"recipe 1.csv"_s)), u"Additional files"_s);
-    QCOMPARE(headingAbove(row(u"kd3NodeSet.xml"_s)), u"OPC UA models Enabled"_s);
+    QCOMPARE(headingAbove(row(u"kd3NodeSet.xml"_s)), u"OPC UA files Enabled"_s);
     QCOMPARE(Page::all(row(u"main.bit"_s), u"span"_s).first().text(), u"Active"_s);
     QVERIFY(Page::all(row(u"spare.bit"_s), u"span"_s).isEmpty());
 }
@@ -558,8 +558,8 @@ void tst_CConfigurationReport::findingsStandBesideTheirItems_data()
     row("device.fpgaFiles", "FPGA images");
     row("device.activeFpgaFile", "FPGA images");
     row("device.fpgaFiles[spare.bit]", "FPGA images", "spare.bit");
-    row("device.opcUaEnabled", "OPC UA models Enabled");
-    row("device.opcUaFiles[kd3NodeSet.xml].name", "OPC UA models Enabled", "kd3NodeSet.xml");
+    row("device.opcUaEnabled", "OPC UA files Enabled");
+    row("device.opcUaFiles[kd3NodeSet.xml].name", "OPC UA files Enabled", "kd3NodeSet.xml");
     row("device.plugins", "Plug-ins");
     row("device.executionPlugin", "Plug-ins");
     row("device.plugins[CECatMaster].priority", "Plug-ins", "CECatMaster");
