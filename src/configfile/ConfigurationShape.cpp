@@ -92,11 +92,12 @@ SNode group(const QString &tag, const char *word, const char *text, const Nodes 
     return result;
 }
 
-SNode list(const QString &tag, const char *word, const char *text, EEntry entry,
-           const QString &entryTag, const Nodes &children)
+SNode list(const QString &tag, const char *word, const char *text, const char *heading,
+           EEntry entry, const QString &entryTag, const Nodes &children)
 {
     SNode result = group(tag, word, text, children);
     result.kind = EKind::LIST;
+    result.heading = heading;
     result.entry = entry;
     result.entryTag = entryTag;
     return result;
@@ -130,7 +131,8 @@ SNode optionsNode()
 {
     SNode result =
         list(TAG_OPTIONS, "options", QT_TRANSLATE_NOOP("ConfigurationShape", "option %1"),
-             EEntry::OPTION, QString(), nameNodes(EValue::KEY_OPTION));
+             QT_TRANSLATE_NOOP("ConfigurationShape", "start options"), EEntry::OPTION, QString(),
+             nameNodes(EValue::KEY_OPTION));
     result.kind = EKind::OPTIONS;
     result.item.value = EValue::OPTION_ARGUMENT;
     return result;
@@ -153,6 +155,7 @@ SNode opcUaNode()
     Nodes children = nodes(opcUaItems());
     children.append(ofFiles(list(TAG_OPCUA_FILES, "opcUaFiles",
                                  QT_TRANSLATE_NOOP("ConfigurationShape", "OPC UA file %1"),
+                                 QT_TRANSLATE_NOOP("ConfigurationShape", "OPC UA files"),
                                  EEntry::OPC_UA_FILE, TAG_FILE, listedFileNodes()),
                             DEVICE_FILE_OPC_UA));
     return group(TAG_OPCUA, "", nullptr, children);
@@ -164,22 +167,26 @@ SNode configNode()
         optionsNode(),
         readDeep(ofFiles(list(TAG_PARAMETERFILES, "parameterFiles",
                               QT_TRANSLATE_NOOP("ConfigurationShape", "parameter file %1"),
+                              QT_TRANSLATE_NOOP("ConfigurationShape", "parameter files"),
                               EEntry::PARAMETER_FILE, TAG_FILE, nodes(parameterFileItems())),
                          DEVICE_FILE_PARAMETER)),
         fileNode(deviceFiles(), TAG_DICTIONARY),
         fileNode(deviceFiles(), TAG_FAULTTEXT_FILE),
         ofFiles(list(TAG_FPGA_FILES, "fpgaFiles",
-                     QT_TRANSLATE_NOOP("ConfigurationShape", "FPGA image %1"), EEntry::FPGA_FILE,
+                     QT_TRANSLATE_NOOP("ConfigurationShape", "FPGA image %1"),
+                     QT_TRANSLATE_NOOP("ConfigurationShape", "FPGA images"), EEntry::FPGA_FILE,
                      TAG_FILE, nameNodes()),
                 DEVICE_FILE_FPGA),
         activeFpgaFileNode(),
         opcUaNode(),
         fileNode(deviceFiles(), TAG_ETHERCATMASTER),
         atTop(ofFiles(list(TAG_FILES, "files", QT_TRANSLATE_NOOP("ConfigurationShape", "file %1"),
+                           QT_TRANSLATE_NOOP("ConfigurationShape", "additional files"),
                            EEntry::FILE, TAG_FILE, listedFileNodes()),
                       DEVICE_FILE_ADDITIONAL)),
         readDeep(ofFiles(list(TAG_PLUGINS, "plugins",
-                              QT_TRANSLATE_NOOP("ConfigurationShape", "plug-in %1"), EEntry::PLUGIN,
+                              QT_TRANSLATE_NOOP("ConfigurationShape", "plug-in %1"),
+                              QT_TRANSLATE_NOOP("ConfigurationShape", "plug-ins"), EEntry::PLUGIN,
                               TAG_PLUGIN, nodes(pluginItems())),
                          DEVICE_FILE_PLUGIN)),
     };
@@ -193,7 +200,8 @@ SNode driveNode()
         children.append(node(file));
     }
     return atTop(list(QString(), "drive", QT_TRANSLATE_NOOP("ConfigurationShape", "drive %1"),
-                      EEntry::DRIVE, TAG_SUB_DEVICE, children));
+                      QT_TRANSLATE_NOOP("ConfigurationShape", "drives"), EEntry::DRIVE,
+                      TAG_SUB_DEVICE, children));
 }
 
 SNode deviceNode()
@@ -248,4 +256,14 @@ const SNode &ConfigurationShape::config()
 QString ConfigurationShape::label(const char *text)
 {
     return QCoreApplication::translate("ConfigurationShape", text);
+}
+
+QString ConfigurationShape::title(const char *text)
+{
+    return capitalized(label(text));
+}
+
+QString ConfigurationShape::capitalized(const QString &text)
+{
+    return text.left(1).toUpper() + text.mid(1);
 }

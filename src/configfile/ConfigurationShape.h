@@ -141,6 +141,8 @@ struct SNode {
     QString word;
     /** For users; of a list that of an entry, with %1 for its key. */
     const char *text = nullptr;
+    /** Of a list: its entries together. */
+    const char *heading = nullptr;
     /** The path does not begin with that of the node around it. */
     bool isAtTop = false;
     /** Of an item, and of the start options: the argument, which an entry itself has as value. */
@@ -173,5 +175,8 @@ const SNode &config();
 
 /** A text of these tables in the user's language. */
 QString label(const char *text);
+/** The same as a heading, or before a colon: with a capital letter. */
+QString title(const char *text);
+QString capitalized(const QString &text);
 
 } // namespace ConfigurationShape
