@@ -386,10 +386,12 @@ void tst_CConfigurationReport::header()
     QVERIFY(page.all(u"header"_s).first().text().contains(u"Hall 3"_s));
 
     QMap<QString, QString> facts;
-    const QDomElement list = page.all(u"dl"_s).first();
-    for (const QDomElement &fact : Page::all(list, u"div"_s)) {
-        facts.insert(fact.firstChildElement(u"dt"_s).text(),
-                     fact.firstChildElement(u"dd"_s).text());
+    // Those of the device, and those of the description.
+    for (const QDomElement &list : page.all(u"dl"_s).mid(0, 2)) {
+        for (const QDomElement &fact : Page::all(list, u"div"_s)) {
+            facts.insert(fact.firstChildElement(u"dt"_s).text(),
+                         fact.firstChildElement(u"dd"_s).text());
+        }
     }
     QCOMPARE(facts.value(u"Name"_s), u"Press"_s);
     QCOMPARE(facts.value(u"Comment"_s), u"the big one"_s);
@@ -398,6 +400,8 @@ void tst_CConfigurationReport::header()
     QCOMPARE(facts.value(u"Platform, version, revision"_s), u"3 · 2 · 1"_s);
     QCOMPARE(facts.value(u"Hardware identity"_s), u"KD3:Servo Drive 8A:3:2:1"_s);
     QCOMPARE(facts.value(u"Configuration name"_s), u"production"_s);
+    QCOMPARE(facts.value(u"Execution plug-in"_s), u"Motion"_s);
+    QCOMPARE(facts.value(u"OPC UA enabled"_s), u"true"_s);
     QCOMPARE(facts.value(u"Version"_s), u"2.1"_s);
     QCOMPARE(facts.value(u"Creation date"_s), u"2025-12-24"_s);
     QCOMPARE(facts.value(u"Revision date"_s), u"2026-01-30"_s);
@@ -935,12 +939,13 @@ void tst_CConfigurationReport::texts()
         QCOMPARE(page.root().attribute(u"lang"_s), u"\"en\""_s);
     }
     const MarkingTranslator translator("CConfigurationReport");
+    const MarkingTranslator words("ConfigurationShape");
     const Page page(file);
     QVERIFY(page.isWellFormed());
     QCOMPARE(page.root().attribute(u"lang"_s), u"<en>"_s);
     const QStringList translated = collect(page);
     QCOMPARE(translated.size(), plain.size());
-    for (const char *text : {"Findings", "Device", "Drives", "Hardware identity", "On the device",
+    for (const char *text : {"Findings", "Device", "Drives", "hardware identity", "On the device",
                              "In the project", "Start options", "Sections of this page"}) {
         const QString marked = u"<%1>"_s.arg(QString::fromLatin1(text));
         QVERIFY2(translated.contains(marked)
