@@ -86,7 +86,7 @@ QString otherValue(EValue kind, const QString &value)
     case EValue::DEVICE_CLASS:
         return u"kc2"_s;
     case EValue::HARDWARE_ID:
-        return u"KD3:Changed:4:5:6"_s;
+        return u"KD3:Altered:4:5:6"_s;
     case EValue::BOOLEAN:
         return value == u"true"_s ? u"false"_s : u"true"_s;
     case EValue::UNSIGNED_NUMBER:
@@ -99,13 +99,13 @@ QString otherValue(EValue kind, const QString &value)
     case EValue::DRIVE_TYPE:
         return u"KD3_drive"_s;
     case EValue::DEVICE_DIRECTORY:
-        return u"/velkor/changed/"_s;
+        return u"/velkor/altered/"_s;
     case EValue::PROJECT_DIRECTORY:
-        return u"Press/changed/"_s;
+        return u"Press/altered/"_s;
     case EValue::KEY_OPTION:
-        return u"-changed"_s;
+        return u"-altered"_s;
     default:
-        return u"changed"_s;
+        return u"altered"_s;
     }
 }
 
@@ -273,6 +273,8 @@ private:
     void checkShown(const QString &value);
 
     std::unique_ptr<QTemporaryDir> m_directory;
+    /** What each command prints for the sample. */
+    QMap<QString, QString> m_outputs;
 };
 
 void tst_VrnDeviceFields::init()
@@ -367,10 +369,15 @@ void tst_VrnDeviceFields::checkShown(const QString &value)
 {
     const QList<QStringList> commands = {{u"show"_s, u"--json"_s}, {u"tree"_s}, {u"report"_s}};
     for (const QStringList &command : commands) {
-        const QString before = run(command + QStringList(u"sample.3deco"_s)).output;
-        const QString after = run(command + QStringList(u"changed.3deco"_s)).output;
-        QVERIFY2(!after.isEmpty() && after != before, qPrintable(command.first()));
-        QVERIFY2(after.contains(value) || value == u"false"_s, qPrintable(after));
+        QString &before = m_outputs[command.first()];
+        if (before.isEmpty()) {
+            before = run(command + QStringList(u"sample.3deco"_s)).output.remove(u"<wbr/>"_s);
+        }
+        // The report lets the reader's program wrap a path behind each separator.
+        const QString after =
+            run(command + QStringList(u"changed.3deco"_s)).output.remove(u"<wbr/>"_s);
+        QVERIFY2(after != before && (after.contains(value) || value == u"false"_s),
+                 qPrintable(command.first()));
     }
 }
 
@@ -400,13 +407,13 @@ void tst_VrnDeviceFields::consumers()
 /** They are one text, in which an entry has no element of its own. */
 void tst_VrnDeviceFields::startOptions()
 {
-    QVERIFY(write(u"changed.3deco"_s, sample().replace("-v -log -opc", "-v -log changed -opc")));
+    QVERIFY(write(u"changed.3deco"_s, sample().replace("-v -log -opc", "-v -log altered -opc")));
     QCOMPARE(run({u"get"_s, u"changed.3deco"_s, u"device.options[-log]"_s}).output.trimmed(),
-             u"changed"_s);
+             u"altered"_s);
     const Tool::SResult diff = run({u"diff"_s, u"sample.3deco"_s, u"changed.3deco"_s});
     QCOMPARE(diff.exitCode, 1);
-    QVERIFY(diff.output.contains(u"changed"_s));
-    checkShown(u"changed"_s);
+    QVERIFY(diff.output.contains(u"altered"_s));
+    checkShown(u"altered"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_VrnDeviceFields)
