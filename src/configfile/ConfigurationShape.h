@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <algorithm>
 #include <functional>
 
 /**
@@ -81,6 +82,8 @@ struct SFileField {
     NvrnDeviceCore::EDeviceFile kind = NvrnDeviceCore::DEVICE_FILE_NONE;
     /** Whether only drives of the KD2 series have it. */
     bool isOfKd2Only = false;
+    /** Readers drop its directory in the project when that is not below the device's own one. */
+    bool isBelowDevice = false;
     std::function<CFileElement(const Element &)> get;
     std::function<void(Element &, const CFileElement &)> set;
 };
@@ -102,6 +105,15 @@ const QVector<SFileField<CSubDeviceElement>> &driveFiles();
 const QVector<SField<CFileElement>> &fileItems();
 const QVector<SField<CParamFileElement>> &parameterFileItems();
 const QVector<SField<CPluginElement>> &pluginItems();
+
+/** The row of that element or attribute; null when the table has none. */
+template <typename Field>
+const Field *find(const QVector<Field> &rows, const QString &tag)
+{
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [&tag](const Field &candidate) { return candidate.tag == tag; });
+    return row == rows.end() ? nullptr : &*row;
+}
 
 /** What the entries of a list are. */
 enum class EEntry { NONE, DRIVE, PARAMETER_FILE, FILE, FPGA_FILE, OPC_UA_FILE, PLUGIN, OPTION };
@@ -137,10 +149,13 @@ struct SNode {
     SItem item;
     /** Of a list. */
     EEntry entry = EEntry::NONE;
+    /** Of a list and a single file: what stands in it. */
     QString entryTag;
     /** Of a list: readers find its entries at any depth below it. */
     bool isReadDeep = false;
     bool isOfKd2Only = false;
+    /** Of a single file: see SFileField. */
+    bool isBelowDevice = false;
     /** Of a single file and a list of files: where the directory layout puts them. */
     NvrnDeviceCore::EDeviceFile file = NvrnDeviceCore::DEVICE_FILE_NONE;
     /** In the order in which they are written; of a list what each entry has, its key first. */
@@ -154,6 +169,9 @@ struct SNode {
 
 /** The root element, and in it all others; its head belongs to the base of all XML files. */
 const SNode &root();
+/** In that the "Device", and in that the "Config". */
+const SNode &device();
+const SNode &config();
 
 /** A text of these tables in the user's language. */
 QString label(const char *text);

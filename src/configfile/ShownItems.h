@@ -12,6 +12,7 @@ struct SShownItem {
     /** Of the item; see ShapePaths. The path of the entry or group stands before it. */
     QString path;
     QString word;
+    ConfigurationShape::EValue kind = ConfigurationShape::EValue::TEXT;
     /** What stands before a colon. */
     QString title;
     /** As it is written into the document. */
@@ -35,7 +36,7 @@ QVector<SShownItem> of(const QVector<ConfigurationShape::SField<Element>> &rows,
     for (const ConfigurationShape::SField<Element> &row : rows) {
         if (!others.contains(row.word)) {
             const QString value = ItemValue::read(row.value, row.get(element));
-            result.append({path + QLatin1Char('.') + row.word, row.word,
+            result.append({path + QLatin1Char('.') + row.word, row.word, row.value,
                            ConfigurationShape::title(row.text), value,
                            value == ItemValue::read(row.value, QString())});
         }

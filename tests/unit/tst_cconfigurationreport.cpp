@@ -387,10 +387,12 @@ void tst_CConfigurationReport::header()
     QVERIFY(page.all(u"header"_s).first().text().contains(u"Hall 3"_s));
 
     QMap<QString, QString> facts;
-    const QDomElement list = page.all(u"dl"_s).first();
-    for (const QDomElement &fact : Page::all(list, u"div"_s)) {
-        facts.insert(fact.firstChildElement(u"dt"_s).text(),
-                     fact.firstChildElement(u"dd"_s).text());
+    // Those of the device, and those of the description.
+    for (const QDomElement &list : page.all(u"dl"_s).mid(0, 2)) {
+        for (const QDomElement &fact : Page::all(list, u"div"_s)) {
+            facts.insert(fact.firstChildElement(u"dt"_s).text(),
+                         fact.firstChildElement(u"dd"_s).text());
+        }
     }
     QCOMPARE(facts.value(u"Name"_s), u"Press"_s);
     QCOMPARE(facts.value(u"Comment"_s), u"the big one"_s);
@@ -399,9 +401,11 @@ void tst_CConfigurationReport::header()
     QCOMPARE(facts.value(u"Platform, version, revision"_s), u"3 · 2 · 1"_s);
     QCOMPARE(facts.value(u"Hardware identity"_s), u"KD3:Servo Drive 8A:3:2:1"_s);
     QCOMPARE(facts.value(u"Configuration name"_s), u"production"_s);
-    QCOMPARE(facts.value(u"Version of the configuration"_s), u"2.1"_s);
-    QCOMPARE(facts.value(u"Created"_s), u"2025-12-24"_s);
-    QCOMPARE(facts.value(u"Last revision"_s), u"2026-01-30"_s);
+    QCOMPARE(facts.value(u"Execution plug-in"_s), u"Motion"_s);
+    QCOMPARE(facts.value(u"OPC UA enabled"_s), u"true"_s);
+    QCOMPARE(facts.value(u"Version"_s), u"2.1"_s);
+    QCOMPARE(facts.value(u"Creation date"_s), u"2025-12-24"_s);
+    QCOMPARE(facts.value(u"Revision date"_s), u"2026-01-30"_s);
     QCOMPARE(facts.value(u"Written by"_s), u"A. Engineer"_s);
     QCOMPARE(facts.value(u"Written on"_s), u"2026-01-31"_s);
 
@@ -459,9 +463,9 @@ void tst_CConfigurationReport::kindsAndMarks()
     QCOMPARE(cells(row(u"Machine.3pdef"_s)).first(), u"Parameter definition, VornParameters"_s);
     QVERIFY(row(u"Machine.3param"_s).text().contains(u"all axes"_s));
     QCOMPARE(cells(row(u"KD3_Dictionary_V1.xml"_s)).first(), u"Object dictionary"_s);
-    QCOMPARE(cells(row(u"firmware.bin"_s)).first(), u"Firmware"_s);
+    QCOMPARE(cells(row(u"firmware.bin"_s)).first(), u"KD2 firmware"_s);
     QCOMPARE(headingAbove(row(u"recipe 1.csv"_s)), u"Additional files"_s);
-    QCOMPARE(headingAbove(row(u"kd3NodeSet.xml"_s)), u"OPC UA models Enabled"_s);
+    QCOMPARE(headingAbove(row(u"kd3NodeSet.xml"_s)), u"OPC UA files Enabled"_s);
     QCOMPARE(Page::all(row(u"main.bit"_s), u"span"_s).first().text(), u"Active"_s);
     QVERIFY(Page::all(row(u"spare.bit"_s), u"span"_s).isEmpty());
 }
@@ -559,8 +563,8 @@ void tst_CConfigurationReport::findingsStandBesideTheirItems_data()
     row("device.fpgaFiles", "FPGA images");
     row("device.activeFpgaFile", "FPGA images");
     row("device.fpgaFiles[spare.bit]", "FPGA images", "spare.bit");
-    row("device.opcUaEnabled", "OPC UA models Enabled");
-    row("device.opcUaFiles[kd3NodeSet.xml].name", "OPC UA models Enabled", "kd3NodeSet.xml");
+    row("device.opcUaEnabled", "OPC UA files Enabled");
+    row("device.opcUaFiles[kd3NodeSet.xml].name", "OPC UA files Enabled", "kd3NodeSet.xml");
     row("device.plugins", "Plug-ins");
     row("device.executionPlugin", "Plug-ins");
     row("device.plugins[CECatMaster].priority", "Plug-ins", "CECatMaster");
@@ -937,12 +941,13 @@ void tst_CConfigurationReport::texts()
         QCOMPARE(page.root().attribute(u"lang"_s), u"\"en\""_s);
     }
     const MarkingTranslator translator("CConfigurationReport");
+    const MarkingTranslator words("ConfigurationShape");
     const Page page(file);
     QVERIFY(page.isWellFormed());
     QCOMPARE(page.root().attribute(u"lang"_s), u"<en>"_s);
     const QStringList translated = collect(page);
     QCOMPARE(translated.size(), plain.size());
-    for (const char *text : {"Findings", "Device", "Drives", "Hardware identity", "On the device",
+    for (const char *text : {"Findings", "Device", "Drives", "hardware identity", "On the device",
                              "In the project", "Start options", "Sections of this page"}) {
         const QString marked = u"<%1>"_s.arg(QString::fromLatin1(text));
         QVERIFY2(translated.contains(marked)

@@ -199,11 +199,12 @@ void tst_VrnDevice::showPrintsATree()
     const SResult result = run({QStringLiteral("show"), path()});
     QCOMPARE(result.exitCode, 0);
     for (const char *line :
-         {"└─ Device PackagingLine, class kd3 (Folding box line 4, hall B)\n",
+         {"├─ Version: 1.2\n", "└─ Device PackagingLine, class kd3 (Folding box line 4, hall B)\n",
           "   │  ├─ UnitParams, VornDeviceDatabase (Unit data of the controller)\n",
-          "   ├─ OPC UA, enabled\n", "   │  └─ motion 2\n", "      ├─ 0: Infeed, KD3_drive\n",
+          "   ├─ OPC UA, enabled\n", "   │  └─ motion 2\n   │     └─ Priority: 20\n",
+          "      ├─ 0: Infeed, KD3_drive\n",
           "      └─ 2: Gluer, KD2_drive (Old drive, kept from line 2)\n",
-          "         ├─ Firmware: kd2_fw_4_7.bin\n"}) {
+          "         ├─ KD2 firmware: kd2_fw_4_7.bin\n"}) {
         QVERIFY2(result.output.contains(QString::fromUtf8(line)), line);
     }
 }
@@ -215,11 +216,15 @@ void tst_VrnDevice::showPrintsJson()
     QCOMPARE(result.exitCode, 0);
     const QJsonObject device = result.json().value(QStringLiteral("device")).toObject();
     QCOMPARE(device.value(QStringLiteral("class")).toString(), QStringLiteral("kd3"));
-    const QJsonArray drives = device.value(QStringLiteral("subDevices")).toArray();
+    const QJsonArray drives = device.value(QStringLiteral("drive")).toArray();
     QCOMPARE(drives.size(), 3);
     const QJsonObject old = drives.at(2).toObject();
     QCOMPARE(old.value(QStringLiteral("type")).toString(), QStringLiteral("KD2_drive"));
-    QCOMPARE(old.value(QStringLiteral("files")).toArray().size(), 4);
+    for (const auto &file : {QStringLiteral("param"), QStringLiteral("kd2Param"),
+                             QStringLiteral("kd2Logic"), QStringLiteral("kd2Firmware")}) {
+        QVERIFY(!old.value(file)[QStringLiteral("name")].toString().isEmpty());
+        QCOMPARE(drives.at(0).toObject().contains(file), file == QStringLiteral("param"));
+    }
 }
 
 void tst_VrnDevice::addDriveTakesTheNextFreeNumber()
@@ -247,7 +252,7 @@ void tst_VrnDevice::addDriveWithNumberAndName()
              QStringLiteral("--id=9"), QStringLiteral("--name=Gripper"), QStringLiteral("--json")});
     QCOMPARE(result.exitCode, 0);
     const QJsonObject drive = result.json();
-    QCOMPARE(drive.value(QStringLiteral("driveId")).toInt(), 9);
+    QCOMPARE(drive.value(QStringLiteral("driveNo")).toInt(), 9);
     QCOMPARE(drive.value(QStringLiteral("name")).toString(), QStringLiteral("Gripper"));
     QCOMPARE(drive.value(QStringLiteral("type")).toString(), QStringLiteral("KD2_drive"));
 }

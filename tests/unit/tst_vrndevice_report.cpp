@@ -413,7 +413,7 @@ void tst_VrnDeviceReport::colours()
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output.contains(Escape), expected);
     QCOMPARE(result.output.contains(u"\x1b[31merror:\x1b[0m"_s), expected);
-    QCOMPARE(result.output.contains(u"\x1b[1mSub-devices\x1b[0m"_s), expected);
+    QCOMPARE(result.output.contains(u"\x1b[1mDrives\x1b[0m"_s), expected);
     QVERIFY(result.output.contains(u"drive-number-twice"_s));
 }
 

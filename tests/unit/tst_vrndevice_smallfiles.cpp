@@ -195,9 +195,9 @@ void tst_vrndevice_smallfiles::settingsShow()
 
     const QJsonObject json = run(u"settings show settings.3conf --json"_s).json();
     QCOMPARE(json.value(u"deviceName"_s).toString(), u"Folding box line 4"_s);
-    const QJsonArray drives = json.value(u"subDevices"_s).toArray();
+    const QJsonArray drives = json.value(u"drive"_s).toArray();
     QCOMPARE(drives.size(), 3);
-    QCOMPARE(drives.at(2).toObject(), (QJsonObject{{u"driveId"_s, 2}, {u"name"_s, u"Gluer"_s}}));
+    QCOMPARE(drives.at(2).toObject(), (QJsonObject{{u"driveNo"_s, 2}, {u"name"_s, u"Gluer"_s}}));
 }
 
 void tst_vrndevice_smallfiles::settingsSet()
@@ -231,7 +231,7 @@ void tst_vrndevice_smallfiles::settingsCreate()
     const SResult result = run(u"settings set settings.3conf --create --name=New --json"_s);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.json(),
-             (QJsonObject{{u"deviceName"_s, u"New"_s}, {u"subDevices"_s, QJsonArray()}}));
+             (QJsonObject{{u"deviceName"_s, u"New"_s}, {u"drive"_s, QJsonArray()}}));
 
     // A second time nothing that is there is lost.
     QCOMPARE(run(u"settings set settings.3conf --create --drive=3=D"_s).exitCode, 0);
