@@ -2,9 +2,10 @@
 
 #include "commissioning/check/ConfigurationRules.h"
 #include "commissioning/check/DocumentCheck.h"
+#include "commissioning/check/ProjectFiles.h"
+#include "commissioning/check/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -12,12 +13,6 @@
 #include <tuple>
 
 namespace {
-
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationCheck)
-};
 
 /** A document that is to be checked: its version is a finding, and no message to the user. */
 class CheckedFile : public CDeviceConfigurationFile10
