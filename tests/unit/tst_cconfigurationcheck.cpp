@@ -808,7 +808,7 @@ void tst_CConfigurationCheck::texts_data()
         u"/velkor/configurations/production/conf/"_s, u"a directory of 'production(2)'"_s,
         u"Was the configuration renamed? Then the directory has to follow."_s);
     row("two-files-in-one-place",
-        u"The file 'recipes.csv' has the same place on the device as that of files[recipes.csv]."_s,
+        u"The file 'recipes.csv' has the same place on the device as files[recipes.csv]."_s,
         u"/velkor/recipes/recipes.csv"_s, u"a place of its own"_s,
         u"The one that is transferred last overwrites the other one."_s);
     row("hardware-id-other-platform",

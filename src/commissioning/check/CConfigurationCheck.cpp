@@ -1,9 +1,8 @@
 #include "commissioning/CConfigurationCheck.h"
 
-#include "commissioning/check/ConfigurationRules.h"
 #include "commissioning/check/DocumentCheck.h"
-#include "commissioning/check/ProjectFiles.h"
-#include "commissioning/check/Texts.h"
+#include "commissioning/rules/ConfigurationRules.h"
+#include "commissioning/rules/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QDir>
@@ -64,11 +63,7 @@ public:
         if (!file.read(source, errorText)) {
             return false;
         }
-        std::unique_ptr<ProjectFiles> project;
-        if (!projectDirectory.isEmpty()) {
-            project = std::make_unique<ProjectFiles>(projectDirectory);
-        }
-        findings = DocumentCheck(file, file.version(), project.get()).run();
+        findings = DocumentCheck(file, file.version(), projectDirectory).run();
         std::stable_sort(findings.begin(), findings.end(), isBefore);
         return true;
     }

@@ -5,8 +5,6 @@
 
 #include <QHash>
 
-class ProjectFiles;
-
 /** The paths of the entries of all lists of a document. */
 class EntryPaths
 {
@@ -21,8 +19,6 @@ private:
 /** What the checks of one document share. */
 struct CheckContext {
     const CDeviceConfigurationFile10 &file;
-    /** Null when the files are left alone. */
-    ProjectFiles *project = nullptr;
     Findings findings;
     EntryPaths entryPaths;
     /** What the device says of itself, without lists; set when the walk comes to the device. */

@@ -1,7 +1,7 @@
 #include "commissioning/check/DeviceCheck.h"
 
-#include "commissioning/check/Texts.h"
 #include "commissioning/check/ValueChecks.h"
+#include "commissioning/rules/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationRules;

@@ -1,11 +1,8 @@
 #include "commissioning/check/DocumentCheck.h"
 
 #include "commissioning/CConfigurationItems.h"
-#include "commissioning/check/ProjectFiles.h"
-#include "commissioning/check/Texts.h"
 #include "elements/DriveNumbers.h"
 
-using namespace ConfigurationRules;
 using namespace DocumentStructure;
 
 namespace {
@@ -25,31 +22,19 @@ QString EntryPaths::next(const QString &list, const QString &key)
 }
 
 DocumentCheck::DocumentCheck(const CDeviceConfigurationFile10 &file, const QString &version,
-                             ProjectFiles *project)
-    : m_version(version), m_context{file, project, Findings(file), EntryPaths(), CDeviceElement()},
+                             const QString &projectDirectory)
+    : m_version(version), m_context{file, Findings(file), EntryPaths(), CDeviceElement()},
       m_structure(m_context.findings), m_device(m_context), m_options(m_context),
-      m_files(m_context), m_fileLists(m_context, m_files), m_plugins(m_context, m_files),
-      m_drives(m_context)
+      m_files(m_context, projectDirectory), m_fileLists(m_context, m_files),
+      m_plugins(m_context, m_files), m_drives(m_context)
 {
 }
 
 QList<SConfigurationFinding> DocumentCheck::run()
 {
-    readManifest();
+    m_files.readManifest();
     visit(m_context.file.domDocument().documentElement(), root(), QString());
     return m_context.findings.all();
-}
-
-void DocumentCheck::readManifest()
-{
-    QString errorText;
-    if (m_context.project != nullptr && !m_context.project->readManifest(errorText)) {
-        m_context.findings.report(
-            MANIFEST_INVALID, SPlace(),
-            {Texts::tr("The project's manifest cannot be read: %1").arg(errorText),
-             CDeviceManifest::fileName(), Texts::tr("a manifest as it is made by staging"),
-             Texts::tr("Make the manifest anew; files are not compared with this one.")});
-    }
 }
 
 void DocumentCheck::visit(const QDomElement &element, const SElement &type, const QString &path)

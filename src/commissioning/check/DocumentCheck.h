@@ -14,10 +14,10 @@ public:
     /**
      * @param file holds the document, with positions
      * @param version of the document as it was read
-     * @param project may be null
+     * @param projectDirectory may be empty: then no files are looked for
      */
     DocumentCheck(const CDeviceConfigurationFile10 &file, const QString &version,
-                  ProjectFiles *project);
+                  const QString &projectDirectory);
 
     /** In the order of the walk. */
     QList<SConfigurationFinding> run();
@@ -27,7 +27,6 @@ private:
 
     using SElement = DocumentStructure::SElement;
 
-    void readManifest();
     void visit(const QDomElement &element, const SElement &type, const QString &path);
     void visitChild(const QDomElement &child, const Fields &parent, const QString &item);
     void visitDeep(const QDomElement &element, const SElement &list, const QString &path);

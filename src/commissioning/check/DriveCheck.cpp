@@ -1,13 +1,13 @@
 #include "commissioning/check/DriveCheck.h"
 
-#include "commissioning/check/Texts.h"
 #include "commissioning/check/ValueChecks.h"
+#include "commissioning/rules/Texts.h"
 #include "elements/DriveNumbers.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 void DriveCheck::check(const Fields &fields, const QString &item)

@@ -1,13 +1,13 @@
 #include "commissioning/check/FileCheck.h"
 
-#include "commissioning/check/FileRules.h"
-#include "commissioning/check/Texts.h"
+#include "commissioning/rules/FileRules.h"
+#include "commissioning/rules/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 namespace {
@@ -15,6 +15,21 @@ namespace {
 const QLatin1Char Separator('/');
 
 } // namespace
+
+FileCheck::FileCheck(CheckContext &context, const QString &projectDirectory)
+    : m_context(context), m_projectDirectory(projectDirectory)
+{
+    if (!projectDirectory.isEmpty()) {
+        m_project = std::make_unique<ProjectFiles>(projectDirectory);
+    }
+}
+
+void FileCheck::readManifest()
+{
+    if (m_project != nullptr) {
+        m_context.findings.report(m_manifest.read(m_projectDirectory), SPlace());
+    }
+}
 
 void FileCheck::check(const Fields &fields, const QString &item, bool isOfDevice)
 {
@@ -49,7 +64,11 @@ void FileCheck::checkDevicePath(const CFileElement &file, const Fields &fields, 
     const SPlace place = {fields.place(TAG_DEVICE_DIR), item + QStringLiteral(".deviceDir")};
     const std::optional<SFault> fault = FileRules::ofDeviceDirectory(file, text);
     if (fault) {
-        m_context.findings.report(fault, place);
+        // A configuration name that no directory can have was reported where it stands.
+        const QString name = m_context.device.configurationName();
+        const bool isOfName = !CanonicalPaths::isStorable(name)
+            && file.devicePath().contains(Separator + name + Separator);
+        m_context.findings.report(isOfName ? std::optional<SFault>() : fault, place);
         return;
     }
     if (!text.startsWith(Separator) && !text.startsWith(QLatin1Char('\\'))) {
@@ -83,7 +102,7 @@ void FileCheck::checkConfiguration(const CFileElement &file, const SPlace &place
     }
 }
 
-bool FileCheck::checkProjectPath(const CFileElement &file, const SPlace &place, bool isOfDevice)
+bool FileCheck::checkProjectPath(CFileElement &file, const SPlace &place, bool isOfDevice)
 {
     const std::optional<SFault> fault = FileRules::ofProjectDirectory(file);
     if (fault) {
@@ -99,6 +118,7 @@ bool FileCheck::checkProjectPath(const CFileElement &file, const SPlace &place, 
             {Texts::tr("The directory '%1' is not below that of the device.").arg(shown(path)),
              path, Texts::tr("a directory below '%1'").arg(shown(own)),
              Texts::tr("It is removed when the device is read.")});
+        file.setProjectPath(QString());
     }
     return true;
 }
@@ -107,13 +127,20 @@ void FileCheck::checkPlaced(const QList<CFileElement> &files, const SPlace &plac
 {
     bool isClaimed = true;
     for (const CFileElement &file : files) {
-        if (!file.fileName().isEmpty()) {
-            // Two entries of one name have all their files in common; once is enough.
-            isClaimed = isClaimed && claim(file, place);
-            // Without the names of device and configuration the directories are not known.
-            if (!m_context.device.name().isEmpty() && !file.devicePath().isEmpty()) {
-                checkInProject(file, place);
-            }
+        if (file.fileName().isEmpty()) {
+            continue;
+        }
+        // It is longer than that of the entry, which was found good.
+        const std::optional<SFault> fault = FileRules::ofName(file.fileName());
+        if (fault) {
+            m_context.findings.report(fault, place);
+            return;
+        }
+        // Two entries of one name have all their files in common; once is enough.
+        isClaimed = isClaimed && claim(file, place);
+        // Without the names of device and configuration the directories are not known.
+        if (!m_context.device.name().isEmpty() && !file.devicePath().isEmpty()) {
+            checkInProject(file, place);
         }
     }
 }
@@ -142,9 +169,12 @@ bool FileCheck::claim(const CFileElement &file, const SPlace &place)
 
 void FileCheck::checkInProject(const CFileElement &file, const SPlace &place)
 {
-    if (m_context.project != nullptr) {
-        const ProjectFiles::SFile inProject =
-            m_context.project->find(CanonicalPaths::inProject(file));
-        m_context.findings.report(FileRules::ofProjectFile(file, inProject), place);
+    if (m_project == nullptr) {
+        return;
     }
+    const ProjectFiles::SFile inProject = m_project->find(file);
+    m_context.findings.report(inProject.state == ProjectFiles::STATE_PRESENT
+                                  ? m_manifest.compare(CanonicalPaths::inProject(file))
+                                  : FileRules::ofProjectFile(file, inProject),
+                              place);
 }

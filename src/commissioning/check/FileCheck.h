@@ -2,15 +2,22 @@
 
 #include "commissioning/check/CheckContext.h"
 #include "commissioning/check/Fields.h"
+#include "commissioning/check/ManifestComparison.h"
+#include "commissioning/rules/ProjectFiles.h"
 
 #include <QPair>
 #include <QSet>
+
+#include <memory>
 
 /** Checks the files that the document names: their names, their places, and the project's files. */
 class FileCheck
 {
 public:
-    explicit FileCheck(CheckContext &context) : m_context(context) { }
+    /** @param projectDirectory may be empty: then no files are looked for */
+    FileCheck(CheckContext &context, const QString &projectDirectory);
+
+    void readManifest();
 
     /** A file with directories of its own. @param isOfDevice it lies below the device's directory
      * in the project */
@@ -25,10 +32,14 @@ public:
 private:
     void checkDevicePath(const CFileElement &file, const Fields &fields, const QString &item);
     void checkConfiguration(const CFileElement &file, const SPlace &place, const QString &text);
-    bool checkProjectPath(const CFileElement &file, const SPlace &place, bool isOfDevice);
+    bool checkProjectPath(CFileElement &file, const SPlace &place, bool isOfDevice);
     void checkInProject(const CFileElement &file, const SPlace &place);
 
     CheckContext &m_context;
+    const QString m_projectDirectory;
+    /** Null when no files are looked for. */
+    std::unique_ptr<ProjectFiles> m_project;
+    ManifestComparison m_manifest;
     /** The item of each file, by its path on the device. */
     QHash<QString, QString> m_claims;
     QSet<QPair<QString, QString>> m_files;

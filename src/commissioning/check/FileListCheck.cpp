@@ -1,11 +1,11 @@
 #include "commissioning/check/FileListCheck.h"
 
-#include "commissioning/check/Texts.h"
 #include "commissioning/check/ValueChecks.h"
+#include "commissioning/rules/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 void FileListCheck::checkParameterFile(const Fields &fields, const QString &item)

@@ -1,15 +1,12 @@
 #include "commissioning/check/Findings.h"
 
-#include "commissioning/check/Texts.h"
-
-#include <algorithm>
+#include "commissioning/rules/Texts.h"
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 
 namespace {
 
-const int LongestShownText = 200;
 /** More than anybody reads, and no more than memory holds. */
 const int MostFindings = 100000;
 
@@ -51,31 +48,3 @@ void Findings::append(ERule rule, const SPlace &place, const SFaultText &text)
     finding.hint = text.hint.isEmpty() ? hint(rule) : text.hint;
     m_findings.append(finding);
 }
-
-namespace FindingTexts {
-
-QString shown(const QString &text)
-{
-    return text.size() <= LongestShownText ? text : text.left(LongestShownText) + QChar(0x2026);
-}
-
-QString inWords(const QStringList &texts)
-{
-    return texts.join(QStringLiteral(", "));
-}
-
-QString meant(const QString &text, const QStringList &allowed)
-{
-    const auto found =
-        std::find_if(allowed.cbegin(), allowed.cend(), [&text](const QString &candidate) {
-            return candidate.compare(text, Qt::CaseInsensitive) == 0;
-        });
-    return found == allowed.cend() ? QString() : *found;
-}
-
-QString caseHint(const QString &rightText)
-{
-    return Texts::tr("Write '%1': capital and small letters matter.").arg(rightText);
-}
-
-} // namespace FindingTexts

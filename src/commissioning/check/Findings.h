@@ -1,10 +1,9 @@
 #pragma once
 
-#include "commissioning/check/ConfigurationRules.h"
+#include "commissioning/rules/Fault.h"
 #include "configfile/CDeviceConfigurationFile10.h"
 
 #include <QList>
-#include <QStringList>
 
 #include <optional>
 
@@ -12,20 +11,6 @@
 struct SPlace {
     QDomElement element;
     QString item;
-};
-
-/** What is wrong, in words; see SConfigurationFinding. Without a hint that of the rule stands. */
-struct SFaultText {
-    QString message;
-    QString found;
-    QString expected;
-    QString hint;
-};
-
-/** What a rule found, without a place. */
-struct SFault {
-    ConfigurationRules::ERule rule;
-    SFaultText text;
 };
 
 /** What was found in one document, up to a limit. */
@@ -49,16 +34,3 @@ private:
     const CDeviceConfigurationFile10 &m_file;
     QList<SConfigurationFinding> m_findings;
 };
-
-/** Parts of the texts of findings. */
-namespace FindingTexts {
-
-/** @p text as it stands in messages: shortened when it is very long. */
-QString shown(const QString &text);
-QString inWords(const QStringList &texts);
-/** Of the texts that are allowed, the one meant by @p text; empty when there is none. */
-QString meant(const QString &text, const QStringList &allowed);
-/** Tells to write @p rightText, from which a text differs in capital and small letters. */
-QString caseHint(const QString &rightText);
-
-} // namespace FindingTexts

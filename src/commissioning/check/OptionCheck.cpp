@@ -1,7 +1,7 @@
 #include "commissioning/check/OptionCheck.h"
 
-#include "commissioning/check/Texts.h"
 #include "commissioning/check/ValueChecks.h"
+#include "commissioning/rules/Texts.h"
 #include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
 
@@ -10,7 +10,7 @@
 #include <algorithm>
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 namespace {

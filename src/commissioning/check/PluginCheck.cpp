@@ -1,13 +1,13 @@
 #include "commissioning/check/PluginCheck.h"
 
-#include "commissioning/check/FileRules.h"
-#include "commissioning/check/Texts.h"
 #include "commissioning/check/ValueChecks.h"
+#include "commissioning/rules/FileRules.h"
+#include "commissioning/rules/Texts.h"
 #include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 void PluginCheck::check(const Fields &fields, const QString &item)

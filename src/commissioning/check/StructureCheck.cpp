@@ -1,12 +1,12 @@
 #include "commissioning/check/StructureCheck.h"
 
-#include "commissioning/check/Texts.h"
+#include "commissioning/rules/Texts.h"
 
 #include <algorithm>
 
 using namespace ConfigurationRules;
 using namespace DocumentStructure;
-using namespace FindingTexts;
+using namespace FaultTexts;
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "commissioning/check/ValueChecks.h"
 
-#include "commissioning/check/Texts.h"
+#include "commissioning/rules/Texts.h"
+#include "elements/CanonicalPaths.h"
 #include "elements/CPluginElement.h"
 #include "elements/DriveNumbers.h"
 #include "imported/CDeviceHardwareId.h"
@@ -14,12 +15,9 @@
 #include <algorithm>
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 
 namespace {
-
-/** No name of a file or directory can be longer; in bytes. */
-const int LongestName = 255;
 
 bool isDottedNumber(const QString &text)
 {
@@ -140,7 +138,7 @@ Fault configurationName(const QString &name)
     }
     // Expressions of our own: those of NDeviceConf are for one thread alone. What is too long for a
     // directory is not given to them.
-    const bool isTooLong = name.toUtf8().size() > LongestName;
+    const bool isTooLong = name.toUtf8().size() > CanonicalPaths::LongestName;
     if (!isTooLong && QRegExp(NDeviceConf::NAME_CHECK_PATTERN).exactMatch(name)) {
         return SFault{CONFIGURATION_NAME_RESERVED,
                       {Texts::tr("'%1' is a name that the device keeps for itself.").arg(name),

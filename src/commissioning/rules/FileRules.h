@@ -1,14 +1,15 @@
 #pragma once
 
-#include "commissioning/check/Findings.h"
-#include "commissioning/check/ProjectFiles.h"
+#include "commissioning/rules/Fault.h"
+#include "commissioning/rules/ProjectFiles.h"
 #include "elements/CFileElement.h"
 
 #include <optional>
 
 /**
  * Whether a file that a configuration names can be put on a device: its name, its two directories,
- * and what is in the project. Check and staging judge by these rules alone.
+ * and what is in the project. Check and staging judge by these rules alone; where a file can be
+ * understood in two ways, as one behind a ".." or one that is empty, it is refused.
  */
 namespace FileRules {
 
@@ -23,6 +24,9 @@ std::optional<SFault> ofProjectDirectory(const CFileElement &file);
 
 /** What is in the project in the place of @p file, as @p inProject reports it. */
 std::optional<SFault> ofProjectFile(const CFileElement &file, const ProjectFiles::SFile &inProject);
+
+/** The file @p path of the project cannot be read, because of @p reason. */
+SFault unreadable(const QString &path, const QString &reason);
 
 /** Two files have one place on the device; @p other names the one that had it first. */
 SFault samePlace(const CFileElement &file, const QString &other);

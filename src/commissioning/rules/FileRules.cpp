@@ -1,13 +1,13 @@
-#include "commissioning/check/FileRules.h"
+#include "commissioning/rules/FileRules.h"
 
-#include "commissioning/check/Texts.h"
+#include "commissioning/rules/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
 
 #include <algorithm>
 
 using namespace ConfigurationRules;
-using namespace FindingTexts;
+using namespace FaultTexts;
 
 namespace {
 
@@ -31,30 +31,19 @@ bool isName(const QString &name)
     const auto isForbidden = [](QChar c) {
         return c == Separator || c == QLatin1Char('\\') || c.category() == QChar::Other_Control;
     };
-    return name != QLatin1String(".") && name != Up
-        && std::none_of(name.cbegin(), name.cend(), isForbidden);
+    return std::none_of(name.cbegin(), name.cend(), isForbidden)
+        && CanonicalPaths::isStorable(name);
+}
+
+QString shortNames()
+{
+    return Texts::tr("names of at most %1 bytes").arg(CanonicalPaths::LongestName);
 }
 
 QString deviceTrees()
 {
     return Texts::tr("a directory below %1 or %2")
         .arg(CDeviceFileSystem::smPath(), CDeviceFileSystem::optSMPath());
-}
-
-SFault changed(const QString &name, const ProjectFiles::SFile &file)
-{
-    const auto inBytes = [](qint64 size) {
-        return Texts::tr("%1 bytes").arg(QString::number(size));
-    };
-    const auto sum = [](const QByteArray &sha256) {
-        return QStringLiteral("SHA-256 ") + QString::fromLatin1(sha256);
-    };
-    const bool isSize = file.measured.size != file.recorded.size;
-    return {PROJECT_FILE_CHANGED,
-            {Texts::tr("The file '%1' is not the one that the manifest tells.").arg(name),
-             isSize ? inBytes(file.measured.size) : sum(file.measured.sha256),
-             isSize ? inBytes(file.recorded.size) : sum(file.recorded.sha256),
-             Texts::tr("Put back the file, or make the manifest anew.")}};
 }
 
 } // namespace
@@ -69,9 +58,12 @@ std::optional<SFault> ofName(const QString &name)
                        Texts::tr("Remove the entry if no file is meant.")}};
     }
     if (!isName(name)) {
+        const bool isTooLong = name.toUtf8().size() > CanonicalPaths::LongestName;
         return SFault{FILE_NAME_INVALID,
                       {Texts::tr("'%1' is no name of a file.").arg(shown(name)), name,
-                       Texts::tr("a name without directory, slashes and line breaks"), QString()}};
+                       isTooLong ? shortNames()
+                                 : Texts::tr("a name without directory, slashes and line breaks"),
+                       QString()}};
     }
     return {};
 }
@@ -95,6 +87,13 @@ std::optional<SFault> ofDeviceDirectory(const CFileElement &file, const QString 
             {Texts::tr("The directory '%1' lies outside the device's trees.").arg(shown(written)),
              written, deviceTrees(), QString()}};
     }
+    const QString path = CanonicalPaths::deviceDirectory(file) + file.fileName();
+    if (isName(file.fileName()) && !CanonicalPaths::isStorable(path.mid(1))) {
+        return SFault{
+            DEVICE_PATH_OUTSIDE,
+            {Texts::tr("The directory '%1' cannot be stored on the device.").arg(shown(written)),
+             written, shortNames(), Texts::tr("Choose shorter names.")}};
+    }
     return {};
 }
 
@@ -111,6 +110,12 @@ std::optional<SFault> ofProjectDirectory(const CFileElement &file)
         return SFault{PROJECT_PATH_OUTSIDE,
                       {Texts::tr("The directory '%1' leads out of the project.").arg(shown(path)),
                        path, Texts::tr("a directory in the project"), QString()}};
+    }
+    if (leadsUp(path)) {
+        return SFault{PROJECT_PATH_OUTSIDE,
+                      {Texts::tr("The directory '%1' leads upwards.").arg(shown(path)), path,
+                       Texts::tr("a directory without '..'"),
+                       Texts::tr("Behind a symbolic link '..' leads to another directory.")}};
     }
     return {};
 }
@@ -144,23 +149,26 @@ std::optional<SFault> ofProjectFile(const CFileElement &file, const ProjectFiles
                       {Texts::tr("'%1' is no regular file.").arg(name), path,
                        Texts::tr("a regular file"), QString()}};
     case ProjectFiles::STATE_UNREADABLE:
-        return SFault{PROJECT_FILE_UNREADABLE,
-                      {Texts::tr("The file '%1' cannot be read.").arg(name), found,
-                       Texts::tr("a file that may be read"), QString()}};
+        return unreadable(path, found);
     case ProjectFiles::STATE_EMPTY:
         return SFault{PROJECT_FILE_EMPTY,
                       {Texts::tr("The file '%1' is empty.").arg(name), Texts::tr("0 bytes"),
                        QString(), QString()}};
-    case ProjectFiles::STATE_CHANGED:
-        return changed(name, inProject);
     }
     return {};
+}
+
+SFault unreadable(const QString &path, const QString &reason)
+{
+    return {PROJECT_FILE_UNREADABLE,
+            {Texts::tr("The file '%1' cannot be read: %2").arg(shown(path), reason), reason,
+             Texts::tr("a file that may be read"), QString()}};
 }
 
 SFault samePlace(const CFileElement &file, const QString &other)
 {
     return {DEVICE_FILE_CONFLICT,
-            {Texts::tr("The file '%1' has the same place on the device as that of %2.")
+            {Texts::tr("The file '%1' has the same place on the device as %2.")
                  .arg(shown(file.fileName()), other),
              CanonicalPaths::onDevice(file), Texts::tr("a place of its own"),
              Texts::tr("The one that is transferred last overwrites the other one.")}};
