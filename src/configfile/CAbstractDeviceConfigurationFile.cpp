@@ -1,12 +1,11 @@
 #include "configfile/CAbstractDeviceConfigurationFile.h"
 
+#include "configfile/ItemElements.h"
 #include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
 #include "vocabulary/TextTables.h"
 
 #include <QDomDocument>
-
-#include <array>
 
 using namespace NVornXmlTags;
 
@@ -37,9 +36,16 @@ public:
         }
     }
 
-    void setAttribute(const QString &name, const QString &value)
+    template <typename Element>
+    void setItems(const QVector<ConfigurationShape::SField<Element>> &rows, const Element &element)
     {
-        m_element.setAttribute(name, value);
+        for (const ConfigurationShape::SField<Element> &row : rows) {
+            if (row.isAttribute) {
+                m_element.setAttribute(row.tag, row.get(element));
+            } else {
+                setValue(row.tag, row.get(element));
+            }
+        }
     }
 
     void setValue(const QString &tag, const QString &value)
@@ -60,26 +66,6 @@ private:
     QDomElement m_element;
     const bool m_isNew;
 };
-
-/** The texts of the first child of each name, in the order of the names, found in one walk. */
-template <size_t Count>
-std::array<QString, Count> childTexts(const QDomElement &parent,
-                                      const QString *const (&tags)[Count])
-{
-    std::array<QString, Count> texts;
-    std::array<bool, Count> found = {};
-    for (QDomElement child = parent.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement()) {
-        const QString name = child.tagName();
-        for (size_t i = 0; i < Count; ++i) {
-            if (!found[i] && name == *tags[i]) {
-                found[i] = true;
-                texts[i] = CDomDoc::text(child);
-            }
-        }
-    }
-    return texts;
-}
 
 bool isFilled(const QDomElement &element, const QString &tag)
 {
@@ -188,14 +174,9 @@ QDomElement CAbstractDeviceConfigurationFile::pluginsDomElement(QDomElement elem
 void CAbstractDeviceConfigurationFile::appendFileElement(const CFileElement &file,
                                                          QDomElement parent)
 {
-    if (parent.isNull()) {
-        return;
+    if (!parent.isNull()) {
+        Entry(*this, parent, TAG_FILE).setItems(ConfigurationShape::fileItems(), file);
     }
-    Entry entry(*this, parent, TAG_FILE);
-    entry.setValue(TAG_NAME, file.fileName());
-    entry.setValue(TAG_COMMENT, file.comment());
-    entry.setValue(TAG_DEVICE_DIR, file.devicePath());
-    entry.setValue(TAG_PROJECT_DIR, file.projectPath());
 }
 
 void CAbstractDeviceConfigurationFile::insertFileElement(const CFileElement &file,
@@ -217,12 +198,7 @@ void CAbstractDeviceConfigurationFile::fileElement(CFileElement &file,
 {
     file.clear();
     if (isFilled(element, TAG_FILE)) {
-        const auto [name, comment, deviceDirectory, projectDirectory] =
-            childTexts(element, {&TAG_NAME, &TAG_COMMENT, &TAG_DEVICE_DIR, &TAG_PROJECT_DIR});
-        file.setFileName(name);
-        file.setComment(comment);
-        file.setDevicePath(deviceDirectory);
-        file.setProjectPath(projectDirectory);
+        ItemElements::read(ConfigurationShape::fileItems(), element, file);
     }
 }
 
@@ -254,28 +230,16 @@ void CAbstractDeviceConfigurationFile::pluginElement(CPluginElement &plugin,
 {
     plugin.clear();
     if (isFilled(element, TAG_PLUGIN)) {
-        const auto [name, version, priorityText] =
-            childTexts(element, {&TAG_NAME, &TAG_VERSION, &TAG_PRIORITY});
-        plugin.setName(name);
-        plugin.setVersion(version);
-        bool ok = false;
-        const int priority = priorityText.toInt(&ok);
-        if (ok) {
-            plugin.setPriority(priority);
-        }
+        ItemElements::read(ConfigurationShape::pluginItems(), element, plugin);
     }
 }
 
 void CAbstractDeviceConfigurationFile::appendParamFileElement(const CParamFileElement &file,
                                                               QDomElement parent)
 {
-    if (!file.isValid() || parent.isNull()) {
-        return;
+    if (file.isValid() && !parent.isNull()) {
+        Entry(*this, parent, TAG_FILE).setItems(ConfigurationShape::parameterFileItems(), file);
     }
-    Entry entry(*this, parent, TAG_FILE);
-    entry.setAttribute(ATTR_TYPE, typeToStr(file.type()));
-    entry.setValue(TAG_NAME, file.name());
-    entry.setValue(TAG_COMMENT, file.comment());
 }
 
 void CAbstractDeviceConfigurationFile::insertParamFileElement(const CParamFileElement &file,
@@ -292,10 +256,7 @@ void CAbstractDeviceConfigurationFile::paramFileElement(CParamFileElement &file,
 {
     file.clear();
     if (isFilled(element, TAG_FILE)) {
-        const auto [name, comment] = childTexts(element, {&TAG_NAME, &TAG_COMMENT});
-        file.setType(strToType(element.attribute(ATTR_TYPE)));
-        file.setName(name);
-        file.setComment(comment);
+        ItemElements::read(ConfigurationShape::parameterFileItems(), element, file);
     }
 }
 
@@ -343,13 +304,9 @@ void CAbstractDeviceConfigurationFile::fileStrings(QStringList &fileNames,
 void CAbstractDeviceConfigurationFile::appendPluginElement(const CPluginElement &plugin,
                                                            QDomElement parent)
 {
-    if (parent.isNull()) {
-        return;
+    if (!parent.isNull()) {
+        Entry(*this, parent, TAG_PLUGIN).setItems(ConfigurationShape::pluginItems(), plugin);
     }
-    Entry entry(*this, parent, TAG_PLUGIN);
-    entry.setValue(TAG_NAME, plugin.name());
-    entry.setValue(TAG_VERSION, plugin.version());
-    entry.setValue(TAG_PRIORITY, QString::number(plugin.priority()));
 }
 
 void CAbstractDeviceConfigurationFile::setFileElements(const QList<CFileElement> &files,

@@ -1,5 +1,6 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 
+#include "configfile/ConfigurationShape.h"
 #include "imported/CMessageBoardHelper.h"
 #include "imported/ICLogfile.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -189,8 +190,11 @@ bool CDeviceConfigurationFile10::configuration(CDeviceElement &device) const
 {
     const QDomElement element = findDeviceElement();
     deviceElement(device, element);
-    device.setOdictFile(checkedProjectPath(device.odictFile(), device));
-    device.setFaultTextFile(checkedProjectPath(device.faultTextFile(), device));
+    for (const auto &row : ConfigurationShape::deviceFiles()) {
+        if (row.isBelowDevice) {
+            row.set(device, checkedProjectPath(row.get(device), device));
+        }
+    }
     return !element.isNull();
 }
 

@@ -1,5 +1,7 @@
 #include "configfile/CDeviceConfigurationFileBase.h"
 
+#include "configfile/ItemElements.h"
+#include "configfile/ItemValue.h"
 #include "elements/DriveNumbers.h"
 #include "elements/StartOptions.h"
 #include "imported/CMessageBoardHelper.h"
@@ -10,6 +12,9 @@
 #include <QCoreApplication>
 #include <QDomDocument>
 
+#include <algorithm>
+
+using namespace ConfigurationShape;
 using namespace NVornXmlTags;
 
 namespace {
@@ -21,6 +26,141 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile)
 };
+
+template <typename Element>
+void setItems(CXmlAbstractVornFile &file, const QVector<SField<Element>> &rows,
+              const Element &element, QDomElement parent)
+{
+    for (const SField<Element> &row : rows) {
+        if (row.isAttribute) {
+            parent.setAttribute(row.tag, row.get(element));
+        } else {
+            file.setNodeValue(row.tag, row.get(element), parent);
+        }
+    }
+}
+
+/** For ItemElements::read(): the hardware identity alone is worth a warning. */
+auto warnOfIdentity(const CXmlAbstractVornFile &file, const QDomElement &parent)
+{
+    return [&file, parent](const SItem &item, const QString &text) {
+        if (item.value == EValue::HARDWARE_ID) {
+            CMessageBoardHelper::setDebugWarning(
+                Texts::tr("The hardware identity '%1' of '%2' cannot be read.")
+                    .arg(text, file.getNodeValue(TAG_NAME, parent)),
+                file.logfile());
+        }
+    };
+}
+
+// What stands in the "Config" element. An item, a list or a group without any value is left out.
+
+void setConfigItem(CXmlAbstractVornFile &file, const SNode &node, const CDeviceElement &device,
+                   const QDomElement &parent)
+{
+    const QString value = find(configItems(), node.tag)->get(device);
+    if (value != ItemValue::absentValue(node.item)) {
+        file.setNodeValue(node.tag, value, parent);
+    }
+}
+
+void setList(CDeviceConfigurationFileBase &file, const SNode &list, const CDeviceElement &device,
+             const QDomElement &parent)
+{
+    switch (list.entry) {
+    case EEntry::OPTION:
+        if (!device.options().isEmpty()) {
+            file.setNodeValue(list.tag, device.options().join(OptionSeparator), parent);
+        }
+        break;
+    case EEntry::PARAMETER_FILE:
+        if (!device.parameterFiles().isEmpty()) {
+            file.setParamFileElementList(device.parameterFiles(), parent);
+        }
+        break;
+    case EEntry::FPGA_FILE:
+        if (device.fpgaFileCount() > 0) {
+            file.setFileStringList(device.fpgaFiles(), list.tag, parent);
+        }
+        break;
+    case EEntry::OPC_UA_FILE:
+        file.setFileElements(device.opcUaFiles(), list.tag, parent);
+        break;
+    case EEntry::FILE:
+        if (device.additionalFileCount() > 0) {
+            file.setFileElements(device.additionalFiles(), list.tag, parent);
+        }
+        break;
+    case EEntry::PLUGIN:
+        if (!device.plugins().isEmpty()) {
+            file.setPluginElementList(device.plugins(), parent);
+        }
+        break;
+    case EEntry::DRIVE:
+    case EEntry::NONE:
+        break;
+    }
+}
+
+void readList(const CDeviceConfigurationFileBase &file, const SNode &list,
+              const QDomElement &element, CDeviceElement &device)
+{
+    const auto read = [&](auto entries, auto reader, auto setter) {
+        (file.*reader)(entries, element);
+        (device.*setter)(entries);
+    };
+    using File = CDeviceConfigurationFileBase;
+    using Device = CDeviceElement;
+    switch (list.entry) {
+    case EEntry::OPTION:
+        device.setOptions(StartOptions::deviceWords(file.getNodeValue(element)));
+        break;
+    case EEntry::PARAMETER_FILE:
+        read(QList<CParamFileElement>(), &File::paramFileElementList, &Device::setParameterFiles);
+        break;
+    case EEntry::FPGA_FILE:
+        read(QStringList(), &File::fileStrings, &Device::setFpgaFiles);
+        break;
+    case EEntry::OPC_UA_FILE:
+        read(QList<CFileElement>(), &File::fileElements, &Device::setOpcUaFiles);
+        break;
+    case EEntry::FILE:
+        read(QList<CFileElement>(), &File::fileElements, &Device::setAdditionalFiles);
+        break;
+    case EEntry::PLUGIN:
+        read(QList<CPluginElement>(), &File::pluginElementList, &Device::setPlugins);
+        break;
+    case EEntry::DRIVE:
+    case EEntry::NONE:
+        break;
+    }
+}
+
+/** The one group: its items say whether OPC UA is used, and its list is written with them. */
+void setOpcUa(CDeviceConfigurationFileBase &file, const SNode &group, const CDeviceElement &device,
+              const QDomElement &parent)
+{
+    const bool isUsed = std::any_of(opcUaItems().begin(), opcUaItems().end(), [&](const auto &row) {
+        return row.get(device) != ItemValue::absentValue(row);
+    });
+    if (!isUsed && device.opcUaFiles().isEmpty()) {
+        return;
+    }
+    const QDomElement element = file.domElement(group.tag, parent);
+    setItems(file, opcUaItems(), device, element);
+    for (const SNode &node : group.children) {
+        setList(file, node, device, element);
+    }
+}
+
+void readOpcUa(const CDeviceConfigurationFileBase &file, const SNode &group,
+               const QDomElement &element, CDeviceElement &device)
+{
+    ItemElements::read(opcUaItems(), element, device);
+    for (const SNode &node : group.children) {
+        readList(file, node, element.firstChildElement(node.tag), device);
+    }
+}
 
 } // namespace
 
@@ -67,31 +207,18 @@ QString CDeviceConfigurationFileBase::currentFileVersion() const
 void CDeviceConfigurationFileBase::setDescriptionElement(const CDescriptionElement &description,
                                                          QDomElement element)
 {
-    if (element.isNull()) {
-        return;
+    if (!element.isNull()) {
+        setItems(*this, descriptionItems(), description, element);
     }
-    setNodeValue(TAG_NAME, description.name(), element);
-    setNodeValue(TAG_COMMENT, description.comment(), element);
-    setNodeValue(TAG_VERSION, description.version(), element);
-    setNodeValue(TAG_CREATIONDATE, description.creationDate().toString(Qt::ISODate), element);
-    setNodeValue(TAG_REVISIONDATE, description.revisionDate().toString(Qt::ISODate), element);
 }
 
 void CDeviceConfigurationFileBase::descriptionElement(CDescriptionElement &description,
                                                       const QDomElement &element) const
 {
     description.clear();
-    if (element.tagName() != TAG_DESCRIPTION) {
-        return;
+    if (element.tagName() == TAG_DESCRIPTION) {
+        ItemElements::read(descriptionItems(), element, description);
     }
-    const auto date = [&](const QString &tag) {
-        return QDate::fromString(getNodeValue(tag, element), Qt::ISODate);
-    };
-    description.setName(getNodeValue(TAG_NAME, element));
-    description.setComment(getNodeValue(TAG_COMMENT, element));
-    description.setVersion(getNodeValue(TAG_VERSION, element));
-    description.setCreationDate(date(TAG_CREATIONDATE));
-    description.setRevisionDate(date(TAG_REVISIONDATE));
 }
 
 QDomElement CDeviceConfigurationFileBase::createSubDeviceDomElement(QDomElement device)
@@ -111,11 +238,7 @@ void CDeviceConfigurationFileBase::setDeviceElement(const CDeviceElement &device
     if (element.isNull()) {
         return;
     }
-    setNodeValue(TAG_HARDWAREID, device.hardwareIdStr(), element);
-    setNodeValue(TAG_CLASS, deviceClassToStr(device.deviceClass()), element);
-    setNodeValue(TAG_NAME, device.name(), element);
-    setNodeValue(TAG_COMMENT, device.comment(), element);
-    setNodeValue(TAG_CONFIGNAME, device.configurationName(), element);
+    setItems(*this, deviceItems(), device, element);
     setConfigElement(device, configDomElement(element));
     for (const CSubDeviceElement &subDevice : device.subDevices()) {
         appendSubDeviceElement(subDevice, element);
@@ -123,32 +246,26 @@ void CDeviceConfigurationFileBase::setDeviceElement(const CDeviceElement &device
 }
 
 void CDeviceConfigurationFileBase::setConfigElement(const CDeviceElement &device,
-                                                    QDomElement config)
+                                                    QDomElement parent)
 {
-    if (!device.options().isEmpty()) {
-        setNodeValue(TAG_OPTIONS, device.options().join(OptionSeparator), config);
-    }
-    if (!device.parameterFiles().isEmpty()) {
-        setParamFileElementList(device.parameterFiles(), config);
-    }
-    setSingleFile(device.odictFile(), TAG_DICTIONARY, config);
-    setSingleFile(device.faultTextFile(), TAG_FAULTTEXT_FILE, config);
-    if (device.fpgaFileCount() > 0) {
-        setFileStringList(device.fpgaFiles(), TAG_FPGA_FILES, config);
-    }
-    if (device.isOpcUaEnabled() || !device.opcUaFiles().isEmpty()) {
-        setOpcUaFlag(device.isOpcUaEnabled(), config);
-        setFileElements(device.opcUaFiles(), TAG_OPCUA_FILES, findOpcUAElement(config));
-    }
-    setSingleFile(device.etherCatMasterFile(), TAG_ETHERCATMASTER, config);
-    if (device.additionalFileCount() > 0) {
-        setFileElements(device.additionalFiles(), TAG_FILES, config);
-    }
-    if (!device.plugins().isEmpty()) {
-        setPluginElementList(device.plugins(), config);
-    }
-    if (!device.executionPlugin().isEmpty()) {
-        setNodeValue(TAG_EXECUTIONPLUGIN, device.executionPlugin(), config);
+    for (const SNode &node : config().children) {
+        switch (node.kind) {
+        case EKind::ITEM:
+            setConfigItem(*this, node, device, parent);
+            break;
+        case EKind::SINGLE_FILE:
+            setSingleFile(find(deviceFiles(), node.tag)->get(device), node.tag, parent);
+            break;
+        case EKind::LIST:
+        case EKind::OPTIONS:
+            setList(*this, node, device, parent);
+            break;
+        case EKind::GROUP:
+            setOpcUa(*this, node, device, parent);
+            break;
+        case EKind::ALIAS:
+            break;
+        }
     }
 }
 
@@ -158,14 +275,13 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
     if (subDevice.type() == NvrnDeviceCore::ELEMENT_UNKNOWN || device.isNull()) {
         return;
     }
-    QDomElement element = createSubDeviceDomElement(device);
-    element.setAttribute(ATTR_TYPE, DriveTypes::text(subDevice.type()));
-    setNodeValue(TAG_HARDWAREID, subDevice.hardwareIdStr(), element);
-    setNodeValue(TAG_NAME, subDevice.name(), element);
-    setNodeValue(TAG_COMMENT, subDevice.comment(), element);
-    setNodeValue(TAG_DRIVE_NO, QString::number(subDevice.driveId()), element);
-    setNodeValue(TAG_BUS_ID, QString::number(subDevice.busId()), element);
-    setSingleFile(subDevice.parameterFile(), TAG_PARAM, element);
+    const QDomElement element = createSubDeviceDomElement(device);
+    setItems(*this, driveItems(), subDevice, element);
+    for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
+        if (!row.isOfKd2Only) {
+            setSingleFile(row.get(subDevice), row.tag, element);
+        }
+    }
     if (subDevice.isKD2()) {
         appendKD2SubDeviceElement(subDevice.toKD2(), element);
     }
@@ -174,12 +290,11 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
 void CDeviceConfigurationFileBase::appendKD2SubDeviceElement(const CSubDeviceKD2Element &subDevice,
                                                              QDomElement element)
 {
-    if (element.isNull()) {
-        return;
+    for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
+        if (row.isOfKd2Only) {
+            setSingleFile(row.get(subDevice), row.tag, element);
+        }
     }
-    setSingleFile(subDevice.kd2ParameterFile(), TAG_KD2_PARAM, element);
-    setSingleFile(subDevice.kd2LogicFile(), TAG_KD2_LOGIC, element);
-    setSingleFile(subDevice.kd2FirmwareFile(), TAG_KD2_FIRMWARE, element);
 }
 
 void CDeviceConfigurationFileBase::deviceElement(CDeviceElement &device,
@@ -189,14 +304,7 @@ void CDeviceConfigurationFileBase::deviceElement(CDeviceElement &device,
     if (element.tagName() != TAG_DEVICE) {
         return;
     }
-    device.setHardwareId(hardwareIdIn(element));
-    device.setDeviceClass(strToDeviceClass(getNodeValue(TAG_CLASS, element)));
-    device.setName(getNodeValue(TAG_NAME, element));
-    device.setComment(getNodeValue(TAG_COMMENT, element));
-    const QDomElement configurationName = element.firstChildElement(TAG_CONFIGNAME);
-    if (!configurationName.isNull()) {
-        device.setConfigurationName(getNodeValue(configurationName));
-    }
+    ItemElements::read(deviceItems(), element, device, warnOfIdentity(*this, element));
     configElement(device, findConfigElement(element));
 
     QList<CSubDeviceElement> subDevices;
@@ -205,37 +313,24 @@ void CDeviceConfigurationFileBase::deviceElement(CDeviceElement &device,
 }
 
 void CDeviceConfigurationFileBase::configElement(CDeviceElement &device,
-                                                 const QDomElement &config) const
+                                                 const QDomElement &parent) const
 {
-    // The flag before the options: it adds its option, and the document tells all there are.
-    device.setOpcUaEnabled(opcUaFlag(config));
-    device.setOptions(optionList(config));
-
-    QList<CParamFileElement> paramFiles;
-    paramFileElementList(paramFiles, config.firstChildElement(TAG_PARAMETERFILES));
-    device.setParameterFiles(paramFiles);
-
-    device.setOdictFile(singleFile(TAG_DICTIONARY, config));
-    device.setFaultTextFile(singleFile(TAG_FAULTTEXT_FILE, config));
-
-    QStringList fpgaFiles;
-    fileStrings(fpgaFiles, config.firstChildElement(TAG_FPGA_FILES));
-    device.setFpgaFiles(fpgaFiles);
-
-    QList<CFileElement> files;
-    fileElements(files, config.firstChildElement(TAG_OPCUA).firstChildElement(TAG_OPCUA_FILES));
-    device.setOpcUaFiles(files);
-
-    device.setEtherCatMasterFile(singleFile(TAG_ETHERCATMASTER, config));
-
-    fileElements(files, config.firstChildElement(TAG_FILES));
-    device.setAdditionalFiles(files);
-
-    QList<CPluginElement> plugins;
-    pluginElementList(plugins, config.firstChildElement(TAG_PLUGINS));
-    device.setPlugins(plugins);
-
-    device.setExecutionPlugin(getNodeValue(config.firstChildElement(TAG_EXECUTIONPLUGIN)));
+    // The groups before the options: the flag for OPC UA adds its option, and the document has all
+    // the options there are.
+    for (const SNode &node : config().children) {
+        if (node.kind == EKind::GROUP) {
+            readOpcUa(*this, node, parent.firstChildElement(node.tag), device);
+        }
+    }
+    ItemElements::read(configItems(), parent, device);
+    for (const SFileField<CDeviceElement> &row : deviceFiles()) {
+        row.set(device, singleFile(row.tag, parent));
+    }
+    for (const SNode &node : config().children) {
+        if (node.isList()) {
+            readList(*this, node, parent.firstChildElement(node.tag), device);
+        }
+    }
 }
 
 void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &subDevices,
@@ -276,41 +371,14 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
 
 CSubDeviceElement CDeviceConfigurationFileBase::subDeviceElement(const QDomElement &element) const
 {
-    if (DriveTypes::isKd2(element.attribute(ATTR_TYPE))) {
-        CSubDeviceKD2Element subDevice;
-        readSubDevice(subDevice, element);
-        subDevice.setKd2ParameterFile(singleFile(TAG_KD2_PARAM, element));
-        subDevice.setKd2LogicFile(singleFile(TAG_KD2_LOGIC, element));
-        subDevice.setKd2FirmwareFile(singleFile(TAG_KD2_FIRMWARE, element));
-        return subDevice;
+    CSubDeviceElement subDevice;
+    ItemElements::read(driveItems(), element, subDevice, warnOfIdentity(*this, element));
+    for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
+        if (!row.isOfKd2Only || subDevice.isKD2()) {
+            row.set(subDevice, singleFile(row.tag, element));
+        }
     }
-    CSubDeviceKD3Element subDevice;
-    readSubDevice(subDevice, element);
     return subDevice;
-}
-
-template <typename SubDevice>
-void CDeviceConfigurationFileBase::readSubDevice(SubDevice &subDevice,
-                                                 const QDomElement &element) const
-{
-    subDevice.setHardwareId(hardwareIdIn(element));
-    subDevice.setName(getNodeValue(TAG_NAME, element));
-    subDevice.setComment(getNodeValue(TAG_COMMENT, element));
-    subDevice.setBusId(getNodeValue(TAG_BUS_ID, element).toUInt());
-    subDevice.setParameterFile(singleFile(TAG_PARAM, element));
-}
-
-CDeviceHardwareId CDeviceConfigurationFileBase::hardwareIdIn(const QDomElement &element) const
-{
-    const QString text = getNodeValue(TAG_HARDWAREID, element);
-    CDeviceHardwareId id(text);
-    if (id.isNull() && !text.isEmpty()) {
-        CMessageBoardHelper::setDebugWarning(
-            Texts::tr("The hardware identity '%1' of '%2' cannot be read.")
-                .arg(text, getNodeValue(TAG_NAME, element)),
-            logfile());
-    }
-    return id;
 }
 
 void CDeviceConfigurationFileBase::paramFileElementList(QList<CParamFileElement> &files,

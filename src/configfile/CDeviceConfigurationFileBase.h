@@ -76,12 +76,9 @@ protected:
     QStringList optionList(const QDomElement &config) const;
 
 private:
-    void setConfigElement(const CDeviceElement &device, QDomElement config);
-    void configElement(CDeviceElement &device, const QDomElement &config) const;
+    void setConfigElement(const CDeviceElement &device, QDomElement parent);
+    void configElement(CDeviceElement &device, const QDomElement &parent) const;
     CSubDeviceElement subDeviceElement(const QDomElement &element) const;
-    template <typename SubDevice>
-    void readSubDevice(SubDevice &subDevice, const QDomElement &element) const;
-    CDeviceHardwareId hardwareIdIn(const QDomElement &element) const;
 
     QString m_currentFileVersion;
     NvrnGlobal::EFileResult m_openResult = NvrnGlobal::FILE_RESULT_FAILURE;

@@ -1,51 +1,124 @@
 #include "tools/ConfigurationJson.h"
 
+#include "configfile/ShapePaths.h"
 #include "vocabulary/DriveTypes.h"
+#include "vocabulary/NVornXmlTags.h"
+
+using namespace ConfigurationShape;
 
 namespace {
 
-QJsonObject toJson(const CPluginElement &plugin)
+QJsonValue toJson(EValue kind, const QString &text)
 {
-    return {{QStringLiteral("name"), plugin.name()},
-            {QStringLiteral("version"), plugin.version()},
-            {QStringLiteral("priority"), plugin.priority()},
-            {QStringLiteral("fileName"), plugin.fileName()}};
+    switch (kind) {
+    case EValue::BOOLEAN:
+        return text == NVornXmlTags::VALUE_TRUE;
+    case EValue::UNSIGNED_NUMBER:
+    case EValue::SIGNED_NUMBER:
+    case EValue::KEY_DRIVE_NUMBER:
+        return text.toLongLong();
+    default:
+        return text;
+    }
 }
 
-QJsonObject toJson(const CParamFileElement &file, const CDeviceConfigurationFile10 &texts)
+template <typename Element>
+void insert(const QVector<SField<Element>> &rows, const Element &element, QJsonObject &object)
 {
-    return {{QStringLiteral("name"), file.name()},
-            {QStringLiteral("type"), texts.typeToStr(file.type())},
-            {QStringLiteral("comment"), file.comment()}};
+    for (const SField<Element> &row : rows) {
+        object.insert(row.word, toJson(row.value, row.get(element)));
+    }
 }
 
-QJsonObject toJson(const CDescriptionElement &description)
+template <typename Element>
+QJsonObject toJson(const QVector<SField<Element>> &rows, const Element &element)
 {
-    return {{QStringLiteral("name"), description.name()},
-            {QStringLiteral("comment"), description.comment()},
-            {QStringLiteral("version"), description.version()},
-            {QStringLiteral("creationDate"), description.creationDate().toString(Qt::ISODate)},
-            {QStringLiteral("revisionDate"), description.revisionDate().toString(Qt::ISODate)}};
+    QJsonObject object;
+    insert(rows, element, object);
+    return object;
 }
 
-template <typename List>
-QJsonArray toJsonArray(const List &list)
+template <typename Element>
+QJsonArray toJson(const QVector<SField<Element>> &rows, const QList<Element> &elements)
 {
     QJsonArray array;
-    for (const auto &item : list) {
-        array.append(toJson(item));
+    for (const Element &element : elements) {
+        array.append(toJson(rows, element));
     }
     return array;
+}
+
+QJsonArray toJson(const QList<CPluginElement> &plugins)
+{
+    QJsonArray array;
+    for (const CPluginElement &plugin : plugins) {
+        QJsonObject object = toJson(pluginItems(), plugin);
+        object.insert(QStringLiteral("fileName"), plugin.fileName());
+        array.append(object);
+    }
+    return array;
+}
+
+QJsonArray toJson(const QList<CSubDeviceElement> &drives)
+{
+    QJsonArray array;
+    for (const CSubDeviceElement &drive : drives) {
+        array.append(toJson(drive));
+    }
+    return array;
+}
+
+QJsonArray entries(EEntry entry, const CDeviceElement &device)
+{
+    switch (entry) {
+    case EEntry::DRIVE:
+        return toJson(device.subDevices());
+    case EEntry::PARAMETER_FILE:
+        return toJson(parameterFileItems(), device.parameterFiles());
+    case EEntry::FILE:
+        return toJson(fileItems(), device.additionalFiles());
+    case EEntry::FPGA_FILE:
+        return QJsonArray::fromStringList(device.fpgaFiles());
+    case EEntry::OPC_UA_FILE:
+        return toJson(fileItems(), device.opcUaFiles());
+    case EEntry::PLUGIN:
+        return toJson(device.plugins());
+    case EEntry::OPTION:
+        return QJsonArray::fromStringList(device.options());
+    case EEntry::NONE:
+        break;
+    }
+    return {};
+}
+
+void insertLists(const SNode &node, const CDeviceElement &device, QJsonObject &object)
+{
+    for (const SNode &child : node.children) {
+        if (child.kind == EKind::GROUP) {
+            insertLists(child, device, object);
+        } else if (child.isList()) {
+            object.insert(child.word, entries(child.entry, device));
+        }
+    }
+}
+
+QJsonObject toJson(const CDeviceElement &device)
+{
+    QJsonObject object = toJson(deviceItems(), device);
+    insert(configItems(), device, object);
+    insert(opcUaItems(), device, object);
+    for (const SFileField<CDeviceElement> &row : deviceFiles()) {
+        object.insert(row.word, toJson(row.get(device)));
+    }
+    insertLists(*ShapePaths::find(QStringLiteral("device")), device, object);
+    return object;
 }
 
 } // namespace
 
 QJsonObject toJson(const CFileElement &file)
 {
-    return {{QStringLiteral("name"), file.fileName()},
-            {QStringLiteral("comment"), file.comment()},
-            {QStringLiteral("deviceDir"), file.devicePath()},
-            {QStringLiteral("projectDir"), file.projectPath()}};
+    return toJson(fileItems(), file);
 }
 
 QString subDeviceTypeName(const CSubDeviceElement &subDevice)
@@ -55,15 +128,13 @@ QString subDeviceTypeName(const CSubDeviceElement &subDevice)
 
 QJsonObject toJson(const CSubDeviceElement &subDevice)
 {
-    return {
-        {QStringLiteral("driveId"), subDevice.driveId()},
-        {QStringLiteral("type"), subDeviceTypeName(subDevice)},
-        {QStringLiteral("name"), subDevice.name()},
-        {QStringLiteral("comment"), subDevice.comment()},
-        {QStringLiteral("hardwareId"), subDevice.hardwareIdStr()},
-        {QStringLiteral("busId"), static_cast<qint64>(subDevice.busId())},
-        {QStringLiteral("files"), toJsonArray(subDevice.allFiles())},
-    };
+    QJsonObject object = toJson(driveItems(), subDevice);
+    for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
+        if (subDevice.isKD2() || !row.isOfKd2Only) {
+            object.insert(row.word, toJson(row.get(subDevice)));
+        }
+    }
+    return object;
 }
 
 QJsonObject toJson(const SConfigurationFinding &finding)
@@ -85,31 +156,7 @@ QJsonObject toJson(const CDeviceConfigurationFile10 &file)
 {
     CDeviceElement device;
     file.configuration(device);
-
-    QJsonArray parameterFiles;
-    for (const CParamFileElement &parameterFile : device.parameterFiles()) {
-        parameterFiles.append(toJson(parameterFile, file));
-    }
-    const QJsonObject deviceObject = {
-        {QStringLiteral("name"), device.name()},
-        {QStringLiteral("class"), file.deviceClassToStr(device.deviceClass())},
-        {QStringLiteral("hardwareId"), device.hardwareIdStr()},
-        {QStringLiteral("comment"), device.comment()},
-        {QStringLiteral("configurationName"), device.configurationName()},
-        {QStringLiteral("options"), QJsonArray::fromStringList(device.options())},
-        {QStringLiteral("parameterFiles"), parameterFiles},
-        {QStringLiteral("dictionary"), toJson(device.odictFile())},
-        {QStringLiteral("faultTextFile"), toJson(device.faultTextFile())},
-        {QStringLiteral("fpgaFiles"), QJsonArray::fromStringList(device.fpgaFiles())},
-        {QStringLiteral("opcUaEnabled"), device.isOpcUaEnabled()},
-        {QStringLiteral("opcUaFiles"), toJsonArray(device.opcUaFiles())},
-        {QStringLiteral("etherCatMasterFile"), toJson(device.etherCatMasterFile())},
-        {QStringLiteral("files"), toJsonArray(device.additionalFiles())},
-        {QStringLiteral("plugins"), toJsonArray(device.plugins())},
-        {QStringLiteral("executionPlugin"), device.executionPlugin()},
-        {QStringLiteral("subDevices"), toJsonArray(device.subDevices())},
-    };
     return {{QStringLiteral("version"), file.currentFileVersion()},
-            {QStringLiteral("description"), toJson(file.description())},
-            {QStringLiteral("device"), deviceObject}};
+            {QStringLiteral("description"), toJson(descriptionItems(), file.description())},
+            {QStringLiteral("device"), toJson(device)}};
 }

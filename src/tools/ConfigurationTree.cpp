@@ -1,185 +1,282 @@
 #include "tools/ConfigurationTree.h"
 
+#include "commissioning/report/OverviewFiles.h"
+#include "configfile/ShownItems.h"
 #include "tools/ConfigurationJson.h"
 #include "tools/Texts.h"
+
+using namespace ConfigurationShape;
 
 namespace {
 
 using SFile = CConfigurationOverview::SFile;
 using SDrive = CConfigurationOverview::SDrive;
 
+const QString NameItem = QStringLiteral("name");
+const QString CommentItem = QStringLiteral("comment");
+const QString TypeItem = QStringLiteral("type");
+const QString OpcUaItem = QStringLiteral("opcUaEnabled");
+const QString DevicePath = QStringLiteral("device.");
+
 QString withComment(const QString &text, const QString &comment)
 {
     return comment.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, comment);
 }
 
-QString text(const CFileElement &file)
+/** A line without anything below it. */
+STreeNode leaf(const QString &text, const QString &item)
 {
-    return withComment(file.fileName(), file.comment());
+    return {text, {item}, {}, {}};
 }
 
-STreeNode titled(const QString &title, const QString &value, const QStringList &items)
+QString titled(const QString &title, const QString &value)
 {
-    return {QStringLiteral("%1: %2").arg(title, value), items, {}, {}};
+    return QStringLiteral("%1: %2").arg(title, value);
 }
 
-void addLine(QList<STreeNode> &nodes, const QString &title, const QString &value,
-             const QString &item)
+/** A line for each item that has another value than one that is absent. */
+QList<STreeNode> lines(const QVector<SShownItem> &items)
 {
-    if (!value.isEmpty()) {
-        nodes.append(titled(title, value, {item}));
+    QList<STreeNode> nodes;
+    for (const SShownItem &item : items) {
+        if (!item.isDefault) {
+            nodes.append(leaf(titled(item.title, item.value), item.path));
+        }
+    }
+    return nodes;
+}
+
+/** @param title of its line, before a colon; empty in a list of files */
+STreeNode fileNode(const SFile &file, const QString &title = QString())
+{
+    const QString name = withComment(file.file.fileName(), file.file.comment());
+    STreeNode node = leaf(title.isEmpty() ? name : titled(title, name), file.item);
+    node.files = {file.file};
+    // Its directories stand in the places.
+    node.children = lines(ShownItems::of(
+        fileItems(), file.file, file.item,
+        {NameItem, CommentItem, QStringLiteral("deviceDir"), QStringLiteral("projectDir")}));
+    return node;
+}
+
+/** A file without any text is not shown. */
+void addFile(QList<STreeNode> &nodes, const SFile &file)
+{
+    if (!withComment(file.file.fileName(), file.file.comment()).isEmpty()) {
+        nodes.append(fileNode(file, capitalized(ShapePaths::noun(file.kind))));
     }
 }
 
-void addFile(QList<STreeNode> &nodes, const QString &title, const SFile &file)
-{
-    const QString name = text(file.file);
-    if (!name.isEmpty()) {
-        nodes.append(titled(title, name, {file.item}));
-        nodes.last().files = {file.file};
-    }
-}
-
-void addGroup(QList<STreeNode> &nodes, const QString &title, const QStringList &items,
-              const QList<STreeNode> &children)
-{
-    if (!children.isEmpty()) {
-        nodes.append({title, items, {}, children});
-    }
-}
-
-QList<STreeNode> leaves(const QList<SFile> &files)
+QList<STreeNode> fileNodes(const QList<SFile> &files)
 {
     QList<STreeNode> nodes;
     for (const SFile &file : files) {
-        nodes.append({text(file.file), {file.item}, {file.file}, {}});
+        nodes.append(fileNode(file));
     }
     return nodes;
 }
 
-QList<STreeNode> parameterFiles(const CConfigurationOverview &overview)
+QList<STreeNode> parameterFileNodes(const CConfigurationOverview &overview)
 {
     QList<STreeNode> nodes;
     for (const CConfigurationOverview::SParameterFile &entry : overview.parameterFiles()) {
-        STreeNode node = {
-            withComment(QStringLiteral("%1, %2").arg(entry.parameters.name(), entry.typeText),
-                        entry.parameters.comment()),
-            {entry.item},
-            {},
-            {}};
+        STreeNode node =
+            leaf(withComment(QStringLiteral("%1, %2").arg(entry.parameters.name(), entry.typeText),
+                             entry.parameters.comment()),
+                 entry.item);
         for (const SFile &file : entry.files) {
             node.files.append(file.file);
         }
+        node.children = lines(ShownItems::of(parameterFileItems(), entry.parameters, entry.item,
+                                             {NameItem, TypeItem, CommentItem}));
         nodes.append(node);
     }
     return nodes;
 }
 
-QList<STreeNode> plugins(const CConfigurationOverview &overview)
+QList<STreeNode> pluginNodes(const CConfigurationOverview &overview)
 {
     QList<STreeNode> nodes;
     for (const CConfigurationOverview::SPlugin &entry : overview.plugins()) {
-        STreeNode node = {QStringLiteral("%1 %2").arg(entry.plugin.name(), entry.plugin.version()),
-                          {entry.item},
-                          {},
-                          {}};
+        STreeNode node = leaf(
+            QStringLiteral("%1 %2").arg(entry.plugin.name(), entry.plugin.version()), entry.item);
         if (!entry.library.isNull()) {
             node.files.append(entry.library);
         }
+        node.children = lines(ShownItems::of(pluginItems(), entry.plugin, entry.item,
+                                             {NameItem, QStringLiteral("version")}));
         nodes.append(node);
     }
     return nodes;
-}
-
-/** All options stand on one line. */
-void addOptions(QList<STreeNode> &nodes, const CConfigurationOverview &overview)
-{
-    QStringList texts;
-    QStringList items = {QStringLiteral("device.options")};
-    for (const CConfigurationOverview::SOption &option : overview.options()) {
-        texts.append(option.text);
-        items.append(option.item);
-    }
-    if (!texts.isEmpty()) {
-        nodes.append(titled(Texts::tr("Options"), texts.join(QLatin1Char(' ')), items));
-    }
-}
-
-QString titleOf(NvrnDeviceCore::EDeviceFile kind)
-{
-    switch (kind) {
-    case NvrnDeviceCore::DEVICE_FILE_KD2_FIRMWARE:
-        return Texts::tr("Firmware");
-    case NvrnDeviceCore::DEVICE_FILE_KD2_LOGIC:
-        return Texts::tr("Logic");
-    case NvrnDeviceCore::DEVICE_FILE_KD2_PARAMETERS:
-        return Texts::tr("Drive parameters");
-    default:
-        return Texts::tr("Parameters");
-    }
 }
 
 STreeNode driveNode(const SDrive &entry)
 {
     const CSubDeviceElement &drive = entry.drive;
-    STreeNode node = {withComment(QStringLiteral("%1: %2, %3")
-                                      .arg(QString::number(drive.driveId()), drive.name(),
-                                           subDeviceTypeName(drive)),
-                                  drive.comment()),
-                      {entry.item},
-                      {},
-                      {}};
-    addLine(node.children, Texts::tr("Hardware"), drive.hardwareIdStr(),
-            entry.item + QStringLiteral(".hardwareId"));
-    if (drive.busId() != 0) {
-        addLine(node.children, Texts::tr("Bus"), QString::number(drive.busId()),
-                entry.item + QStringLiteral(".busId"));
-    }
+    const QString title =
+        QStringLiteral("%1: %2, %3")
+            .arg(QString::number(drive.driveId()), drive.name(), subDeviceTypeName(drive));
+    STreeNode node = leaf(withComment(title, drive.comment()), entry.item);
+    node.children =
+        lines(ShownItems::of(driveItems(), drive, entry.item,
+                             {QStringLiteral("driveNo"), NameItem, TypeItem, CommentItem}));
     for (const SFile &file : entry.files) {
-        addFile(node.children, titleOf(file.kind), file);
+        addFile(node.children, file);
     }
     return node;
 }
 
+QList<STreeNode> driveNodes(const CConfigurationOverview &overview)
+{
+    QList<STreeNode> nodes;
+    for (const SDrive &drive : overview.drives()) {
+        nodes.append(driveNode(drive));
+    }
+    return nodes;
+}
+
+/** Makes the lines below the device, in the order of the document. */
+class DeviceLines
+{
+public:
+    explicit DeviceLines(const CConfigurationOverview &overview)
+        : m_overview(overview), m_files(OverviewFiles::singleFiles(overview)),
+          // These stand in the title of the device, and beside the list that they belong to.
+          m_items(lines(ShownItems::ofDevice(
+              overview.device(), {NameItem, CommentItem, QStringLiteral("class"), OpcUaItem})))
+    {
+    }
+
+    QList<STreeNode> make(const SNode &node)
+    {
+        addChildren(node);
+        return m_lines;
+    }
+
+private:
+    void addChildren(const SNode &node)
+    {
+        for (const SNode &child : node.children) {
+            switch (child.kind) {
+            case EKind::GROUP:
+                addChildren(child);
+                break;
+            case EKind::ITEM:
+                addItem(child);
+                break;
+            case EKind::SINGLE_FILE:
+                addSingleFile(child);
+                break;
+            case EKind::LIST:
+                addList(child);
+                break;
+            case EKind::OPTIONS:
+                addOptions(child);
+                break;
+            case EKind::ALIAS:
+                break;
+            }
+        }
+    }
+
+    void addItem(const SNode &node)
+    {
+        const QString path = DevicePath + node.word;
+        for (const STreeNode &line : m_items) {
+            if (line.items.contains(path)) {
+                m_lines.append(line);
+            }
+        }
+    }
+
+    void addSingleFile(const SNode &node)
+    {
+        for (const SFile &file : m_files) {
+            if (file.kind == node.file) {
+                addFile(m_lines, file);
+            }
+        }
+    }
+
+    /** All options stand on one line. */
+    void addOptions(const SNode &node)
+    {
+        QStringList texts;
+        QStringList items = {ShapePaths::list(node.entry)};
+        for (const CConfigurationOverview::SOption &option : m_overview.options()) {
+            texts.append(option.text);
+            items.append(option.item);
+        }
+        if (!texts.isEmpty()) {
+            m_lines.append(
+                {titled(title(node.heading), texts.join(QLatin1Char(' '))), items, {}, {}});
+        }
+    }
+
+    void addList(const SNode &node)
+    {
+        const QList<STreeNode> children = entries(node.entry);
+        const bool isOpcUa = node.entry == EEntry::OPC_UA_FILE;
+        if (!children.isEmpty() || (isOpcUa && m_overview.device().isOpcUaEnabled())) {
+            QStringList items = {ShapePaths::list(node.entry)};
+            if (isOpcUa) {
+                items.append(DevicePath + OpcUaItem);
+            } else if (node.entry == EEntry::FPGA_FILE) {
+                items.append(DevicePath + ShapePaths::word(EValue::ACTIVE_FPGA_FILE));
+            }
+            m_lines.append({heading(node), items, {}, children});
+        }
+    }
+
+    QList<STreeNode> entries(EEntry entry) const
+    {
+        switch (entry) {
+        case EEntry::PARAMETER_FILE:
+            return parameterFileNodes(m_overview);
+        case EEntry::FPGA_FILE:
+            return fileNodes(m_overview.fpgaFiles());
+        case EEntry::OPC_UA_FILE:
+            return fileNodes(m_overview.opcUaFiles());
+        case EEntry::FILE:
+            return fileNodes(m_overview.additionalFiles());
+        case EEntry::PLUGIN:
+            return pluginNodes(m_overview);
+        case EEntry::DRIVE:
+            return driveNodes(m_overview);
+        case EEntry::OPTION:
+        case EEntry::NONE:
+            break;
+        }
+        return {};
+    }
+
+    QString heading(const SNode &node) const
+    {
+        switch (node.entry) {
+        case EEntry::FPGA_FILE:
+            return Texts::tr("FPGA images, the active one first");
+        case EEntry::OPC_UA_FILE:
+            return m_overview.device().isOpcUaEnabled() ? Texts::tr("OPC UA, enabled")
+                                                        : Texts::tr("OPC UA, disabled");
+        default:
+            return title(node.heading);
+        }
+    }
+
+    const CConfigurationOverview &m_overview;
+    const QList<SFile> m_files;
+    const QList<STreeNode> m_items;
+    QList<STreeNode> m_lines;
+};
+
 STreeNode deviceNode(const CConfigurationOverview &overview)
 {
     const CDeviceElement &device = overview.device();
-    STreeNode node = {withComment(Texts::tr("Device %1, class %2")
-                                      .arg(device.name(),
-                                           CDeviceElement::deviceClassString(device.deviceClass())),
-                                  device.comment()),
-                      {QStringLiteral("device")},
-                      {},
-                      {}};
-    QList<STreeNode> &children = node.children;
-    addLine(children, Texts::tr("Hardware"), device.hardwareIdStr(),
-            QStringLiteral("device.hardwareId"));
-    addLine(children, Texts::tr("Configuration"), device.configurationName(),
-            QStringLiteral("device.configurationName"));
-    addOptions(children, overview);
-    addGroup(children, Texts::tr("Parameter files"), {QStringLiteral("device.parameterFiles")},
-             parameterFiles(overview));
-    addFile(children, Texts::tr("Object dictionary"), overview.dictionary());
-    addFile(children, Texts::tr("Fault texts"), overview.faultTexts());
-    addGroup(children, Texts::tr("FPGA images, the active one first"),
-             {QStringLiteral("device.fpgaFiles"), QStringLiteral("device.activeFpgaFile")},
-             leaves(overview.fpgaFiles()));
-    addGroup(children,
-             device.isOpcUaEnabled() ? Texts::tr("OPC UA, enabled") : Texts::tr("OPC UA, disabled"),
-             {QStringLiteral("device.opcUaFiles"), QStringLiteral("device.opcUaEnabled")},
-             leaves(overview.opcUaFiles()));
-    addFile(children, Texts::tr("EtherCAT master"), overview.etherCatMaster());
-    addGroup(children, Texts::tr("Additional files"), {QStringLiteral("files")},
-             leaves(overview.additionalFiles()));
-    addGroup(children, Texts::tr("Plug-ins"), {QStringLiteral("device.plugins")},
-             plugins(overview));
-    addLine(children, Texts::tr("Execution plug-in"), device.executionPlugin(),
-            QStringLiteral("device.executionPlugin"));
-    QList<STreeNode> drives;
-    for (const SDrive &drive : overview.drives()) {
-        drives.append(driveNode(drive));
-    }
-    addGroup(children, Texts::tr("Sub-devices"), {QStringLiteral("drive")}, drives);
+    const QString title =
+        Texts::tr("Device %1, class %2")
+            .arg(device.name(), CDeviceElement::deviceClassString(device.deviceClass()));
+    STreeNode node = leaf(withComment(title, device.comment()), QStringLiteral("device"));
+    node.children = DeviceLines(overview).make(*ShapePaths::find(QStringLiteral("device")));
     return node;
 }
 
@@ -204,11 +301,12 @@ void visitChildren(const QList<STreeNode> &nodes, const QString &indent, const P
 STreeNode configurationTree(const CConfigurationOverview &overview)
 {
     const CDescriptionElement &description = overview.description();
+    const QString path = QStringLiteral("description");
     STreeNode root = {
         withComment(Texts::tr("Configuration %1").arg(description.name()), description.comment()),
-        {QString(), QStringLiteral("description")},
+        {QString(), path},
         {},
-        {}};
+        lines(ShownItems::of(descriptionItems(), description, path, {NameItem, CommentItem}))};
     if (overview.hasDevice()) {
         root.children.append(deviceNode(overview));
     }

@@ -7,14 +7,14 @@
 
 QJsonObject toJson(const CDeviceSettings &settings)
 {
-    QJsonArray subDevices;
+    QJsonArray drives;
     const QMap<quint8, QString> names = settings.subDeviceNameMap();
     for (auto name = names.constBegin(); name != names.constEnd(); ++name) {
-        subDevices.append(QJsonObject{{QStringLiteral("driveId"), name.key()},
-                                      {QStringLiteral("name"), name.value()}});
+        drives.append(QJsonObject{{QStringLiteral("driveNo"), name.key()},
+                                  {QStringLiteral("name"), name.value()}});
     }
     return {{QStringLiteral("deviceName"), settings.deviceName()},
-            {QStringLiteral("subDevices"), subDevices}};
+            {QStringLiteral("drive"), drives}};
 }
 
 QList<QStringList> toRows(const CDeviceSettings &settings)

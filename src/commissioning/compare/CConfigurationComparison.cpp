@@ -1,6 +1,7 @@
 #include "commissioning/CConfigurationComparison.h"
 
 #include "commissioning/compare/ConfigurationChanges.h"
+#include "configfile/ShapePaths.h"
 
 using namespace ConfigurationChanges;
 
@@ -28,7 +29,7 @@ void compareList(const QString &list, const ConfigurationSnapshot &before,
             whole.add(right.at(i));
         }
     }
-    whole.appendTo(list, before.device, after.device.value(ActiveFpgaItem), changes);
+    whole.appendTo(list, before.device, after.device.value(activeFpgaItem()), changes);
 }
 
 } // namespace
@@ -41,7 +42,7 @@ CConfigurationPatch CConfigurationComparison::compare(CDeviceConfigurationFile10
     QList<SChange> changes;
     appendDifferences(left.description, right.description, changes);
     appendDifferences(left.device, right.device, changes);
-    for (const QString &list : ConfigurationSnapshot::lists()) {
+    for (const QString &list : ShapePaths::lists()) {
         compareList(list, left, right, changes);
     }
     CConfigurationPatch patch;

@@ -2,6 +2,8 @@
 
 #include "commissioning/compare/ConfigurationChanges.h"
 #include "commissioning/compare/ConfigurationWords.h"
+#include "commissioning/items/ItemPath.h"
+#include "configfile/ShapePaths.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -36,9 +38,12 @@ QString pathOf(const SItemPath &path, const QString &item)
     return item.isEmpty() ? path.entryPath() : path.entryPath() + QLatin1Char('.') + item;
 }
 
-bool isKd2Part(const QString &part)
+/** Whether only drives of the KD2 series have that file. */
+bool isKd2Part(const SItemPath &drive, const QString &part)
 {
-    return part.startsWith(QLatin1String("kd2"));
+    const ConfigurationShape::SNode *const node =
+        ShapePaths::find(ItemPath::joined(drive.list, part));
+    return node != nullptr && node->isOfKd2Only;
 }
 
 /** Finds what has to be done to OURS. */
@@ -51,7 +56,7 @@ public:
     {
         mergeEntry(m_base.description, m_ours.description, m_theirs.description, IN_BASE);
         mergeEntry(m_base.device, m_ours.device, m_theirs.device, IN_BASE);
-        const QStringList lists = ConfigurationSnapshot::lists();
+        const QStringList lists = ShapePaths::lists();
         for (const QString &list : lists) {
             mergeList(list);
         }
@@ -128,7 +133,7 @@ void Merger::mergeItems(const QString &part, const SSnapshotEntry &base, const S
     for (const QString &item : items) {
         const QString value = ours.value(item);
         const QString other = theirs.value(item);
-        if (item == ActiveFpgaItem || other == value
+        if (item == activeFpgaItem() || other == value
             || (origin == IN_BASE && other == base.value(item))) {
             continue;
         }
@@ -172,7 +177,7 @@ bool Merger::mergeSeries(const QStringList &parts, const SSnapshotEntry &base,
         return true;
     }
     if (origin == ADDED_BY_BOTH) {
-        addValueConflict(ours.path, QStringLiteral("type"), base, ours, theirs);
+        addValueConflict(ours.path, driveTypeItem(), base, ours, theirs);
         return false;
     }
     if (!isKd2(base)) {
@@ -181,7 +186,7 @@ bool Merger::mergeSeries(const QStringList &parts, const SSnapshotEntry &base,
     const SSnapshotEntry &kept = isKd2(ours) ? ours : theirs;
     bool isClean = true;
     for (const QString &part : parts) {
-        if (isKd2Part(part) && !base.isSamePart(part, kept)) {
+        if (isKd2Part(ours.path, part) && !base.isSamePart(part, kept)) {
             addRemovalConflict(isKd2(ours) ? CConfigurationMerge::REMOVED_BY_THEIRS
                                            : CConfigurationMerge::REMOVED_BY_OURS,
                                part, base, kept, ours.path);
@@ -196,24 +201,23 @@ void Merger::mergeEntry(const SSnapshotEntry &base, const SSnapshotEntry &ours,
 {
     const QStringList parts = ConfigurationSnapshot::unite(
         ConfigurationSnapshot::unite(base.parts(), ours.parts()), theirs.parts());
-    const bool isDrive = ours.path.list == QLatin1String("drive");
+    const bool isDrive = isDriveList(ours.path.list);
     const bool isSeriesMerged = !isDrive || mergeSeries(parts, base, ours, theirs, origin);
     SSnapshotEntry taken = theirs;
     if (!isSeriesMerged) {
         taken.items.erase(std::remove_if(taken.items.begin(), taken.items.end(),
                                          [](const CConfigurationItems::SItem &item) {
-                                             return item.path == QLatin1String("type");
+                                             return item.path == driveTypeItem();
                                          }),
                           taken.items.end());
-        taken.items << CConfigurationItems::SItem{QStringLiteral("type"),
-                                                  ours.value(QStringLiteral("type"))};
+        taken.items << CConfigurationItems::SItem{driveTypeItem(), ours.value(driveTypeItem())};
     }
     QList<SChange> removals;
     QList<SChange> own;
     QList<SChange> others;
     mergeItems(QString(), base, ours, taken, origin, own);
     for (const QString &part : parts) {
-        if (isSeriesMerged || !isKd2Part(part)) {
+        if (isSeriesMerged || !isKd2Part(ours.path, part)) {
             mergePart(part, base, ours, theirs, origin, removals, others);
         }
     }
@@ -228,11 +232,11 @@ QList<SChange> Merger::changesOf(const QString &list, const SSnapshotEntry &base
 {
     QList<SChange> changes;
     appendDifferences(base, side, changes);
-    const QString before = m_base.device.value(ActiveFpgaItem);
-    const QString active = whole.device.value(ActiveFpgaItem);
-    if (list == FpgaFileList && side.path.number == 1 && active == side.path.key
+    const QString before = m_base.device.value(activeFpgaItem());
+    const QString active = whole.device.value(activeFpgaItem());
+    if (list == fpgaFileList() && side.path.number == 1 && active == side.path.key
         && active != before) {
-        changes << ofItem(m_base.device.path, ActiveFpgaItem, before, whole.device);
+        changes << ofItem(m_base.device.path, activeFpgaItem(), before, whole.device);
     }
     return changes;
 }
@@ -312,7 +316,7 @@ void Merger::mergeList(const QString &list)
     }
 
     QString active;
-    if (list == FpgaFileList) {
+    if (list == fpgaFileList()) {
         active = mergeActiveFpgaFile();
         // OURS removed it, which is told as a conflict of the image.
         active = keys.contains(active) ? active : QString();
@@ -323,9 +327,9 @@ void Merger::mergeList(const QString &list)
 /** @return the image that THEIRS wants to be active; empty when nothing has to be done */
 QString Merger::mergeActiveFpgaFile()
 {
-    const QString base = m_base.device.value(ActiveFpgaItem);
-    const QString ours = m_ours.device.value(ActiveFpgaItem);
-    QString theirs = m_theirs.device.value(ActiveFpgaItem);
+    const QString base = m_base.device.value(activeFpgaItem());
+    const QString ours = m_ours.device.value(activeFpgaItem());
+    QString theirs = m_theirs.device.value(activeFpgaItem());
     // A side without images does not care which one is active.
     if (theirs == base || theirs == ours || theirs.isEmpty()) {
         return QString();
@@ -333,7 +337,7 @@ QString Merger::mergeActiveFpgaFile()
     if (ours == base || ours.isEmpty()) {
         return theirs;
     }
-    addValueConflict(m_ours.device.path, ActiveFpgaItem, m_base.device, m_ours.device,
+    addValueConflict(m_ours.device.path, activeFpgaItem(), m_base.device, m_ours.device,
                      m_theirs.device);
     return QString();
 }
@@ -352,7 +356,7 @@ void dropImpossible(const CDeviceConfigurationFile10 &ours, QList<SChange> &chan
         QList<SChange> possible;
         for (const SChange &change : qAsConst(changes)) {
             SConflict conflict;
-            if (make(change, *copy, items, conflict.details)) {
+            if (make(change, items, conflict.details)) {
                 possible << change;
             } else {
                 conflict.conflict = CConfigurationMerge::NOT_POSSIBLE;
@@ -399,8 +403,7 @@ QStringList CConfigurationMerge::describe(const SConflict &conflict)
     switch (conflict.conflict) {
     case DIFFERENT_VALUES:
         lines << Texts::tr("%1: %2: base %3, ours %4, theirs %5")
-                     .arg(ConfigurationWords::subject(path),
-                          ConfigurationWords::item(path.item.section(QLatin1Char('.'), -1)),
+                     .arg(ConfigurationWords::subject(path), ConfigurationWords::item(path),
                           shown(conflict.base), shown(conflict.ours), shown(conflict.theirs));
         break;
     case REMOVED_BY_OURS:

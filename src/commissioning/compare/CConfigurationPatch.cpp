@@ -209,7 +209,7 @@ QString nameOf(const SItemPath &path, const SChange &change)
 {
     SSnapshotEntry entry;
     entry.items = change.items;
-    const bool isNamed = path.list == QLatin1String("drive") || !path.item.isEmpty();
+    const bool isNamed = ConfigurationChanges::isDriveList(path.list) || !path.item.isEmpty();
     return isNamed ? entry.value(QStringLiteral("name")) : QString();
 }
 
@@ -219,7 +219,7 @@ bool makeAll(const QList<SChange> &changes, CDeviceConfigurationFile10 &file,
     CConfigurationItems items(file);
     bool isDone = true;
     for (const SChange &change : changes) {
-        isDone = ConfigurationChanges::make(change, file, items, mismatches) && isDone;
+        isDone = ConfigurationChanges::make(change, items, mismatches) && isDone;
     }
     return isDone;
 }
@@ -275,7 +275,7 @@ QStringList CConfigurationPatch::describe() const
         for (const CConfigurationItems::SItem &item : change.items) {
             if (!isNamed || item.path != QLatin1String("name")) {
                 lines << QStringLiteral("    %1 %2")
-                             .arg(ConfigurationWords::item(item.path),
+                             .arg(ConfigurationWords::item(path, item.path),
                                   ConfigurationWords::shown(item.value));
             }
         }
@@ -294,8 +294,7 @@ QString CConfigurationPatch::describe(const SChange &change)
         return Texts::tr("%1 removed").arg(ConfigurationWords::subject(path, nameOf(path, change)));
     }
     return QStringLiteral("%1: %2 %3 -> %4")
-        .arg(ConfigurationWords::subject(path),
-             ConfigurationWords::item(path.item.section(QLatin1Char('.'), -1)),
+        .arg(ConfigurationWords::subject(path), ConfigurationWords::item(path),
              ConfigurationWords::shown(change.before), ConfigurationWords::shown(change.after));
 }
 

@@ -2,6 +2,7 @@
 
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "configfile/ShapePaths.h"
 #include "vocabulary/DriveTypes.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,8 @@
 #include <algorithm>
 
 using namespace ConfigurationChanges;
+using ConfigurationShape::EEntry;
+using ConfigurationShape::EValue;
 using ConfigurationWords::shown;
 
 using ItemPath::joined;
@@ -21,8 +24,6 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
 };
 
-const QString TypeItem = QStringLiteral("type");
-
 QString nameOf(const SItemPath &path)
 {
     return ConfigurationWords::subject(path, QString());
@@ -32,8 +33,8 @@ QString nameOf(const SItemPath &path)
 class Maker
 {
 public:
-    Maker(CDeviceConfigurationFile10 &file, CConfigurationItems &items, QStringList &mismatches)
-        : m_file(file), m_items(items), m_mismatches(mismatches)
+    Maker(CConfigurationItems &items, QStringList &mismatches)
+        : m_items(items), m_mismatches(mismatches)
     {
     }
 
@@ -48,11 +49,6 @@ private:
         return false;
     }
 
-    QString read(const SItemPath &path, const QString &text) const
-    {
-        return readValue(m_file, path.list, path.item, text);
-    }
-
     SSnapshotEntry entryAt(const SItemPath &path) const;
     bool isThere(const SItemPath &path) const;
     bool checkValue(const SItemPath &path, const QString &value, const QString &expected);
@@ -61,7 +57,6 @@ private:
     bool setActiveFpgaFile(const SChange &change);
     bool setDriveType(const SChange &change, const SItemPath &entry);
 
-    CDeviceConfigurationFile10 &m_file;
     CConfigurationItems &m_items;
     QStringList &m_mismatches;
 };
@@ -77,7 +72,8 @@ SSnapshotEntry Maker::entryAt(const SItemPath &path) const
     for (const CConfigurationItems::SItem &item : items) {
         SItemPath whole;
         SItemPath::parse(item.path, whole);
-        entry.items << CConfigurationItems::SItem{whole.item.mid(prefix), read(whole, item.value)};
+        entry.items << CConfigurationItems::SItem{whole.item.mid(prefix),
+                                                  readValue(whole, QString(), item.value)};
     }
     return entry;
 }
@@ -91,10 +87,9 @@ bool Maker::isThere(const SItemPath &path) const
 
 bool Maker::checkValue(const SItemPath &path, const QString &value, const QString &expected)
 {
-    const QString word = path.item.section(QLatin1Char('.'), -1);
-    return read(path, value) == read(path, expected)
+    return readValue(path, QString(), value) == readValue(path, QString(), expected)
         || fail(Texts::tr("%1: %2 is %3, but %4 is expected.")
-                    .arg(ConfigurationWords::subject(path), ConfigurationWords::item(word),
+                    .arg(ConfigurationWords::subject(path), ConfigurationWords::item(path),
                          shown(value), shown(expected)));
 }
 
@@ -112,7 +107,7 @@ bool Maker::clearItem(const QString &path)
 /** The image itself moves: another one whose path ends in the same file name stays. */
 bool Maker::setActiveFpgaFile(const SChange &change)
 {
-    const QString path = CConfigurationItems::entryPath(FpgaFileList, change.after);
+    const QString path = CConfigurationItems::entryPath(fpgaFileList(), change.after);
     QDomElement image = m_items.element(path);
     if (image.isNull()) {
         return fail(m_items.errorText());
@@ -154,10 +149,10 @@ bool Maker::changeItem(const SChange &change, const SItemPath &path)
     if (change.change == CConfigurationPatch::REMOVE_ITEM) {
         return clearItem(change.path);
     }
-    if (path.list == QLatin1String("device") && path.item == ActiveFpgaItem) {
+    if (!path.isInList() && path.item == activeFpgaItem()) {
         return setActiveFpgaFile(change);
     }
-    return path.list == QLatin1String("drive") && path.item == TypeItem
+    return isDriveList(path.list) && path.item == driveTypeItem()
         ? setDriveType(change, entry)
         : setItem(change.path, change.after);
 }
@@ -173,7 +168,7 @@ bool Maker::addEntry(const SChange &change, const SItemPath &path)
     // Which items a drive can have depends on its type.
     QList<CConfigurationItems::SItem> values = change.items;
     std::stable_partition(values.begin(), values.end(), [](const CConfigurationItems::SItem &item) {
-        return item.path == TypeItem;
+        return item.path == driveTypeItem();
     });
     bool isDone = true;
     QSet<QString> given;
@@ -184,7 +179,7 @@ bool Maker::addEntry(const SChange &change, const SItemPath &path)
     // What the new entry got by itself.
     const QList<CConfigurationItems::SItem> items = entryAt(path).content();
     for (const CConfigurationItems::SItem &item : items) {
-        if (!given.contains(item.path) && item.value != defaultValue(path.list, item.path)) {
+        if (!given.contains(item.path) && item.value != defaultValue(path, item.path)) {
             isDone = clearItem(joined(change.path, item.path)) && isDone;
         }
     }
@@ -212,6 +207,26 @@ bool Maker::removeEntry(const SChange &change, const SItemPath &path)
 }
 
 } // namespace
+
+QString ConfigurationChanges::fpgaFileList()
+{
+    return ShapePaths::list(EEntry::FPGA_FILE);
+}
+
+QString ConfigurationChanges::activeFpgaItem()
+{
+    return ShapePaths::word(EValue::ACTIVE_FPGA_FILE);
+}
+
+bool ConfigurationChanges::isDriveList(const QString &list)
+{
+    return list == ShapePaths::list(EEntry::DRIVE);
+}
+
+QString ConfigurationChanges::driveTypeItem()
+{
+    return ShapePaths::word(EValue::DRIVE_TYPE);
+}
 
 ConfigurationChanges::SChange ConfigurationChanges::ofEntry(CConfigurationPatch::EChange kind,
                                                             const SItemPath &path,
@@ -254,7 +269,7 @@ ConfigurationChanges::SChange ConfigurationChanges::ofItem(const SItemPath &path
 
 bool ConfigurationChanges::isKd2(const SSnapshotEntry &drive)
 {
-    return DriveTypes::isKd2(drive.value(TypeItem));
+    return DriveTypes::isKd2(drive.value(driveTypeItem()));
 }
 
 void ConfigurationChanges::appendItemDifferences(const QString &part, const SSnapshotEntry &before,
@@ -263,7 +278,7 @@ void ConfigurationChanges::appendItemDifferences(const QString &part, const SSna
 {
     for (const QString &item :
          ConfigurationSnapshot::unite(before.itemsOf(part), after.itemsOf(part))) {
-        if (item != ActiveFpgaItem && before.value(item) != after.value(item)) {
+        if (item != activeFpgaItem() && before.value(item) != after.value(item)) {
             changes << ofItem(before.path, item, before.value(item), after);
         }
     }
@@ -293,17 +308,17 @@ void ConfigurationChanges::ListChanges::appendTo(const QString &list, const SSna
                                                  const QString &active,
                                                  QList<SChange> &changes) const
 {
-    if (list != FpgaFileList) {
+    if (list != fpgaFileList()) {
         appendRemovals(changes);
         appendAdditions(changes);
         return;
     }
     appendAdditions(changes);
     const bool wasEmpty = m_before.isEmpty() && !m_added.isEmpty();
-    const QString first = wasEmpty ? m_added.constFirst().path.key : device.value(ActiveFpgaItem);
+    const QString first = wasEmpty ? m_added.constFirst().path.key : device.value(activeFpgaItem());
     if (!active.isEmpty() && active != first) {
         SChange change;
-        change.path = joined(device.path.entryPath(), ActiveFpgaItem);
+        change.path = joined(device.path.entryPath(), activeFpgaItem());
         change.before = first;
         change.after = active;
         changes << change;
@@ -340,15 +355,15 @@ void ConfigurationChanges::ListChanges::appendAdditions(QList<SChange> &changes)
     }
 }
 
-bool ConfigurationChanges::make(const SChange &change, CDeviceConfigurationFile10 &file,
-                                CConfigurationItems &items, QStringList &mismatches)
+bool ConfigurationChanges::make(const SChange &change, CConfigurationItems &items,
+                                QStringList &mismatches)
 {
     SItemPath path;
     if (!SItemPath::parse(change.path, path)) {
         mismatches << Texts::tr("'%1' is no path.").arg(change.path);
         return false;
     }
-    Maker maker(file, items, mismatches);
+    Maker maker(items, mismatches);
     switch (change.change) {
     case CConfigurationPatch::ADD_ENTRY:
         return maker.addEntry(change, path);

@@ -10,9 +10,12 @@ namespace ConfigurationChanges {
 
 using SChange = CConfigurationPatch::SChange;
 
-/** The list of FPGA images, and the item of the device that tells the first of them. */
-const QLatin1String FpgaFileList("device.fpgaFiles");
-const QLatin1String ActiveFpgaItem("activeFpgaFile");
+/** The path of the list of FPGA images, and the item of the device that names the first of them. */
+QString fpgaFileList();
+QString activeFpgaItem();
+/** Whether entries of @p list are drives, and the item that is their type. */
+bool isDriveList(const QString &list);
+QString driveTypeItem();
 
 /** The change that adds or removes an entry as a whole. */
 SChange ofEntry(CConfigurationPatch::EChange kind, const SItemPath &path,
@@ -64,12 +67,11 @@ private:
 };
 
 /**
- * Makes a change in @p file, which @p items works on, if the document is as the change expects it.
- * @return false when it is not, or when the change is not possible; @p mismatches then tells why,
- *         and the document may hold a part of the change
+ * Makes a change in the document that @p items works on, if it is as the change expects it.
+ * @return false when it is not, or when the change is not possible; @p mismatches then contains
+ * why, and the document may hold a part of the change
  */
-bool make(const SChange &change, CDeviceConfigurationFile10 &file, CConfigurationItems &items,
-          QStringList &mismatches);
+bool make(const SChange &change, CConfigurationItems &items, QStringList &mismatches);
 
 /** A file object with a copy of the document; null when there is none. */
 std::unique_ptr<CDeviceConfigurationFile10> copyOf(const CDeviceConfigurationFile10 &file);

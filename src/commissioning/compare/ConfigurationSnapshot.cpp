@@ -1,24 +1,20 @@
 #include "commissioning/compare/ConfigurationSnapshot.h"
 
 #include "commissioning/items/ItemPath.h"
-#include "vocabulary/DriveTypes.h"
-#include "vocabulary/NVornXmlTags.h"
+#include "configfile/ItemValue.h"
+#include "configfile/ShapePaths.h"
 
-#include <QDate>
 #include <QQueue>
 
 #include <algorithm>
 #include <tuple>
 #include <vector>
 
-using NVornXmlTags::VALUE_FALSE;
-using NVornXmlTags::VALUE_TRUE;
 using SItem = CConfigurationItems::SItem;
 
 namespace {
 
 const QLatin1Char Dot('.');
-const QString Undefined = QStringLiteral("Undefined");
 
 /** More pairs of entries of one key are not compared with each other: that would take too long. */
 const qint64 LargestMatrix = 4096;
@@ -39,7 +35,7 @@ QString fingerprint(const SSnapshotEntry &entry)
 {
     QStringList texts;
     for (const SItem &item : entry.items) {
-        if (item.value != defaultValue(entry.path.list, item.path)) {
+        if (item.value != defaultValue(entry.path, item.path)) {
             texts << item.path + QLatin1Char('=') + QString::number(item.value.size())
                     + QLatin1Char(' ') + item.value;
         }
@@ -148,60 +144,16 @@ QString SItemPath::entryPath() const
     return isInList() ? CConfigurationItems::entryPath(list, key, number) : list;
 }
 
-QString defaultValue(const QString &list, const QString &item)
+QString defaultValue(const SItemPath &entry, const QString &item)
 {
-    if (item == QLatin1String("type")) {
-        return list == QLatin1String("drive") ? DriveTypes::kd3() : Undefined;
-    }
-    if (item == QLatin1String("class")) {
-        return Undefined;
-    }
-    if (item == QLatin1String("opcUaEnabled")) {
-        return VALUE_FALSE;
-    }
-    return item == QLatin1String("busId") ? QString::number(0) : QString();
+    return readValue(entry, item, QString());
 }
 
-QString readValue(const CDeviceConfigurationFile10 &file, const QString &list, const QString &item,
-                  const QString &text)
+QString readValue(const SItemPath &entry, const QString &item, const QString &text)
 {
-    const QString word = item.section(Dot, -1);
-    if (word == QLatin1String("type")) {
-        return list == QLatin1String("drive") ? DriveTypes::read(text)
-                                              : file.typeToStr(file.strToType(text));
-    }
-    if (word == QLatin1String("class")) {
-        return file.deviceClassToStr(file.strToDeviceClass(text));
-    }
-    if (word == QLatin1String("opcUaEnabled")) {
-        return text == VALUE_TRUE ? VALUE_TRUE : VALUE_FALSE;
-    }
-    if (word == QLatin1String("busId")) {
-        return QString::number(text.toUInt());
-    }
-    if (word == QLatin1String("priority")) {
-        CPluginElement unset;
-        bool isNumber = false;
-        const int number = text.toInt(&isNumber);
-        return isNumber && number != unset.priority() ? QString::number(number) : QString();
-    }
-    if (word == QLatin1String("hardwareId")) {
-        return CDeviceHardwareId(text).hardwareId();
-    }
-    if (word == QLatin1String("creationDate") || word == QLatin1String("revisionDate")) {
-        return QDate::fromString(text, Qt::ISODate).toString(Qt::ISODate);
-    }
-    CFileElement directories;
-    if (word == QLatin1String("deviceDir")) {
-        directories.setDevicePath(text);
-        return directories.devicePath();
-    }
-    if (word == QLatin1String("projectDir")) {
-        directories.setProjectPath(text);
-        return directories.projectPath();
-    }
-    // The argument of a start option has no word of its own.
-    return item.isEmpty() ? text.simplified() : text;
+    const QString path = ItemPath::joined(entry.list, ItemPath::joined(entry.item, item));
+    const ConfigurationShape::SNode *const node = ShapePaths::find(path);
+    return node == nullptr ? text : ItemValue::read(node->item.value, text);
 }
 
 bool SSnapshotEntry::has(const QString &item) const
@@ -212,7 +164,7 @@ bool SSnapshotEntry::has(const QString &item) const
 QString SSnapshotEntry::value(const QString &item) const
 {
     const auto found = find(items, item);
-    return found == items.end() ? defaultValue(path.list, item) : found->value;
+    return found == items.end() ? defaultValue(path, item) : found->value;
 }
 
 QStringList SSnapshotEntry::paths() const
@@ -300,21 +252,8 @@ ConfigurationSnapshot::ConfigurationSnapshot(CDeviceConfigurationFile10 &file)
             ? m_lists[path.list][indexes.value(path.entryPath())]
             : path.list == device.path.list ? device
                                             : description;
-        entry.items << SItem{path.item, readValue(file, path.list, path.item, item.value)};
+        entry.items << SItem{path.item, readValue(path, QString(), item.value)};
     }
-}
-
-QStringList ConfigurationSnapshot::lists()
-{
-    return {
-        QStringLiteral("device.options"),
-        QStringLiteral("device.parameterFiles"),
-        QStringLiteral("device.fpgaFiles"),
-        QStringLiteral("device.opcUaFiles"),
-        QStringLiteral("device.plugins"),
-        QStringLiteral("drive"),
-        QStringLiteral("files"),
-    };
 }
 
 QVector<int> ConfigurationSnapshot::match(const QVector<SSnapshotEntry> &left,

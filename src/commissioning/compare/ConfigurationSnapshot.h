@@ -27,11 +27,11 @@ struct SItemPath {
     QString entryPath() const;
 };
 
-/** What readers of a document take for an item that is not there; for most, the empty text. */
-QString defaultValue(const QString &list, const QString &item);
-/** What readers make of the text of an item: directories and numbers have several spellings. */
-QString readValue(const CDeviceConfigurationFile10 &file, const QString &list, const QString &item,
-                  const QString &text);
+/** What readers of a document take for an absent item below @p entry; for most, the empty text. */
+QString defaultValue(const SItemPath &entry, const QString &item);
+/** What readers make of the text of such an item: directories and numbers have several spellings.
+ */
+QString readValue(const SItemPath &entry, const QString &item, const QString &text);
 
 /**
  * An entry of a list with all that is below it, or "description" or "device" without their lists.
@@ -70,8 +70,6 @@ public:
     SSnapshotEntry description;
     SSnapshotEntry device;
 
-    /** The paths of all lists, in the order in which they are told. */
-    static QStringList lists();
     /** In the order of the document. */
     QVector<SSnapshotEntry> entries(const QString &list) const { return m_lists.value(list); }
 

@@ -1,8 +1,9 @@
 #include "commissioning/compare/ConfigurationWords.h"
 
-#include <QCoreApplication>
+#include "commissioning/items/ItemPath.h"
+#include "configfile/ShapePaths.h"
 
-#include <algorithm>
+#include <QCoreApplication>
 
 namespace {
 
@@ -11,85 +12,26 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
 };
 
-/** A word of a path, and what stands for it; the text is translated when it is used. */
-struct SWord {
-    const char *word;
-    const char *text;
-};
-
-/** Entries of lists; %1 is the key. */
-const SWord Entries[] = {
-    {"device.options", QT_TRANSLATE_NOOP("CConfigurationPatch", "option %1")},
-    {"device.parameterFiles", QT_TRANSLATE_NOOP("CConfigurationPatch", "parameter file %1")},
-    {"device.fpgaFiles", QT_TRANSLATE_NOOP("CConfigurationPatch", "FPGA image %1")},
-    {"device.opcUaFiles", QT_TRANSLATE_NOOP("CConfigurationPatch", "OPC UA file %1")},
-    {"device.plugins", QT_TRANSLATE_NOOP("CConfigurationPatch", "plug-in %1")},
-    {"drive", QT_TRANSLATE_NOOP("CConfigurationPatch", "drive %1")},
-    {"files", QT_TRANSLATE_NOOP("CConfigurationPatch", "file %1")},
-};
-
-/** What is there once, and single files. */
-const SWord Holders[] = {
-    {"description", QT_TRANSLATE_NOOP("CConfigurationPatch", "description")},
-    {"device", QT_TRANSLATE_NOOP("CConfigurationPatch", "device")},
-    {"dictionary", QT_TRANSLATE_NOOP("CConfigurationPatch", "object dictionary")},
-    {"faultTextFile", QT_TRANSLATE_NOOP("CConfigurationPatch", "fault texts")},
-    {"etherCatMasterFile", QT_TRANSLATE_NOOP("CConfigurationPatch", "EtherCAT master file")},
-    {"param", QT_TRANSLATE_NOOP("CConfigurationPatch", "parameter file")},
-    {"kd2Param", QT_TRANSLATE_NOOP("CConfigurationPatch", "KD2 parameter file")},
-    {"kd2Logic", QT_TRANSLATE_NOOP("CConfigurationPatch", "KD2 logic")},
-    {"kd2Firmware", QT_TRANSLATE_NOOP("CConfigurationPatch", "KD2 firmware")},
-};
-
-const SWord Items[] = {
-    {"", QT_TRANSLATE_NOOP("CConfigurationPatch", "argument")},
-    {"name", QT_TRANSLATE_NOOP("CConfigurationPatch", "name")},
-    {"comment", QT_TRANSLATE_NOOP("CConfigurationPatch", "comment")},
-    {"version", QT_TRANSLATE_NOOP("CConfigurationPatch", "version")},
-    {"creationDate", QT_TRANSLATE_NOOP("CConfigurationPatch", "creation date")},
-    {"revisionDate", QT_TRANSLATE_NOOP("CConfigurationPatch", "revision date")},
-    {"class", QT_TRANSLATE_NOOP("CConfigurationPatch", "class")},
-    {"hardwareId", QT_TRANSLATE_NOOP("CConfigurationPatch", "hardware identity")},
-    {"configurationName", QT_TRANSLATE_NOOP("CConfigurationPatch", "configuration name")},
-    {"executionPlugin", QT_TRANSLATE_NOOP("CConfigurationPatch", "execution plug-in")},
-    {"opcUaEnabled", QT_TRANSLATE_NOOP("CConfigurationPatch", "OPC UA enabled")},
-    {"activeFpgaFile", QT_TRANSLATE_NOOP("CConfigurationPatch", "active FPGA image")},
-    {"type", QT_TRANSLATE_NOOP("CConfigurationPatch", "type")},
-    {"busId", QT_TRANSLATE_NOOP("CConfigurationPatch", "bus identifier")},
-    {"priority", QT_TRANSLATE_NOOP("CConfigurationPatch", "priority")},
-    {"deviceDir", QT_TRANSLATE_NOOP("CConfigurationPatch", "device directory")},
-    {"projectDir", QT_TRANSLATE_NOOP("CConfigurationPatch", "project directory")},
-};
-
-template <std::size_t Size>
-const SWord *find(const SWord (&table)[Size], const QString &word)
+/** Lists, and words that the description of the document does not have, stand for themselves. */
+QString translated(const QString &path, const QString &word)
 {
-    const auto row = std::find_if(std::begin(table), std::end(table), [&](const SWord &candidate) {
-        return word == QLatin1String(candidate.word);
-    });
-    return row == std::end(table) ? nullptr : row;
-}
-
-/** Words that are in no table stand for themselves. */
-template <std::size_t Size>
-QString translated(const SWord (&table)[Size], const QString &word)
-{
-    const SWord *const row = find(table, word);
-    return row == nullptr ? ConfigurationWords::shown(word) : Texts::tr(row->text);
+    const ConfigurationShape::SNode *const node = ShapePaths::find(path);
+    return node == nullptr || node->isList() ? ConfigurationWords::shown(word)
+                                             : ConfigurationShape::label(node->text);
 }
 
 QString entry(const SItemPath &path)
 {
     if (!path.isInList()) {
-        return translated(Holders, path.list);
+        return translated(path.list, path.list);
     }
     QString key = ConfigurationWords::shown(path.key);
     if (path.number > 1) {
         key = QStringLiteral("%1 [%2]").arg(key, QString::number(path.number));
     }
-    const SWord *const row = find(Entries, path.list);
-    return row == nullptr ? QStringLiteral("%1 %2").arg(ConfigurationWords::shown(path.list), key)
-                          : Texts::tr(row->text).arg(key);
+    const ConfigurationShape::SNode *const node = ShapePaths::find(path.list);
+    return node == nullptr ? QStringLiteral("%1 %2").arg(ConfigurationWords::shown(path.list), key)
+                           : ConfigurationShape::label(node->text).arg(key);
 }
 
 QString partOf(const QString &item)
@@ -107,8 +49,13 @@ QString subjectOfPart(const SItemPath &path, const QString &part)
     if (part.isEmpty()) {
         return entry(path);
     }
-    const QString text = translated(Holders, part);
+    const QString text = translated(ItemPath::joined(path.list, part), part);
     return path.isInList() ? joined(entry(path), text) : text;
+}
+
+QString lastWord(const QString &item)
+{
+    return item.section(QLatin1Char('.'), -1);
 }
 
 bool needsEscape(QChar c)
@@ -153,13 +100,21 @@ QString ConfigurationWords::subject(const SItemPath &path, const QString &name)
     return name.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, shown(name));
 }
 
-QString ConfigurationWords::item(const QString &item)
+QString ConfigurationWords::item(const SItemPath &path)
 {
-    const QString part = partOf(item);
-    if (part.isEmpty()) {
-        return translated(Items, item);
-    }
-    return joined(translated(Holders, part), translated(Items, item.mid(part.size() + 1)));
+    return path.item.isEmpty()
+        ? Texts::tr("argument")
+        : translated(ItemPath::joined(path.list, path.item), lastWord(path.item));
+}
+
+QString ConfigurationWords::item(const SItemPath &path, const QString &below)
+{
+    SItemPath itemPath = path;
+    itemPath.item = ItemPath::joined(path.item, below);
+    const QString part = path.item.isEmpty() ? partOf(below) : QString();
+    return part.isEmpty()
+        ? item(itemPath)
+        : joined(translated(ItemPath::joined(path.list, part), part), item(itemPath));
 }
 
 QString ConfigurationWords::shown(const QString &text)

@@ -1,6 +1,7 @@
 #include "commissioning/CConfigurationOverview.h"
 
 #include "commissioning/items/ItemPaths.h"
+#include "configfile/ShapePaths.h"
 #include "elements/DriveNumbers.h"
 #include "elements/StartOptions.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -10,6 +11,7 @@
 #include <algorithm>
 
 using namespace NvrnDeviceCore;
+using ConfigurationShape::EEntry;
 
 /** What the constructor reads; see the accessors of the same names. */
 class CConfigurationOverviewPrivate
@@ -59,9 +61,14 @@ CDeviceElement withoutFiles(const CDeviceElement &device)
     return result;
 }
 
-QList<SFile> listedFiles(const QList<CFileElement> &files, const QString &list, EDeviceFile kind)
+SFile singleFile(EDeviceFile kind, const CFileElement &file)
 {
-    ItemPaths paths(list);
+    return {ShapePaths::path(kind), kind, file};
+}
+
+QList<SFile> listedFiles(const QList<CFileElement> &files, EDeviceFile kind)
+{
+    ItemPaths paths(ShapePaths::path(kind));
     QList<SFile> result;
     for (const CFileElement &file : files) {
         result.append({paths.next(file.fileName()), kind, file});
@@ -72,7 +79,7 @@ QList<SFile> listedFiles(const QList<CFileElement> &files, const QString &list, 
 QList<CConfigurationOverview::SParameterFile>
 parameterFiles(const CDeviceElement &device, const CDeviceConfigurationFile10 &texts)
 {
-    ItemPaths paths(QStringLiteral("device.parameterFiles"));
+    ItemPaths paths(ShapePaths::list(EEntry::PARAMETER_FILE));
     CDeviceElement place = withoutFiles(device);
     QList<CConfigurationOverview::SParameterFile> result;
     for (const CParamFileElement &parameters : device.parameterFiles()) {
@@ -92,7 +99,7 @@ parameterFiles(const CDeviceElement &device, const CDeviceConfigurationFile10 &t
 
 QList<SFile> fpgaFiles(const CDeviceElement &device)
 {
-    ItemPaths paths(QStringLiteral("device.fpgaFiles"));
+    ItemPaths paths(ShapePaths::list(EEntry::FPGA_FILE));
     QList<SFile> result;
     for (int i = 0; i < device.fpgaFileCount(); ++i) {
         result.append(
@@ -103,7 +110,7 @@ QList<SFile> fpgaFiles(const CDeviceElement &device)
 
 QList<CConfigurationOverview::SPlugin> plugins(const CDeviceElement &device)
 {
-    ItemPaths paths(QStringLiteral("device.plugins"));
+    ItemPaths paths(ShapePaths::list(EEntry::PLUGIN));
     CDeviceElement place = withoutFiles(device);
     QList<CConfigurationOverview::SPlugin> result;
     for (const CPluginElement &plugin : device.plugins()) {
@@ -116,7 +123,7 @@ QList<CConfigurationOverview::SPlugin> plugins(const CDeviceElement &device)
 
 QList<CConfigurationOverview::SOption> options(const QStringList &words)
 {
-    ItemPaths paths(QStringLiteral("device.options"));
+    ItemPaths paths(ShapePaths::list(EEntry::OPTION));
     QList<CConfigurationOverview::SOption> result;
     const StartOptions options(words.join(QLatin1Char(' ')), StartOptions::SEPARATOR_SPACE);
     for (const StartOptions::SOption &option : options.options()) {
@@ -125,21 +132,19 @@ QList<CConfigurationOverview::SOption> options(const QStringList &words)
     return result;
 }
 
+/** In the order of allFiles(). */
 QList<SFile> driveFiles(const CSubDeviceElement &drive, const QString &item)
 {
-    QList<SFile> result = {{item + QStringLiteral(".param"), DEVICE_FILE_SUB_DEVICE_PARAMETERS,
-                            drive.parameterFile()}};
-    if (drive.isKD2()) {
-        const CSubDeviceKD2Element kd2 = drive.toKD2();
-        result.append({item + QStringLiteral(".kd2Firmware"), DEVICE_FILE_KD2_FIRMWARE,
-                       kd2.kd2FirmwareFile()});
-        result.append(
-            {item + QStringLiteral(".kd2Logic"), DEVICE_FILE_KD2_LOGIC, kd2.kd2LogicFile()});
-        result.append({item + QStringLiteral(".kd2Param"), DEVICE_FILE_KD2_PARAMETERS,
-                       kd2.kd2ParameterFile()});
+    QList<SFile> result;
+    for (const auto &row : ConfigurationShape::driveFiles()) {
+        const CFileElement file =
+            drive.isKD2() || !row.isOfKd2Only ? row.get(drive) : CFileElement();
+        if (!file.isNull()) {
+            result.append({item + QLatin1Char('.') + row.word, row.kind, file});
+        }
     }
-    const auto isAbsent = [](const SFile &file) { return file.file.isNull(); };
-    result.erase(std::remove_if(result.begin(), result.end(), isAbsent), result.end());
+    std::sort(result.begin(), result.end(),
+              [](const SFile &left, const SFile &right) { return left.kind < right.kind; });
     return result;
 }
 
@@ -148,7 +153,7 @@ QHash<int, QString> driveItems(const CDeviceConfigurationFile10 &file)
 {
     QStringList texts;
     QStringList items;
-    ItemPaths paths(QStringLiteral("drive"));
+    ItemPaths paths(ShapePaths::list(EEntry::DRIVE));
     const QString &tag = NVornXmlTags::TAG_SUB_DEVICE;
     for (QDomElement child = file.findDeviceElement().firstChildElement(tag); !child.isNull();
          child = child.nextSiblingElement(tag)) {
@@ -196,17 +201,12 @@ CConfigurationOverview::CConfigurationOverview(const CDeviceConfigurationFile10 
     d->configurationFile = {QString(), DEVICE_FILE_NONE, device.configurationFile()};
     d->drives = ::drives(file, device);
     d->parameterFiles = ::parameterFiles(device, file);
-    d->dictionary = {QStringLiteral("device.dictionary"), DEVICE_FILE_OBJECT_DICTIONARY,
-                     file.odictFile()};
-    d->faultTexts = {QStringLiteral("device.faultTextFile"), DEVICE_FILE_FAULT_TEXTS,
-                     file.faultTextFile()};
-    d->etherCatMaster = {QStringLiteral("device.etherCatMasterFile"), DEVICE_FILE_ETHERCAT_MASTER,
-                         device.etherCatMasterFile()};
+    d->dictionary = singleFile(DEVICE_FILE_OBJECT_DICTIONARY, file.odictFile());
+    d->faultTexts = singleFile(DEVICE_FILE_FAULT_TEXTS, file.faultTextFile());
+    d->etherCatMaster = singleFile(DEVICE_FILE_ETHERCAT_MASTER, device.etherCatMasterFile());
     d->fpgaFiles = ::fpgaFiles(device);
-    d->opcUaFiles =
-        listedFiles(device.opcUaFiles(), QStringLiteral("device.opcUaFiles"), DEVICE_FILE_OPC_UA);
-    d->additionalFiles =
-        listedFiles(device.additionalFiles(), QStringLiteral("files"), DEVICE_FILE_ADDITIONAL);
+    d->opcUaFiles = listedFiles(device.opcUaFiles(), DEVICE_FILE_OPC_UA);
+    d->additionalFiles = listedFiles(device.additionalFiles(), DEVICE_FILE_ADDITIONAL);
     d->plugins = ::plugins(device);
     d->options = ::options(device.options());
 }

@@ -2,6 +2,7 @@
 
 #include "imported/xml/StringCache.h"
 #include "imported/xml/XmlText.h"
+#include "storage/XmlCharacters.h"
 
 #include <QCoreApplication>
 #include <QDomImplementation>
@@ -66,7 +67,7 @@ QByteArray fromUtf16(const QByteArray &bytes, Utf16 order, bool &complete)
     } else {
         qFromLittleEndian<quint16>(bytes.constData(), text.size(), text.data());
     }
-    const int lone = XmlText::indexOfLoneSurrogate(text);
+    const int lone = XmlCharacters::indexOfLoneSurrogate(text);
     const int end = lone < 0 ? text.size() : lone;
     complete = lone < 0 && bytes.size() % 2 == 0;
     const int start = text.startsWith(QChar::ByteOrderMark) ? 1 : 0;

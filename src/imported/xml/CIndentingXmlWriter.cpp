@@ -1,6 +1,7 @@
 #include "imported/xml/CIndentingXmlWriter.h"
 
 #include "imported/xml/XmlText.h"
+#include "storage/XmlCharacters.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -315,7 +316,7 @@ private:
 
     void checkCharacters(const QString &value, const QDomNode &element)
     {
-        const int illegal = XmlText::indexOfIllegal(value);
+        const int illegal = XmlCharacters::indexOfIllegal(value);
         if (illegal >= 0) {
             const QString code = QString::number(value.at(illegal).unicode(), 16).toUpper();
             fail(tr("The element '%1' holds the character U+%2, which XML cannot carry.")

@@ -33,29 +33,6 @@ bool isAscii(const char *utf8, int size)
     return ((all | part) & Q_UINT64_C(0x8080808080808080)) == 0;
 }
 
-bool isPairAt(const QString &text, int index)
-{
-    return text.at(index).isHighSurrogate() && index + 1 < text.size()
-        && text.at(index + 1).isLowSurrogate();
-}
-
-template <typename Predicate>
-int indexOf(const QString &text, Predicate matches)
-{
-    for (int i = 0; i < text.size(); ++i) {
-        if (!text.at(i).isSurrogate()) {
-            if (matches(text.at(i).unicode())) {
-                return i;
-            }
-        } else if (isPairAt(text, i)) {
-            ++i;
-        } else {
-            return i;
-        }
-    }
-    return -1;
-}
-
 } // namespace
 
 bool isBlank(const QString &text)
@@ -85,19 +62,6 @@ QString fromUtf8(const char *utf8, int size)
     const bool beginsWithMark = size >= static_cast<int>(sizeof(mark))
         && std::equal(std::begin(mark), std::end(mark), utf8);
     return beginsWithMark ? QChar(QChar::ByteOrderMark) + text : text;
-}
-
-int indexOfLoneSurrogate(const QString &text)
-{
-    return indexOf(text, [](ushort) { return false; });
-}
-
-int indexOfIllegal(const QString &text)
-{
-    return indexOf(text, [](ushort unit) {
-        const bool allowedControl = unit == '\t' || unit == '\n' || unit == '\r';
-        return (unit < 0x20 && !allowedControl) || unit >= 0xfffe;
-    });
 }
 
 bool holdsText(const QDomElement &element)

@@ -15,12 +15,6 @@ QString outOfMemory();
 /** The text of valid UTF-8, as it stands: QString drops a byte-order mark that it begins with. */
 QString fromUtf8(const char *utf8, int size);
 
-/** The first unit that is half of a pair without its other half; -1 if there is none. */
-int indexOfLoneSurrogate(const QString &text);
-
-/** The first unit that XML 1.0 cannot carry, also not as a reference; -1 if there is none. */
-int indexOfIllegal(const QString &text);
-
 /**
  * Whether the element's own text says something. Blank text beside child elements does not: it only
  * indents them, unless there is other text between them as well.
