@@ -6,6 +6,7 @@
 
 using namespace ConfigurationRules;
 using namespace NVornXmlTags;
+using ConfigurationShape::EValue;
 
 void DeviceCheck::checkRoot(const Fields &fields, const QString &version)
 {
@@ -44,7 +45,8 @@ void DeviceCheck::checkDescription(const Fields &fields)
 
 void DeviceCheck::checkDate(const Fields &fields, const QString &tag, const QString &item)
 {
-    m_context.findings.report(ValueChecks::date(fields.text(tag)), {fields.element(tag), item});
+    m_context.findings.report(ValueChecks::of(EValue::DATE, fields.text(tag)),
+                              {fields.element(tag), item});
 }
 
 void DeviceCheck::checkDevice(const Fields &fields, const QString &item)
@@ -53,11 +55,11 @@ void DeviceCheck::checkDevice(const Fields &fields, const QString &item)
     const QString hardwareId = fields.text(TAG_HARDWAREID);
     device.setHardwareId(CDeviceHardwareId(hardwareId));
     m_context.findings.report(
-        ValueChecks::hardwareId(hardwareId),
+        ValueChecks::of(EValue::HARDWARE_ID, hardwareId),
         {fields.element(TAG_HARDWAREID), item + QStringLiteral(".hardwareId")});
     const QString deviceClass = fields.text(TAG_CLASS);
     device.setDeviceClass(m_context.file.strToDeviceClass(deviceClass));
-    m_context.findings.report(ValueChecks::deviceClass(deviceClass, m_context.file),
+    m_context.findings.report(ValueChecks::of(EValue::DEVICE_CLASS, deviceClass),
                               {fields.place(TAG_CLASS), item + QStringLiteral(".class")});
     device.setName(fields.text(TAG_NAME));
     if (device.name().isEmpty()) {

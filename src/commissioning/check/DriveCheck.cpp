@@ -9,6 +9,7 @@
 using namespace ConfigurationRules;
 using namespace FaultTexts;
 using namespace NVornXmlTags;
+using ConfigurationShape::EValue;
 
 void DriveCheck::check(const Fields &fields, const QString &item)
 {
@@ -22,7 +23,7 @@ void DriveCheck::check(const Fields &fields, const QString &item)
 void DriveCheck::checkType(const Fields &fields, const QString &item)
 {
     const QString text = fields.parent().attribute(ATTR_TYPE);
-    m_context.findings.report(ValueChecks::driveType(text),
+    m_context.findings.report(ValueChecks::of(EValue::DRIVE_TYPE, text),
                               {fields.parent(), item + QStringLiteral(".type")});
     if (text != DriveTypes::kd3()) {
         return;
@@ -41,7 +42,7 @@ void DriveCheck::checkHardwareId(const Fields &fields, const QString &item)
 {
     const SPlace place = {fields.element(TAG_HARDWAREID), item + QStringLiteral(".hardwareId")};
     const QString text = fields.text(TAG_HARDWAREID);
-    m_context.findings.report(ValueChecks::hardwareId(text), place);
+    m_context.findings.report(ValueChecks::of(EValue::HARDWARE_ID, text), place);
     const CDeviceHardwareId own(text);
     const CDeviceElement &device = m_context.device;
     const bool fits = own.isNull() || device.hardwareId().isNull()
@@ -61,7 +62,7 @@ void DriveCheck::checkNumber(const Fields &fields, const QString &item)
 {
     const SPlace place = {fields.place(TAG_DRIVE_NO), item + QStringLiteral(".driveNo")};
     const QString text = fields.text(TAG_DRIVE_NO);
-    const std::optional<SFault> fault = ValueChecks::driveNumber(text);
+    const std::optional<SFault> fault = ValueChecks::of(EValue::KEY_DRIVE_NUMBER, text);
     const int number = DriveNumbers::read(text);
     if (fault) {
         m_context.findings.report(fault, place);
@@ -99,7 +100,7 @@ void DriveCheck::checkBusId(const Fields &fields, const QString &item)
 {
     const SPlace place = {fields.place(TAG_BUS_ID), item + QStringLiteral(".busId")};
     const QString text = fields.text(TAG_BUS_ID);
-    m_context.findings.report(ValueChecks::busId(text), place);
+    m_context.findings.report(ValueChecks::of(EValue::UNSIGNED_NUMBER, text), place);
     const uint busId = text.toUInt();
     if (busId != 0 && m_busIds.contains(busId)) {
         m_context.findings.report(BUS_ID_TWICE, place,

@@ -34,7 +34,8 @@ NvrnGlobal::EParamFileType FileListCheck::checkParameterType(const Fields &field
                                                              const QString &item)
 {
     const QString text = fields.parent().attribute(ATTR_TYPE);
-    const std::optional<SFault> fault = ValueChecks::parameterType(text, m_context.file);
+    const std::optional<SFault> fault =
+        ValueChecks::of(ConfigurationShape::EValue::PARAMETER_FILE_TYPE, text);
     m_context.findings.report(fault, {fields.parent(), item + QStringLiteral(".type")});
     return fault ? NvrnGlobal::PARAM_FILE_UNDEFINED : m_context.file.strToType(text);
 }

@@ -92,7 +92,7 @@ void OptionCheck::checkOpcUa(const Fields &opcUa)
     const QString text = opcUa.text(TAG_OPCUA_ENABLED);
     m_opcUaFlag = {opcUa.element(TAG_OPCUA_ENABLED), QStringLiteral("device.opcUaEnabled")};
     m_isOpcUaEnabled = text == VALUE_TRUE;
-    const std::optional<SFault> fault = ValueChecks::opcUaFlag(text);
+    const std::optional<SFault> fault = ValueChecks::of(ConfigurationShape::EValue::BOOLEAN, text);
     m_isOpcUaFlagValid = !fault;
     m_context.findings.report(fault, m_opcUaFlag);
 }

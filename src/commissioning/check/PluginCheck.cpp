@@ -23,8 +23,9 @@ void PluginCheck::check(const Fields &fields, const QString &item)
         m_etherCatPlugin = place;
     }
     const bool hasVersion = checkVersion(plugin, fields, item);
-    m_context.findings.report(ValueChecks::priority(fields.text(TAG_PRIORITY)),
-                              {fields.element(TAG_PRIORITY), item + QStringLiteral(".priority")});
+    m_context.findings.report(
+        ValueChecks::of(ConfigurationShape::EValue::SIGNED_NUMBER, fields.text(TAG_PRIORITY)),
+        {fields.element(TAG_PRIORITY), item + QStringLiteral(".priority")});
     if (hasName && hasVersion) {
         checkLibrary(plugin, place);
     }

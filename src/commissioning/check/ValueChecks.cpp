@@ -3,19 +3,15 @@
 #include "commissioning/rules/Texts.h"
 #include "elements/CanonicalPaths.h"
 #include "elements/CPluginElement.h"
-#include "elements/DriveNumbers.h"
-#include "imported/CDeviceHardwareId.h"
 #include "imported/CStr.h"
-#include "vocabulary/DriveTypes.h"
-#include "vocabulary/NVornXmlTags.h"
 
-#include <QDate>
 #include <QRegExp>
 
 #include <algorithm>
 
 using namespace ConfigurationRules;
 using namespace FaultTexts;
+using ConfigurationShape::EValue;
 
 namespace {
 
@@ -29,31 +25,111 @@ bool isDottedNumber(const QString &text)
     });
 }
 
-/** The hint for a text that is none of @p allowed; empty when it is not like any of them. */
-QString hintFor(const QString &text, const QStringList &allowed)
+/** A rule that finds nothing. */
+const ERule NoRule = RULE_COUNT;
+
+/** How the check reports one kind of value. */
+struct SRow {
+    EValue kind;
+    /** Nothing is there. */
+    ERule missing = NoRule;
+    const char *missingText = nullptr;
+    /** The value is left open. */
+    ERule undefined = NoRule;
+    const char *undefinedText = nullptr;
+    const char *undefinedHint = nullptr;
+    /** Readers cannot read it. */
+    ERule invalid = NoRule;
+    const char *hint = nullptr;
+};
+
+const char *const NextFreeNumber = QT_TRANSLATE_NOOP(
+    "CConfigurationCheck", "The drive is read with the next number that no other drive has.");
+
+const SRow Rows[] = {
+    {EValue::DATE, NoRule, nullptr, NoRule, nullptr, nullptr, DATE_INVALID, nullptr},
+    {EValue::HARDWARE_ID, NoRule, nullptr, NoRule, nullptr, nullptr, HARDWARE_ID_INVALID,
+     QT_TRANSLATE_NOOP("CConfigurationCheck",
+                       "The last three are numbers from 0 to 65535; it is read as empty.")},
+    {EValue::DEVICE_CLASS, DEVICE_CLASS_MISSING,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The device has no class."), DEVICE_CLASS_UNDEFINED,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The class of the device is left open."), nullptr,
+     DEVICE_CLASS_UNKNOWN, nullptr},
+    {EValue::BOOLEAN, NoRule, nullptr, NoRule, nullptr, nullptr, OPC_UA_FLAG_INVALID, nullptr},
+    {EValue::PARAMETER_FILE_TYPE, PARAMETER_TYPE_MISSING,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The parameter file has no type."),
+     PARAMETER_TYPE_UNDEFINED,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the parameter file is left open."),
+     nullptr, PARAMETER_TYPE_UNKNOWN, nullptr},
+    {EValue::SIGNED_NUMBER, NoRule, nullptr, NoRule, nullptr, nullptr, PRIORITY_INVALID,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The plug-in is read without a priority.")},
+    {EValue::DRIVE_TYPE, DRIVE_TYPE_MISSING,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no type."), DRIVE_TYPE_UNDEFINED,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the drive is left open."), nullptr,
+     DRIVE_TYPE_UNKNOWN, nullptr},
+    {EValue::KEY_DRIVE_NUMBER, DRIVE_NUMBER_MISSING,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no number."), DRIVE_NUMBER_INVALID,
+     nullptr,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "This number means that no number is assigned."),
+     DRIVE_NUMBER_INVALID, NextFreeNumber},
+    {EValue::UNSIGNED_NUMBER, NoRule, nullptr, NoRule, nullptr, nullptr, BUS_ID_INVALID, nullptr},
+};
+
+QString translated(const char *text)
 {
-    const QString wanted = meant(text, allowed);
-    return wanted.isEmpty() ? QString() : caseHint(wanted);
+    return text == nullptr ? QString() : QCoreApplication::translate("CConfigurationCheck", text);
 }
 
-/** The texts of all types of parameter files that can be read. */
-QStringList parameterTypes(const CDeviceConfigurationFile10 &texts)
+/** What readers make of a text, where they make anything of it; as a sentence. */
+QString readAs(EValue kind, const QString &text)
 {
-    QStringList types;
-    for (int value = NvrnGlobal::PARAM_FILE_KC2_PARAMETERS;
-         value <= NvrnGlobal::PARAM_FILE_OPTION_MODULE_DATABASE; ++value) {
-        const auto type = static_cast<NvrnGlobal::EParamFileType>(value);
-        const QString name = texts.typeToStr(type);
-        if (texts.strToType(name) == type) {
-            types.append(name);
-        }
+    const QString value = ItemValue::read(kind, text);
+    return value.isEmpty() || value == text ? QString()
+                                            : Texts::tr("It is read as '%1'.").arg(value);
+}
+
+std::optional<SFault> fault(const SRow &row, const QString &text)
+{
+    const QString expected = ItemValue::expected(row.kind);
+    const auto sentences = [&](const QString &first) {
+        return (first + QLatin1Char(' ') + readAs(row.kind, text)).trimmed();
+    };
+    const QString invalid = ItemValue::invalidText(row.kind, shown(text));
+    const QString similar = meant(text, ItemValue::choices(row.kind));
+    const bool isNamed = row.undefinedText != nullptr;
+    switch (ItemValue::reading(row.kind, text)) {
+    case ItemValue::EReading::EMPTY:
+        return SFault{
+            row.missing,
+            {sentences(translated(row.missingText)), QString(), expected, translated(row.hint)}};
+    case ItemValue::EReading::UNDEFINED:
+        return SFault{row.undefined,
+                      {sentences(isNamed ? translated(row.undefinedText) : invalid), text, expected,
+                       translated(row.undefinedHint)}};
+    case ItemValue::EReading::INVALID:
+        return SFault{row.invalid,
+                      {sentences(invalid), text, expected,
+                       similar.isEmpty() ? translated(row.hint) : caseHint(similar)}};
+    case ItemValue::EReading::VALUE:
+        break;
     }
-    return types;
+    return {};
 }
 
 } // namespace
 
 namespace ValueChecks {
+
+Fault of(EValue kind, const QString &text)
+{
+    for (const SRow &row : Rows) {
+        if (row.kind == kind) {
+            const Fault found = fault(row, text);
+            return found && found->rule == NoRule ? Fault() : found;
+        }
+    }
+    return {};
+}
 
 Fault version(const QString &version, const QString &required)
 {
@@ -82,51 +158,6 @@ Fault version(const QString &version, const QString &required)
     return SFault{VERSION_OTHER, {message, version, required, hint}};
 }
 
-Fault date(const QString &text)
-{
-    if (text.isEmpty() || QDate::fromString(text, Qt::ISODate).isValid()) {
-        return {};
-    }
-    return SFault{DATE_INVALID,
-                  {Texts::tr("'%1' is no date.").arg(shown(text)), text,
-                   Texts::tr("a date like 2026-11-21"), QString()}};
-}
-
-Fault hardwareId(const QString &text)
-{
-    if (text.isEmpty() || !CDeviceHardwareId(text).isNull()) {
-        return {};
-    }
-    return SFault{HARDWARE_ID_INVALID,
-                  {Texts::tr("'%1' is no hardware identity.").arg(shown(text)), text,
-                   QStringLiteral("PREFIX:NAME:PLATFORM:VERSION:REVISION"),
-                   Texts::tr("The last three are numbers from 0 to 65535; it is read as empty.")}};
-}
-
-Fault deviceClass(const QString &text, const CDeviceConfigurationFile10 &texts)
-{
-    const QStringList classes = {texts.deviceClassToStr(NDeviceConf::DEVICE_CLASS_KC2),
-                                 texts.deviceClassToStr(NDeviceConf::DEVICE_CLASS_KD3)};
-    const QString undefined = texts.deviceClassToStr(NDeviceConf::DEVICE_CLASS_UNDEFINED);
-    if (classes.contains(text)) {
-        return {};
-    }
-    if (text.isEmpty()) {
-        return SFault{
-            DEVICE_CLASS_MISSING,
-            {Texts::tr("The device has no class."), QString(), inWords(classes), QString()}};
-    }
-    if (text == undefined) {
-        return SFault{DEVICE_CLASS_UNDEFINED,
-                      {Texts::tr("The class of the device is left open."), text, inWords(classes),
-                       QString()}};
-    }
-    return SFault{DEVICE_CLASS_UNKNOWN,
-                  {Texts::tr("There is no device class '%1'; it is read as '%2'.")
-                       .arg(shown(text), undefined),
-                   text, inWords(classes), hintFor(text, classes)}};
-}
-
 Fault configurationName(const QString &name)
 {
     const QString allowed =
@@ -153,41 +184,6 @@ Fault configurationName(const QString &name)
                    allowed, QString()}};
 }
 
-Fault opcUaFlag(const QString &text)
-{
-    const QStringList allowed = {NVornXmlTags::VALUE_TRUE, NVornXmlTags::VALUE_FALSE};
-    if (text.isEmpty() || allowed.contains(text)) {
-        return {};
-    }
-    return SFault{
-        OPC_UA_FLAG_INVALID,
-        {Texts::tr("'%1' is neither true nor false; it is read as false.").arg(shown(text)), text,
-         inWords(allowed), hintFor(text, allowed)}};
-}
-
-Fault parameterType(const QString &text, const CDeviceConfigurationFile10 &texts)
-{
-    const QStringList types = parameterTypes(texts);
-    const QString undefined = texts.typeToStr(NvrnGlobal::PARAM_FILE_UNDEFINED);
-    if (types.contains(text)) {
-        return {};
-    }
-    if (text.isEmpty()) {
-        return SFault{
-            PARAMETER_TYPE_MISSING,
-            {Texts::tr("The parameter file has no type."), QString(), inWords(types), QString()}};
-    }
-    if (text == undefined) {
-        return SFault{PARAMETER_TYPE_UNDEFINED,
-                      {Texts::tr("The type of the parameter file is left open."), text,
-                       inWords(types), QString()}};
-    }
-    return SFault{PARAMETER_TYPE_UNKNOWN,
-                  {Texts::tr("There is no type '%1' of parameter files; it is read as '%2'.")
-                       .arg(shown(text), undefined),
-                   text, inWords(types), hintFor(text, types)}};
-}
-
 Fault pluginVersion(const CPluginElement &plugin)
 {
     const QString expected = Texts::tr("numbers with dots between them, like 1.3");
@@ -205,78 +201,9 @@ Fault pluginVersion(const CPluginElement &plugin)
                    plugin.version(), expected, hint}};
 }
 
-Fault priority(const QString &text)
-{
-    bool isNumber = true;
-    text.toInt(&isNumber);
-    if (text.isEmpty() || isNumber) {
-        return {};
-    }
-    return SFault{PRIORITY_INVALID,
-                  {Texts::tr("'%1' is no priority.").arg(shown(text)), text,
-                   Texts::tr("a number from -2147483648 to 2147483647"),
-                   Texts::tr("The plug-in is read without a priority.")}};
-}
-
-Fault driveType(const QString &text)
-{
-    const QStringList types = DriveTypes::all();
-    if (types.contains(text)) {
-        return {};
-    }
-    const QString readAs = DriveTypes::read(text);
-    if (text.isEmpty()) {
-        return SFault{DRIVE_TYPE_MISSING,
-                      {Texts::tr("The drive has no type; it is read as '%1'.").arg(readAs),
-                       QString(), inWords(types), QString()}};
-    }
-    if (text == DriveTypes::unknown()) {
-        return SFault{
-            DRIVE_TYPE_UNDEFINED,
-            {Texts::tr("The type of the drive is left open; it is read as '%1'.").arg(readAs), text,
-             inWords(types), QString()}};
-    }
-    return SFault{DRIVE_TYPE_UNKNOWN,
-                  {Texts::tr("There is no type '%1' of drives; the drive is read as '%2'.")
-                       .arg(shown(text), readAs),
-                   text, inWords(types), hintFor(text, types)}};
-}
-
-Fault driveNumber(const QString &text)
-{
-    const QString expected =
-        Texts::tr("a number from 0 to %1").arg(QString::number(DriveNumbers::Highest));
-    const int number = DriveNumbers::read(text);
-    if (text.isEmpty()) {
-        return SFault{
-            DRIVE_NUMBER_MISSING,
-            {Texts::tr("The drive has no number."), QString(), expected, nextFreeNumber()}};
-    }
-    if (number >= 0 && number <= DriveNumbers::Highest) {
-        return {};
-    }
-    return SFault{DRIVE_NUMBER_INVALID,
-                  {Texts::tr("'%1' is no number of a drive.").arg(shown(text)), text, expected,
-                   number == DriveNumbers::None
-                       ? Texts::tr("This number means that no number is assigned.")
-                       : nextFreeNumber()}};
-}
-
-Fault busId(const QString &text)
-{
-    bool isNumber = false;
-    text.toUInt(&isNumber);
-    if (isNumber || text.isEmpty()) {
-        return {};
-    }
-    return SFault{BUS_ID_INVALID,
-                  {Texts::tr("'%1' is no bus identifier; it is read as 0.").arg(shown(text)), text,
-                   Texts::tr("a number from 0 to 4294967295"), QString()}};
-}
-
 QString nextFreeNumber()
 {
-    return Texts::tr("The drive is read with the next number that no other drive has.");
+    return translated(NextFreeNumber);
 }
 
 } // namespace ValueChecks
