@@ -123,7 +123,8 @@ QStringList sources(const QStringList &folders, const QStringList &names)
 /** The content of a source file without its comments and single characters; line feeds stay. */
 QString code(const QString &file)
 {
-    const QString text = QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
+    const QString text =
+        QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
     // A text is matched first, so that what looks like a comment within one stays.
     static const QRegularExpression commentOrText(
         u"R\"\\((?:.|\n)*?\\)\"|\"(?:[^\"\\\\\n]|\\\\.)*\"|'(?:[^'\\\\\n]|\\\\.)'|//[^\n]*|/\\*(?:.|\n)*?\\*/"_s);
@@ -175,6 +176,27 @@ QStringList translatedTexts(const QString &text, const QString &otherwise)
         result.append(key(context, joined(matches.next().captured(1))));
     }
     return result;
+}
+
+/**
+ * The context of the texts in a source that does not declare one: what its header declares, or the
+ * header that it takes its Texts from; @p otherwise for none of them.
+ */
+QString contextOutside(const QString &file, const QString &otherwise)
+{
+    static const QRegularExpression taken(u"\\busing (\\w+)::Texts;"_s);
+    static const QRegularExpression header(u"#include \"(\\w+/Texts\\.h)\""_s);
+    const QString source = code(file);
+    const QRegularExpressionMatch name = taken.match(source);
+    const QString declared = name.hasMatch()
+        ? u"\\bnamespace %1 \\{\\s*class Texts\\s*\\{\\s*"_s.arg(name.captured(1))
+        : QString();
+    const QRegularExpression context(declared + u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s);
+    const QString declaring = name.hasMatch()
+        ? header.match(source).captured(1)
+        : QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s);
+    const QRegularExpressionMatch match = context.match(code(declaring));
+    return match.hasMatch() ? match.captured(1) : otherwise;
 }
 
 /** The texts in @p text that look like something to read, and that no translator gets. */
@@ -318,11 +340,7 @@ void tst_translations::contexts()
             readCatalogue(QStringLiteral(VRN_SOURCE_DIR "/translations/%1_de.ts").arg(*name));
         QSet<QString> seen;
         for (const QString &file : sources(Folders.value(*name), {u"*.h"_s, u"*.cpp"_s})) {
-            // A class that declares its context in its header uses it in the source beside.
-            const QString header = QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s);
-            const QRegularExpressionMatch declared =
-                QRegularExpression(u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s).match(code(header));
-            const QString otherwise = declared.hasMatch() ? declared.captured(1) : QString(*name);
+            const QString otherwise = contextOutside(file, *name);
             for (const QString &text : translatedTexts(code(file), otherwise)) {
                 QVERIFY2(present.contains(text), qPrintable(file + u": "_s + text));
                 seen.insert(text);
