@@ -1,3 +1,4 @@
+// Long because most of it are tables of names that are accepted and refused.
 #include "devicefiles/COptionModuleFileName.h"
 #include "support/Literals.h"
 #include "support/MarkingTranslator.h"

@@ -178,6 +178,33 @@ QStringList translatedTexts(const QString &text, const QString &otherwise)
     return result;
 }
 
+/**
+ * The context of a source that does not declare it: the one that it names with "using
+ * Context::Texts", else that of its own header or of the texts that it includes.
+ */
+QString contextOutside(const QString &file, const QString &otherwise)
+{
+    static const QRegularExpression taken(u"\\busing (\\w+)::Texts;"_s);
+    static const QRegularExpression included(u"#include \"(\\S+/Texts\\.h)\""_s);
+    const QString source = code(file);
+    const QRegularExpressionMatch name = taken.match(source);
+    const QString declared = name.hasMatch()
+        ? u"\\bnamespace %1 \\{\\s*class Texts\\s*\\{\\s*"_s.arg(name.captured(1))
+        : QString();
+    const QRegularExpression context(declared + u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s);
+    QStringList headers = {included.match(source).captured(1)};
+    if (!name.hasMatch()) {
+        headers.prepend(QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s));
+    }
+    for (const QString &header : qAsConst(headers)) {
+        const QRegularExpressionMatch match = context.match(code(header));
+        if (match.hasMatch()) {
+            return match.captured(1);
+        }
+    }
+    return otherwise;
+}
+
 /** The texts in @p text that look like something to read, and that no translator gets. */
 QStringList textsOutside(const QString &text)
 {
@@ -203,26 +230,6 @@ QStringList textsOutside(const QString &text)
         }
     }
     return result;
-}
-
-/**
- * The context that a header declares for @p file: the one beside it, or a "Texts.h" for several
- * sources.
- */
-QString contextOfHeaders(const QString &file, const QString &otherwise)
-{
-    static const QRegularExpression shared(u"#include \"(\\S+/Texts\\.h)\""_s);
-    static const QRegularExpression declaration(u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s);
-    const QString source = code(file);
-    QStringList headers = {QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s)};
-    headers.append(shared.match(source).captured(1));
-    for (const QString &header : qAsConst(headers)) {
-        const QRegularExpressionMatch declared = declaration.match(code(header));
-        if (declared.hasMatch()) {
-            return declared.captured(1);
-        }
-    }
-    return otherwise;
 }
 
 } // namespace
@@ -339,7 +346,7 @@ void tst_translations::contexts()
             readCatalogue(QStringLiteral(VRN_SOURCE_DIR "/translations/%1_de.ts").arg(*name));
         QSet<QString> seen;
         for (const QString &file : sources(Folders.value(*name), {u"*.h"_s, u"*.cpp"_s})) {
-            const QString otherwise = contextOfHeaders(file, *name);
+            const QString otherwise = contextOutside(file, *name);
             for (const QString &text : translatedTexts(code(file), otherwise)) {
                 QVERIFY2(present.contains(text), qPrintable(file + u": "_s + text));
                 seen.insert(text);

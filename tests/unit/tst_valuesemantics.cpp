@@ -1,3 +1,4 @@
+// Long because one table lists the fields of every class.
 #include "devicefiles/CDeviceCommData.h"
 #include "devicefiles/COptionModuleFileName.h"
 #include "elements/CBaseElement.h"

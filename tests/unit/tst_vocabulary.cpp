@@ -1,3 +1,4 @@
+// Long because it lists every constant with its value.
 #include "configfile/CAbstractDeviceConfigurationFile.h"
 #include "support/Literals.h"
 #include "vocabulary/NDeviceConf.h"
