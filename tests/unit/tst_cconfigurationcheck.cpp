@@ -7,6 +7,7 @@
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
+#include "support/TestProgram.h"
 #include "support/Threads.h"
 
 #include <QRegularExpression>
@@ -1023,6 +1024,6 @@ void tst_CConfigurationCheck::severalThreads()
     }));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationCheck)
+REGISTER_GUILESS_TEST(tst_CConfigurationCheck)
 
 #include "tst_cconfigurationcheck.moc"

@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -90,5 +92,5 @@ void tst_Includes::ruleSeesWrongDirections()
     QVERIFY(isAllowed(QStringLiteral("elements/CDeviceBaseElement.cpp"), header));
 }
 
-QTEST_APPLESS_MAIN(tst_Includes)
+REGISTER_APPLESS_TEST(tst_Includes)
 #include "tst_includes.moc"

@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QDirIterator>
 #include <QDomDocument>
@@ -123,7 +124,8 @@ QStringList sources(const QStringList &folders, const QStringList &names)
 /** The content of a source file without its comments and single characters; line feeds stay. */
 QString code(const QString &file)
 {
-    const QString text = QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
+    const QString text =
+        QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
     // A text is matched first, so that what looks like a comment within one stays.
     static const QRegularExpression commentOrText(
         u"R\"\\((?:.|\n)*?\\)\"|\"(?:[^\"\\\\\n]|\\\\.)*\"|'(?:[^'\\\\\n]|\\\\.)'|//[^\n]*|/\\*(?:.|\n)*?\\*/"_s);
@@ -401,5 +403,5 @@ void tst_translations::textsOutsideAreSeen()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_translations)
+REGISTER_GUILESS_TEST(tst_translations)
 #include "tst_translations.moc"

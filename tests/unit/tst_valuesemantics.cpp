@@ -15,6 +15,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QTest>
@@ -881,5 +882,5 @@ void tst_valuesemantics::everyRecordIsListed()
     QCOMPARE(listed, headers);
 }
 
-QTEST_APPLESS_MAIN(tst_valuesemantics)
+REGISTER_APPLESS_TEST(tst_valuesemantics)
 #include "tst_valuesemantics.moc"
