@@ -24,14 +24,30 @@ function(vrn_compile target)
     endif()
 endfunction()
 
+# As what becomes part of a library: only what is marked is seen from outside.
+function(vrn_compile_hidden target)
+    vrn_compile(${target})
+    set_target_properties(${target} PROPERTIES
+        POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+    )
+endfunction()
+
+# With VRN_PRECOMPILE_HEADERS, the target does not read Qt's headers again.
+function(vrn_precompiled_headers target)
+    if(VRN_PRECOMPILE_HEADERS)
+        target_precompile_headers(${target} REUSE_FROM vrnQtHeaders)
+    endif()
+endfunction()
+
 # A shared library that exports only what is marked; `build_definition` is defined while compiling.
 function(vrn_library target build_definition)
-    vrn_compile(${target})
+    vrn_compile_hidden(${target})
+    vrn_precompiled_headers(${target})
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${VRN_SOVERSION}
-        CXX_VISIBILITY_PRESET hidden
-        VISIBILITY_INLINES_HIDDEN ON
         # The libraries find each other wherever they are installed together.
         INSTALL_RPATH "$ORIGIN"
     )

@@ -1,5 +1,5 @@
 # The Debian packages that cpack makes, one for each component of cmake/VrnInstall.cmake. For the
-# preset package; scripts/run-packages makes and tries them.
+# presets package and i386; scripts/run-packages makes and tries them.
 
 set(VRN_PACKAGE_MAINTAINER "Maintainers of libvrnDeviceCore <maintainers@vrndevicecore.example>"
     CACHE STRING "Who answers for the packages, as in a Debian control file")

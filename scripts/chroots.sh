@@ -7,7 +7,7 @@
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 suite=bookworm
-i386_root=${VRN_CACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/vrnDeviceCore}/i386-$suite
+i386_root=$cache_dir/i386-$suite
 
 # Mounts live in a namespace of their own: they are gone with the last process, even a killed one.
 # A container that forbids namespaces does without /proc.

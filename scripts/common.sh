@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by the other scripts: the package lists, and how to install, log and fail.
+# Sourced by the other scripts: the package lists, and how to install, build, log and fail.
 
 set -euo pipefail
 umask 022
@@ -10,13 +10,15 @@ source_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 log_dir=$source_dir/build/logs
 # shellcheck disable=SC2034 # used by the sourcing scripts
 jobs=$(nproc)
+cache_dir=${VRN_CACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/vrnDeviceCore}
 
 # One list per purpose. The tests need tzdata because they also run in foreign time zones.
 # shellcheck disable=SC2034
 {
-    build_packages=(g++ cmake ninja-build qtbase5-dev qttools5-dev-tools libexpat1-dev
+    compile_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev-tools libexpat1-dev
         libarchive-dev zlib1g-dev pkg-config python3-minimal)
-    package_packages=("${build_packages[@]}" dpkg-dev file)
+    build_packages=("${compile_packages[@]}" mold)
+    package_packages=("${compile_packages[@]}" dpkg-dev file)
     # The pages, documents and completions are tried with the programs that read them.
     test_packages=("${build_packages[@]}" git tzdata strace libxml2-utils python3-jsonschema doxygen
         mandoc fish zsh)
@@ -24,7 +26,7 @@ jobs=$(nproc)
     translation_packages=(git qttools5-dev-tools)
     format_packages=(git clang-format-14)
     sanitizer_packages=("${test_packages[@]}" clang-14 libclang-rt-14-dev)
-    tidy_packages=("${test_packages[@]}" clang-tidy-14)
+    tidy_packages=("${test_packages[@]}" clang-tidy-14 python3)
     benchmark_packages=("${build_packages[@]}" libbenchmark-dev libpugixml-dev libxml2-dev)
     chroot_packages=(debootstrap git util-linux)
     package_check_packages=("${package_packages[@]}" arch-test git lintian mmdebstrap util-linux)
@@ -78,10 +80,67 @@ ensure_packages()
     mapfile -t missing < <(missing_packages "$@")
     [ "${#missing[@]}" -gt 0 ] || return 0
     note "installing for $reason: ${missing[*]}"
+    locked packages install_missing "$@"
+}
+
+install_missing() # PACKAGE...
+{
+    local missing
+    mapfile -t missing < <(missing_packages "$@") # another step may have installed them meanwhile
+    [ "${#missing[@]}" -gt 0 ] || return 0
     # One list that cannot be fetched matters only if the installation fails for it.
     logged update as_root apt-get update || true
     logged install as_root env DEBIAN_FRONTEND=noninteractive \
         apt-get install --yes --no-install-recommends "${missing[@]}"
+}
+
+# locked NAME COMMAND...: steps that run at once do this one after the other.
+locked()
+{
+    local lock=$source_dir/build/$1.lock status=0
+    shift
+    mkdir -p "${lock%/*}"
+    {
+        flock 8
+        "$@" 8>&- || status=$?
+    } 8>>"$lock"
+    return "$status"
+}
+
+# Compilers' results are kept from build to build and shared by all build trees, and mold links, where
+# there are ccache and mold. CMake reads these variables when it configures a tree for the first time;
+# a preset with flags of its own for the linker, as release, is linked by Debian's own one.
+use_fast_tools()
+{
+    if command -v ccache >/dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-ccache}
+        export CCACHE_DIR=${CCACHE_DIR:-$cache_dir/ccache}
+        # The same sources in another directory are the same. The precompiled headers of the tests need
+        # the sloppiness. What a file includes is taken from the compiler: nothing is preprocessed twice.
+        export CCACHE_BASEDIR=$source_dir CCACHE_NOHASHDIR=1 CCACHE_DEPEND=1
+        export CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_MAXSIZE=${CCACHE_MAXSIZE:-3G}
+        mkdir -p "$CCACHE_DIR"
+    fi
+    if command -v mold >/dev/null; then
+        export LDFLAGS=${LDFLAGS--fuse-ld=mold}
+    fi
+}
+
+# build_targets PRESET "TARGET..." [ARGUMENT OF CMAKE]...: configures and builds; all without targets.
+build_targets()
+{
+    local preset=$1 targets
+    read -ra targets <<<"$2"
+    use_fast_tools
+    locked "$preset" configure_and_build "$preset" "${targets[*]:+--target ${targets[*]}}" "${@:3}"
+}
+
+configure_and_build() # PRESET OPTIONS [ARGUMENT OF CMAKE]...
+{
+    local options
+    read -ra options <<<"$2"
+    cmake --preset "$1" "${@:3}" \
+        && cmake --build "$source_dir/build/$1" --parallel "$jobs" "${options[@]}"
 }
 
 # logged NAME COMMAND...: keeps the output in build/logs/NAME.log and shows it only on failure.

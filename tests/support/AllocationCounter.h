@@ -24,8 +24,8 @@
  * A block counts with the bytes that can be used of it; one that is resized counts as one that is
  * taken, and with its old and its new size only one after the other.
  *
- * This header replaces malloc() and its kin: include it from the one source file of a test. A
- * sanitizer brings its own heap; nothing is counted there.
+ * This header replaces malloc() and its kin in the whole program, of which several source files may
+ * include it. A sanitizer brings its own heap; nothing is counted there.
  */
 class AllocationCounter
 {
@@ -104,6 +104,9 @@ private:
 
 #ifndef VRN_FOREIGN_ALLOCATOR
 
+/** Weak, for of several source files that include this header one has to define the functions. */
+#define VRN_REPLACEMENT Q_DECL_EXPORT __attribute__((weak))
+
 extern "C" {
 
 void *__libc_malloc(std::size_t size) noexcept;
@@ -112,17 +115,17 @@ void *__libc_realloc(void *block, std::size_t size) noexcept;
 void *__libc_memalign(std::size_t alignment, std::size_t size) noexcept;
 void __libc_free(void *block) noexcept;
 
-Q_DECL_EXPORT void *malloc(std::size_t size) noexcept
+VRN_REPLACEMENT void *malloc(std::size_t size) noexcept
 {
     return AllocationCounter::taken(__libc_malloc(size));
 }
 
-Q_DECL_EXPORT void *calloc(std::size_t count, std::size_t size) noexcept
+VRN_REPLACEMENT void *calloc(std::size_t count, std::size_t size) noexcept
 {
     return AllocationCounter::taken(__libc_calloc(count, size));
 }
 
-Q_DECL_EXPORT void *realloc(void *block, std::size_t size) noexcept
+VRN_REPLACEMENT void *realloc(void *block, std::size_t size) noexcept
 {
     const std::ptrdiff_t oldSize = AllocationCounter::size(block);
     void *const result = __libc_realloc(block, size);
@@ -133,17 +136,17 @@ Q_DECL_EXPORT void *realloc(void *block, std::size_t size) noexcept
     return result;
 }
 
-Q_DECL_EXPORT void *memalign(std::size_t alignment, std::size_t size) noexcept
+VRN_REPLACEMENT void *memalign(std::size_t alignment, std::size_t size) noexcept
 {
     return AllocationCounter::taken(__libc_memalign(alignment, size));
 }
 
-Q_DECL_EXPORT void *aligned_alloc(std::size_t alignment, std::size_t size) noexcept
+VRN_REPLACEMENT void *aligned_alloc(std::size_t alignment, std::size_t size) noexcept
 {
     return memalign(alignment, size);
 }
 
-Q_DECL_EXPORT int posix_memalign(void **block, std::size_t alignment, std::size_t size) noexcept
+VRN_REPLACEMENT int posix_memalign(void **block, std::size_t alignment, std::size_t size) noexcept
 {
     void *const result = memalign(alignment, size);
     if (result == nullptr) {
@@ -153,7 +156,7 @@ Q_DECL_EXPORT int posix_memalign(void **block, std::size_t alignment, std::size_
     return 0;
 }
 
-Q_DECL_EXPORT void free(void *block) noexcept
+VRN_REPLACEMENT void free(void *block) noexcept
 {
     // A caller may look at errno behind this.
     const int error = errno;
@@ -163,5 +166,7 @@ Q_DECL_EXPORT void free(void *block) noexcept
 }
 
 } // extern "C"
+
+#undef VRN_REPLACEMENT
 
 #endif

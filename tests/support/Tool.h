@@ -20,6 +20,12 @@ struct SResult {
     QJsonObject json() const { return QJsonDocument::fromJson(output.toUtf8()).object(); }
 };
 
+/** The tool; VRN_TOOL in the environment names another build of it. */
+inline QString program()
+{
+    return qEnvironmentVariable("VRN_TOOL", QStringLiteral(VRN_TOOL));
+}
+
 /** The environment of the test, in which the tool speaks English whatever the locale is. */
 inline QProcessEnvironment englishEnvironment()
 {
@@ -34,7 +40,7 @@ inline SResult run(const QString &directory, const QStringList &arguments,
     QProcess process;
     process.setWorkingDirectory(directory);
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(VRN_TOOL), arguments);
+    process.start(program(), arguments);
     SResult result;
     if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
         result.exitCode = process.exitCode();

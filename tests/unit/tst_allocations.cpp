@@ -5,6 +5,7 @@
 #include "support/LargeConfiguration.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NDeviceConf.h"
 
 #include <QDomDocument>
@@ -309,5 +310,5 @@ void tst_allocations::expressionsAreNotCompiledWhileLoading()
     QVERIFY2(first > 5 * again, qPrintable(u"%1, then %2"_s.arg(first).arg(again)));
 }
 
-QTEST_GUILESS_MAIN(tst_allocations)
+REGISTER_GUILESS_TEST(tst_allocations)
 #include "tst_allocations.moc"

@@ -4,6 +4,7 @@
 #include "elements/CSubDeviceKD3Element.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -500,5 +501,5 @@ void tst_cbaseelement::readingDetaches()
     QCOMPARE(original.name(), u"original"_s);
 }
 
-QTEST_APPLESS_MAIN(tst_cbaseelement)
+REGISTER_APPLESS_TEST(tst_cbaseelement)
 #include "tst_cbaseelement.moc"

@@ -8,6 +8,7 @@
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
+#include "support/TestProgram.h"
 #include "support/Threads.h"
 
 #include <QRegularExpression>
@@ -1020,6 +1021,6 @@ void tst_CConfigurationCheck::severalThreads()
     }));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationCheck)
+REGISTER_GUILESS_TEST(tst_CConfigurationCheck)
 
 #include "tst_cconfigurationcheck.moc"

@@ -3,6 +3,7 @@
 #include "support/LargeConfiguration.h"
 #include "support/MessageCatcher.h"
 #include "support/RandomConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -401,5 +402,5 @@ void tst_CConfigurationComparison::manyFiles()
              QStringList{u"file %1: comment 17 -> changed"_s.arg(which)});
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationComparison)
+REGISTER_GUILESS_TEST(tst_CConfigurationComparison)
 #include "tst_cconfigurationcomparison.moc"

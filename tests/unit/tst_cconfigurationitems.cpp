@@ -1,4 +1,5 @@
 #include "commissioning/CConfigurationItems.h"
+#include "support/TestProgram.h"
 
 #include "support/Files.h"
 #include "support/LargeConfiguration.h"
@@ -1419,5 +1420,5 @@ void tst_CConfigurationItems::manyEntries()
     QVERIFY(items.contains(u"device.options[-o49999]"_s));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationItems)
+REGISTER_GUILESS_TEST(tst_CConfigurationItems)
 #include "tst_cconfigurationitems.moc"

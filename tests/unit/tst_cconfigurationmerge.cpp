@@ -2,6 +2,7 @@
 #include "commissioning/CConfigurationMerge.h"
 #include "support/ComparedDocuments.h"
 #include "support/RandomConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -487,5 +488,5 @@ void tst_CConfigurationMerge::cleanMergesAreSymmetrical()
     QVERIFY(clean > 25);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationMerge)
+REGISTER_GUILESS_TEST(tst_CConfigurationMerge)
 #include "tst_cconfigurationmerge.moc"

@@ -3,6 +3,7 @@
 #include "support/LargeConfiguration.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -264,5 +265,5 @@ void tst_CConfigurationOverview::withoutDevice()
     QCOMPARE(overview.fileCount(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationOverview)
+REGISTER_GUILESS_TEST(tst_CConfigurationOverview)
 #include "tst_cconfigurationoverview.moc"

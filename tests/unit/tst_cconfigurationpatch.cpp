@@ -3,6 +3,7 @@
 #include "support/ComparedDocuments.h"
 #include "support/MessageCatcher.h"
 #include "support/RandomConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -621,5 +622,5 @@ void tst_CConfigurationPatch::positionsAndHandlesStay()
     QVERIFY(device.firstChildElement(u"ConfigurationName"_s).isNull());
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationPatch)
+REGISTER_GUILESS_TEST(tst_CConfigurationPatch)
 #include "tst_cconfigurationpatch.moc"

@@ -5,6 +5,7 @@
 #include "support/MarkingTranslator.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QDomDocument>
@@ -998,5 +999,5 @@ void tst_CConfigurationReport::manyFiles()
     QVERIFY(html.size() < 2000 * count);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationReport)
+REGISTER_GUILESS_TEST(tst_CConfigurationReport)
 #include "tst_cconfigurationreport.moc"

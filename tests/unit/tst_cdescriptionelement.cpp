@@ -1,6 +1,7 @@
 #include "elements/CDescriptionElement.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -228,5 +229,5 @@ void tst_cdescriptionelement::streamForm()
     QCOMPARE(StreamBytes::toBytes(read).toHex(' '), bytes.toHex(' '));
 }
 
-QTEST_APPLESS_MAIN(tst_cdescriptionelement)
+REGISTER_APPLESS_TEST(tst_cdescriptionelement)
 #include "tst_cdescriptionelement.moc"

@@ -1,6 +1,7 @@
 #include "devicefiles/CDeviceCommData.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -496,5 +497,5 @@ void tst_cdevicecommdata::randomStream()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_cdevicecommdata)
+REGISTER_APPLESS_TEST(tst_cdevicecommdata)
 #include "tst_cdevicecommdata.moc"

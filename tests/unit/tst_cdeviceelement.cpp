@@ -3,6 +3,7 @@
 #include "elements/CDeviceElement.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -1779,5 +1780,5 @@ void tst_cdeviceelement::brokenCount()
     QVERIFY(read == deviceWithFiles());
 }
 
-QTEST_APPLESS_MAIN(tst_cdeviceelement)
+REGISTER_APPLESS_TEST(tst_cdeviceelement)
 #include "tst_cdeviceelement.moc"

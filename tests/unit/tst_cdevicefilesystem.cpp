@@ -3,6 +3,7 @@
 #include "imported/CFTPath.h"
 #include "imported/CPath.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -457,5 +458,5 @@ void tst_cdevicefilesystem::entryPointsLieInTheTrees()
     QCOMPARE(CFTPath::fromPath(Fs::smConfPath()), CFTPath::ENTRY_POINT_SM);
 }
 
-QTEST_APPLESS_MAIN(tst_cdevicefilesystem)
+REGISTER_APPLESS_TEST(tst_cdevicefilesystem)
 #include "tst_cdevicefilesystem.moc"

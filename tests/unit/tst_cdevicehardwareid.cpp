@@ -1,4 +1,5 @@
 #include "imported/CDeviceHardwareId.h"
+#include "support/TestProgram.h"
 
 #include <QDomDocument>
 #include <QRandomGenerator>
@@ -343,5 +344,5 @@ void tst_CDeviceHardwareId::streamForm()
                         "0506"));
 }
 
-QTEST_GUILESS_MAIN(tst_CDeviceHardwareId)
+REGISTER_GUILESS_TEST(tst_CDeviceHardwareId)
 #include "tst_cdevicehardwareid.moc"

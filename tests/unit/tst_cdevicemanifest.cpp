@@ -2,6 +2,7 @@
 #include "support/AllocationCounter.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -357,5 +358,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CDeviceManifest)
+REGISTER_GUILESS_TEST(tst_CDeviceManifest)
 #include "tst_cdevicemanifest.moc"

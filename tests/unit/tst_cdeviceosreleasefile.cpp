@@ -5,6 +5,7 @@
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
 #include "support/RecordingLog.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -688,5 +689,5 @@ void tst_cdeviceosreleasefile::saveOnFullDisk()
     QVERIFY(log.entries().isEmpty());
 }
 
-QTEST_APPLESS_MAIN(tst_cdeviceosreleasefile)
+REGISTER_APPLESS_TEST(tst_cdeviceosreleasefile)
 #include "tst_cdeviceosreleasefile.moc"

@@ -2,6 +2,7 @@
 #include "support/Literals.h"
 #include "support/SampleSettings.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -355,5 +356,5 @@ void tst_cdevicesettings::cutOffStream()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_cdevicesettings)
+REGISTER_APPLESS_TEST(tst_cdevicesettings)
 #include "tst_cdevicesettings.moc"

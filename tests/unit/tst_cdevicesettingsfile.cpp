@@ -6,6 +6,7 @@
 #include "support/OrdinaryUser.h"
 #include "support/RecordingLog.h"
 #include "support/SampleSettings.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -748,5 +749,5 @@ void tst_cdevicesettingsfile::withoutLog()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_cdevicesettingsfile)
+REGISTER_GUILESS_TEST(tst_cdevicesettingsfile)
 #include "tst_cdevicesettingsfile.moc"

@@ -5,6 +5,7 @@
 #include "support/MessageCatcher.h"
 #include "support/RecordingLog.h"
 #include "support/SampleSettings.h"
+#include "support/TestProgram.h"
 
 #include <QDomDocument>
 #include <QTemporaryDir>
@@ -742,5 +743,5 @@ void tst_cdevicesettingsfilev10::saveFails()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_cdevicesettingsfilev10)
+REGISTER_GUILESS_TEST(tst_cdevicesettingsfilev10)
 #include "tst_cdevicesettingsfilev10.moc"

@@ -1,6 +1,7 @@
 #include "devicefiles/CDeviceSystemMessage.h"
 #include "support/Literals.h"
 #include "support/MarkingTranslator.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -436,5 +437,5 @@ void tst_cdevicesystemmessage::object()
     QCOMPARE(object.message(1089), u"Signal 2: SIGINT"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_cdevicesystemmessage)
+REGISTER_GUILESS_TEST(tst_cdevicesystemmessage)
 #include "tst_cdevicesystemmessage.moc"

@@ -1,4 +1,5 @@
 #include "imported/CDomDoc.h"
+#include "support/TestProgram.h"
 
 #include <QDomDocument>
 #include <QtTest>
@@ -214,5 +215,5 @@ void tst_CDomDoc::setTextKeepsSections()
     QCOMPARE(written(document), xml);
 }
 
-QTEST_GUILESS_MAIN(tst_CDomDoc)
+REGISTER_GUILESS_TEST(tst_CDomDoc)
 #include "tst_cdomdoc.moc"

@@ -2,6 +2,7 @@
 #include "imported/CPath.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -322,5 +323,5 @@ void tst_cfileelement::readingDoesNotNormalise()
     QCOMPARE(StreamBytes::toBytes(element).toHex(' '), bytes.toHex(' '));
 }
 
-QTEST_APPLESS_MAIN(tst_cfileelement)
+REGISTER_APPLESS_TEST(tst_cfileelement)
 #include "tst_cfileelement.moc"

@@ -1,5 +1,6 @@
 #include "devicefiles/CHashMap.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QPair>
 #include <QStringList>
@@ -197,5 +198,5 @@ void tst_chashmap::manyKeys()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_chashmap)
+REGISTER_APPLESS_TEST(tst_chashmap)
 #include "tst_chashmap.moc"

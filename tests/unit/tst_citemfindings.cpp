@@ -1,5 +1,6 @@
 #include "commissioning/CItemFindings.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -115,5 +116,5 @@ void tst_CItemFindings::absentPositions()
     QVERIFY(findings.at(u"a"_s).isEmpty());
 }
 
-QTEST_APPLESS_MAIN(tst_CItemFindings)
+REGISTER_APPLESS_TEST(tst_CItemFindings)
 #include "tst_citemfindings.moc"

@@ -1,6 +1,7 @@
 #include "imported/CMessageBoardHelper.h"
 #include "support/MessageCatcher.h"
 #include "support/RecordingLog.h"
+#include "support/TestProgram.h"
 
 #include <QProcess>
 #include <QThread>
@@ -73,9 +74,9 @@ ChildResult runChild(const QString &mode, const QString &text)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     child.setProcessEnvironment(environment);
-    child.start(
-        QCoreApplication::applicationFilePath(),
-        {QString::fromLatin1(ChildArgument), mode, QString::fromLatin1(text.toUtf8().toHex())});
+    child.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("tst_cmessageboardhelper"), QString::fromLatin1(ChildArgument),
+                 mode, QString::fromLatin1(text.toUtf8().toHex())});
     ChildResult result;
     result.ok = child.waitForFinished() && child.exitStatus() == QProcess::NormalExit
         && child.exitCode() == 0;
@@ -320,7 +321,9 @@ void tst_CMessageBoardHelper::installingWhilePosting()
     QCOMPARE(first + second, ThreadCount * MessagesPerThread);
 }
 
-int main(int argc, char *argv[])
+namespace {
+
+int run(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     if (argc > 1 && std::strcmp(argv[1], ChildArgument) == 0) {
@@ -330,5 +333,9 @@ int main(int argc, char *argv[])
     tst_CMessageBoardHelper test;
     return QTest::qExec(&test, argc, argv);
 }
+
+} // namespace
+
+REGISTER_TEST_FUNCTION(run)
 
 #include "tst_cmessageboardhelper.moc"

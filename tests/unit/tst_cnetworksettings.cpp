@@ -1,6 +1,7 @@
 #include "settings/CNetworkSettings.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -526,5 +527,5 @@ void tst_cnetworksettings::streamThatEndsEarly()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_cnetworksettings)
+REGISTER_APPLESS_TEST(tst_cnetworksettings)
 #include "tst_cnetworksettings.moc"

@@ -3,6 +3,7 @@
 #include "support/Garbage.h"
 #include "support/Literals.h"
 #include "support/MarkingTranslator.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -598,5 +599,5 @@ void tst_cnetworksettingscheck::garbage()
     QCOMPARE(bad, 0);
 }
 
-QTEST_GUILESS_MAIN(tst_cnetworksettingscheck)
+REGISTER_GUILESS_TEST(tst_cnetworksettingscheck)
 #include "tst_cnetworksettingscheck.moc"

@@ -4,6 +4,7 @@
 #include "support/Garbage.h"
 #include "support/Literals.h"
 #include "support/OrdinaryUser.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -989,5 +990,5 @@ void tst_cnetworksettingsfile::roundTrip()
     QVERIFY(CNetworkSettingsFile(path()).networkSettings() == settings);
 }
 
-QTEST_GUILESS_MAIN(tst_cnetworksettingsfile)
+REGISTER_GUILESS_TEST(tst_cnetworksettingsfile)
 #include "tst_cnetworksettingsfile.moc"

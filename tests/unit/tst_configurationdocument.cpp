@@ -2,6 +2,7 @@
 #include "support/Files.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -1203,5 +1204,5 @@ void tst_ConfigurationDocument::wholeDeviceKeepsUnknownOutside()
     QCOMPARE(parts, (QStringList{u"x-before"_s, u"x-behind"_s, u"x-description"_s, u"x-root"_s}));
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationDocument)
+REGISTER_GUILESS_TEST(tst_ConfigurationDocument)
 #include "tst_configurationdocument.moc"

@@ -4,6 +4,7 @@
 #include "support/MessageCatcher.h"
 #include "support/RecordingLog.h"
 #include "support/SampleConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -1121,5 +1122,5 @@ void tst_ConfigurationFile10::opcUa()
     QVERIFY(file.options().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationFile10)
+REGISTER_GUILESS_TEST(tst_ConfigurationFile10)
 #include "tst_configurationfile10.moc"

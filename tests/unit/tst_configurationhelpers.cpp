@@ -1,6 +1,7 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QtTest>
@@ -885,5 +886,5 @@ void tst_ConfigurationHelpers::buildersIntoNull()
     QCOMPARE(file.bytes(), before);
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationHelpers)
+REGISTER_GUILESS_TEST(tst_ConfigurationHelpers)
 #include "tst_configurationhelpers.moc"

@@ -3,6 +3,7 @@
 #include "support/Literals.h"
 #include "support/MarkingTranslator.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -1011,5 +1012,5 @@ void tst_coptionmodulefilename::longNames()
     QCOMPARE(name.softwareVersion(), u"V1_3"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_coptionmodulefilename)
+REGISTER_GUILESS_TEST(tst_coptionmodulefilename)
 #include "tst_coptionmodulefilename.moc"

@@ -1,6 +1,7 @@
 #include "elements/CParamFileElement.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -365,5 +366,5 @@ void tst_cparamfileelement::hasNoVirtualOperations()
     QCOMPARE(sizeof(CParamFileElement), sizeof(void *));
 }
 
-QTEST_APPLESS_MAIN(tst_cparamfileelement)
+REGISTER_APPLESS_TEST(tst_cparamfileelement)
 #include "tst_cparamfileelement.moc"

@@ -1,5 +1,6 @@
 #include "imported/CFTPath.h"
 #include "imported/CPath.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -191,5 +192,5 @@ void tst_CPath::fromPath()
     QTEST(CFTPath::fromPath(path), "entryPoint");
 }
 
-QTEST_GUILESS_MAIN(tst_CPath)
+REGISTER_GUILESS_TEST(tst_CPath)
 #include "tst_cpath.moc"

@@ -1,6 +1,7 @@
 #include "elements/CPluginElement.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -177,5 +178,5 @@ void tst_cpluginelement::streamForm()
     QCOMPARE(StreamBytes::toBytes(read).toHex(' '), bytes.toHex(' '));
 }
 
-QTEST_APPLESS_MAIN(tst_cpluginelement)
+REGISTER_APPLESS_TEST(tst_cpluginelement)
 #include "tst_cpluginelement.moc"

@@ -4,6 +4,7 @@
 #include "support/FullDisk.h"
 #include "support/Literals.h"
 #include "support/OrdinaryUser.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NvrnGlobal.h"
 
 #include <QDirIterator>
@@ -1108,5 +1109,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CStagedTree)
+REGISTER_GUILESS_TEST(tst_CStagedTree)
 #include "tst_cstagedtree.moc"

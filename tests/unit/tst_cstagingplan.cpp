@@ -7,6 +7,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/OrdinaryUser.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -610,5 +611,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CStagingPlan)
+REGISTER_GUILESS_TEST(tst_CStagingPlan)
 #include "tst_cstagingplan.moc"

@@ -1,4 +1,5 @@
 #include "imported/CStr.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -126,5 +127,5 @@ void tst_CStr::withoutOk()
     QCOMPARE(CStr::stringToRevision(QStringLiteral("2.3x")), 0u);
 }
 
-QTEST_GUILESS_MAIN(tst_CStr)
+REGISTER_GUILESS_TEST(tst_CStr)
 #include "tst_cstr.moc"

@@ -1,6 +1,7 @@
 #include "elements/CSubDeviceElement.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -394,5 +395,5 @@ void tst_csubdeviceelement::isNoElement()
     QCOMPARE(sizeof(CSubDeviceElement), 2 * sizeof(void *));
 }
 
-QTEST_APPLESS_MAIN(tst_csubdeviceelement)
+REGISTER_APPLESS_TEST(tst_csubdeviceelement)
 #include "tst_csubdeviceelement.moc"

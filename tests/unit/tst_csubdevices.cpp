@@ -5,6 +5,7 @@
 #include "elements/CSubDeviceKD3ElementEdit.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -483,5 +484,5 @@ void tst_csubdevices::editing()
     QVERIFY(edit.kd2FirmwareFile().isNull());
 }
 
-QTEST_APPLESS_MAIN(tst_csubdevices)
+REGISTER_APPLESS_TEST(tst_csubdevices)
 #include "tst_csubdevices.moc"

@@ -4,6 +4,7 @@
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
 #include "support/RecordingLog.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -1474,5 +1475,5 @@ void tst_CXmlAbstractVornFile::gettersCreateNothing()
     QCOMPARE(file.bytes(), before);
 }
 
-QTEST_GUILESS_MAIN(tst_CXmlAbstractVornFile)
+REGISTER_GUILESS_TEST(tst_CXmlAbstractVornFile)
 #include "tst_cxmlabstractvornfile.moc"

@@ -1,4 +1,5 @@
 #include "imported/CXMLMetaData.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -98,5 +99,5 @@ void tst_CXMLMetaData::copy()
     QCOMPARE(data.author(), Author);
 }
 
-QTEST_GUILESS_MAIN(tst_CXMLMetaData)
+REGISTER_GUILESS_TEST(tst_CXMLMetaData)
 #include "tst_cxmlmetadata.moc"

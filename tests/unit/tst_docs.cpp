@@ -2,6 +2,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -301,5 +302,5 @@ void tst_Docs::rulesSeeWhatIsWrong()
     QCOMPARE(anchor(u"How it's `read`, once"_s), u"how-its-read-once"_s);
 }
 
-QTEST_APPLESS_MAIN(tst_Docs)
+REGISTER_APPLESS_TEST(tst_Docs)
 #include "tst_docs.moc"

@@ -1,5 +1,6 @@
 #include "fuzz/Targets.h"
 #include "support/Files.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -107,5 +108,5 @@ void tst_fuzzcorpus::beginningOfFile()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_fuzzcorpus)
+REGISTER_GUILESS_TEST(tst_fuzzcorpus)
 #include "tst_fuzzcorpus.moc"

@@ -10,6 +10,7 @@
 #include "support/MessageCatcher.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -1338,5 +1339,5 @@ void tst_hostileinput::hostileSmallFiles()
     qDebug("%d bytes: %lld and %lld bytes of heap", bytes.size(), networkPeak, releasePeak);
 }
 
-QTEST_GUILESS_MAIN(tst_hostileinput)
+REGISTER_GUILESS_TEST(tst_hostileinput)
 #include "tst_hostileinput.moc"

@@ -8,6 +8,7 @@
 #include "support/SampleConfiguration.h"
 #include "support/ScriptedDevice.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -473,7 +474,8 @@ void tst_hostilestreams::everyClassIsListed()
     const QRegularExpression reading(
         u"QDataStream &operator>>\\(QDataStream &stream,\\s*(\\w+) &\\w+\\);"_s);
     for (const char *folder : {"elements", "settings", "devicefiles", "imported", "configfile"}) {
-        const QDir directory(QStringLiteral(VRN_SOURCE_DIR "/src/%1").arg(QString::fromLatin1(folder)));
+        const QDir directory(
+            QStringLiteral(VRN_SOURCE_DIR "/src/%1").arg(QString::fromLatin1(folder)));
         for (const QFileInfo &header : directory.entryInfoList({u"*.h"_s}, QDir::Files)) {
             const QString text = QString::fromUtf8(Files::read(header.filePath()));
             QRegularExpressionMatchIterator matches = reading.globalMatch(text);
@@ -489,5 +491,5 @@ void tst_hostilestreams::everyClassIsListed()
     QCOMPARE(listed, declared);
 }
 
-QTEST_APPLESS_MAIN(tst_hostilestreams)
+REGISTER_APPLESS_TEST(tst_hostilestreams)
 #include "tst_hostilestreams.moc"

@@ -1,5 +1,6 @@
 #include "imported/ICLogfile.h"
 #include "support/Files.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NvrnGlobal.h"
 
 #include <QTemporaryDir>
@@ -264,5 +265,5 @@ void tst_ICLogfile::linesDoNotMix()
     QCOMPARE(entries, expected);
 }
 
-QTEST_GUILESS_MAIN(tst_ICLogfile)
+REGISTER_GUILESS_TEST(tst_ICLogfile)
 #include "tst_iclogfile.moc"

@@ -1,4 +1,5 @@
 #include "imported/ICXmlSettings.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QDomDocument>
@@ -392,5 +393,5 @@ void tst_ICXmlSettings::gettersChangeNothing()
     QCOMPARE(fixture.written(), before);
 }
 
-QTEST_GUILESS_MAIN(tst_ICXmlSettings)
+REGISTER_GUILESS_TEST(tst_ICXmlSettings)
 #include "tst_icxmlsettings.moc"

@@ -1,3 +1,5 @@
+#include "support/TestProgram.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -233,5 +235,5 @@ void tst_Includes::ruleSeesPrivateHeaders()
                       QStringLiteral("elements/ElementPaths.h")));
 }
 
-QTEST_APPLESS_MAIN(tst_Includes)
+REGISTER_APPLESS_TEST(tst_Includes)
 #include "tst_includes.moc"

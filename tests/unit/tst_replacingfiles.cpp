@@ -6,6 +6,7 @@
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -985,5 +986,5 @@ void tst_replacingfiles::manyThreads()
     QCOMPARE(entries(), QStringList{u"file"_s});
 }
 
-QTEST_APPLESS_MAIN(tst_replacingfiles)
+REGISTER_APPLESS_TEST(tst_replacingfiles)
 #include "tst_replacingfiles.moc"

@@ -1,6 +1,7 @@
 #include "configfile/ICDeviceConfigurationFile.h"
 #include "support/Files.h"
 #include "support/SampleConfiguration.h"
+#include "support/TestProgram.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -172,7 +173,8 @@ void tst_RoundTrip::freshProcess()
     }
     child.setProcessEnvironment(environment);
     child.start(QCoreApplication::applicationFilePath(),
-                {QString::fromLatin1(ChildArgument), path(u"a.3deco"_s), path(u"copy.3deco"_s)});
+                {u"tst_roundtrip"_s, QString::fromLatin1(ChildArgument), path(u"a.3deco"_s),
+                 path(u"copy.3deco"_s)});
     QVERIFY(child.waitForFinished());
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     QCOMPARE(child.exitCode(), 0);
@@ -230,7 +232,9 @@ void tst_RoundTrip::writingWhatWasRead()
     QCOMPARE(Files::read(path(u"2"_s)), Files::read(path(u"1"_s)));
 }
 
-int main(int argc, char *argv[])
+namespace {
+
+int run(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     if (argc > 3 && std::strcmp(argv[1], ChildArgument) == 0) {
@@ -240,5 +244,9 @@ int main(int argc, char *argv[])
     tst_RoundTrip test;
     return QTest::qExec(&test, argc, argv);
 }
+
+} // namespace
+
+REGISTER_TEST_FUNCTION(run)
 
 #include "tst_roundtrip.moc"

@@ -5,6 +5,7 @@
 #include "support/Literals.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
+#include "support/TestProgram.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -592,5 +593,5 @@ void tst_Schemas::settings()
     checkChange(testData(u"settings/valid/full.3conf"_s), SettingsSchema);
 }
 
-QTEST_GUILESS_MAIN(tst_Schemas)
+REGISTER_GUILESS_TEST(tst_Schemas)
 #include "tst_schemas.moc"

@@ -2,6 +2,7 @@
 #include "configfile/ShapePaths.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QDomDocument>
 #include <QJsonArray>
@@ -424,5 +425,5 @@ void tst_Shape::rules()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_Shape)
+REGISTER_GUILESS_TEST(tst_Shape)
 #include "tst_shape.moc"

@@ -5,6 +5,7 @@
 #include "support/RandomText.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -550,5 +551,5 @@ void tst_texts::everyElementIsListed()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_texts)
+REGISTER_GUILESS_TEST(tst_texts)
 #include "tst_texts.moc"

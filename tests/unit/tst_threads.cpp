@@ -14,6 +14,7 @@
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 #include "support/Threads.h"
 #include "vocabulary/NDeviceConf.h"
 
@@ -351,5 +352,5 @@ void tst_threads::oneLog()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_threads)
+REGISTER_GUILESS_TEST(tst_threads)
 #include "tst_threads.moc"

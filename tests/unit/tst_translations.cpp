@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QDirIterator>
 #include <QDomDocument>
@@ -425,5 +426,5 @@ void tst_translations::textsOutsideAreSeen()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_translations)
+REGISTER_GUILESS_TEST(tst_translations)
 #include "tst_translations.moc"

@@ -16,6 +16,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/StreamBytes.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QTest>
@@ -882,5 +883,5 @@ void tst_valuesemantics::everyRecordIsListed()
     QCOMPARE(listed, headers);
 }
 
-QTEST_APPLESS_MAIN(tst_valuesemantics)
+REGISTER_APPLESS_TEST(tst_valuesemantics)
 #include "tst_valuesemantics.moc"

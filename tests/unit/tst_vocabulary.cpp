@@ -1,6 +1,7 @@
 // Long because it lists every constant with its value.
 #include "configfile/CAbstractDeviceConfigurationFile.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NDeviceConf.h"
 #include "vocabulary/NVornXmlTags.h"
 #include "vocabulary/NvrFileNames.h"
@@ -1226,5 +1227,5 @@ void tst_vocabulary::constantsExistOnce()
              static_cast<const void *>(&NDeviceConf::NAME_CHECK_REGEXP));
 }
 
-QTEST_APPLESS_MAIN(tst_vocabulary)
+REGISTER_APPLESS_TEST(tst_vocabulary)
 #include "tst_vocabulary.moc"

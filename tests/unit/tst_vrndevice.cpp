@@ -1,5 +1,6 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 #include "support/Files.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QJsonArray>
@@ -383,5 +384,5 @@ void tst_VrnDevice::exampleIsComplete()
     QCOMPARE(saved, Files::read(project.filePath(FileName)));
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDevice)
+REGISTER_GUILESS_TEST(tst_VrnDevice)
 #include "tst_vrndevice.moc"

@@ -3,6 +3,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/PseudoTerminal.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QJsonArray>
@@ -32,7 +33,7 @@ SResult check(const QStringList &arguments)
 SResult checkInput(const QByteArray &input, const QStringList &arguments)
 {
     QProcess process;
-    process.start(QStringLiteral(VRN_TOOL), QStringList(u"check"_s) + arguments);
+    process.start(Tool::program(), QStringList(u"check"_s) + arguments);
     process.write(input);
     process.closeWriteChannel();
     SResult result;
@@ -56,7 +57,7 @@ QByteArray onTerminal(const QStringList &arguments, const QMap<QString, QString>
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setStandardOutputFile(terminal.name());
-    process.start(QStringLiteral(VRN_TOOL), QStringList(u"check"_s) + arguments);
+    process.start(Tool::program(), QStringList(u"check"_s) + arguments);
     process.waitForFinished();
     return terminal.read();
 }
@@ -386,6 +387,6 @@ void tst_VrnDeviceCheck::rules()
     QCOMPARE(Tool::run(QDir::tempPath(), {u"rules"_s, u"x"_s}).exitCode, 2);
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceCheck)
+REGISTER_GUILESS_TEST(tst_VrnDeviceCheck)
 
 #include "tst_vrndevice_check.moc"

@@ -1,6 +1,7 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 #include "support/ComparedDocuments.h"
 #include "support/MessageCatcher.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QJsonArray>
@@ -99,7 +100,7 @@ private:
     }
     SResult run(const QStringList &arguments, const QByteArray &input = QByteArray()) const
     {
-        return runProgram(m_directory->path(), QStringLiteral(VRN_TOOL), arguments, input);
+        return runProgram(m_directory->path(), Tool::program(), arguments, input);
     }
     SResult git(const QStringList &arguments) const
     {
@@ -448,7 +449,7 @@ bool tst_VrnDeviceCompare::commit(const QList<QByteArray> &replacements) const
 /** A repository that is set up as docs/merging.md tells, with the example in it. */
 bool tst_VrnDeviceCompare::startRepository() const
 {
-    const QString tool = u"'%1'"_s.arg(QStringLiteral(VRN_TOOL));
+    const QString tool = u"'%1'"_s.arg(Tool::program());
     const QList<QStringList> settings = {
         {u"user.name"_s, u"A. Engineer"_s},
         {u"user.email"_s, u"engineer@example.com"_s},
@@ -545,5 +546,5 @@ void tst_VrnDeviceCompare::gitShowsDifferences()
              qPrintable(result.output + result.errors));
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceCompare)
+REGISTER_GUILESS_TEST(tst_VrnDeviceCompare)
 #include "tst_vrndevice_compare.moc"

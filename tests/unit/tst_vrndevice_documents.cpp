@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QRegularExpression>
@@ -389,5 +390,5 @@ void tst_vrndevice_documents::completion()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_vrndevice_documents)
+REGISTER_GUILESS_TEST(tst_vrndevice_documents)
 #include "tst_vrndevice_documents.moc"

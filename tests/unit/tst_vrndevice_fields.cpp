@@ -1,6 +1,7 @@
 #include "configfile/ShapePaths.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QDir>
@@ -416,5 +417,5 @@ void tst_VrnDeviceFields::startOptions()
     checkShown(u"altered"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceFields)
+REGISTER_GUILESS_TEST(tst_VrnDeviceFields)
 #include "tst_vrndevice_fields.moc"

@@ -4,6 +4,7 @@
 #include "support/FullDisk.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QJsonArray>
@@ -110,7 +111,7 @@ private:
     {
         QProcess process;
         process.setWorkingDirectory(m_directory->path());
-        process.start(QStringLiteral(VRN_TOOL), arguments);
+        process.start(Tool::program(), arguments);
         process.write(input);
         process.closeWriteChannel();
         SResult result;
@@ -791,5 +792,5 @@ void tst_vrndevice_items::templatesAreInOrder()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_vrndevice_items)
+REGISTER_GUILESS_TEST(tst_vrndevice_items)
 #include "tst_vrndevice_items.moc"

@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QTemporaryDir>
@@ -146,7 +147,7 @@ void tst_vrndevice_language::movedInstallation()
     QVERIFY(directory.mkpath(u"moved/bin"_s));
     QVERIFY(directory.mkpath(translations));
     const QString tool = directory.filePath(u"moved/bin/vrndevice"_s);
-    QVERIFY(QFile::copy(QStringLiteral(VRN_TOOL), tool));
+    QVERIFY(QFile::copy(Tool::program(), tool));
     const auto usage = [&tool]() {
         QProcess process;
         process.setProcessEnvironment(environment(German));
@@ -157,7 +158,7 @@ void tst_vrndevice_language::movedInstallation()
     // Nothing beside it: English, and not a word about it.
     QVERIFY(usage().startsWith(u"Usage: "_s));
 
-    const QDir built(QFileInfo(QStringLiteral(VRN_TOOL))
+    const QDir built(QFileInfo(Tool::program())
                          .absoluteDir()
                          .filePath(u"../share/vrnDeviceCore/translations"_s));
     const QString catalogue = translations + u"/vrndevice_de.qm"_s;
@@ -220,5 +221,5 @@ void tst_vrndevice_language::columnsFitTheLanguage()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_vrndevice_language)
+REGISTER_GUILESS_TEST(tst_vrndevice_language)
 #include "tst_vrndevice_language.moc"

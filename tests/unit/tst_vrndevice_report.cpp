@@ -4,6 +4,7 @@
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 #include "support/PseudoTerminal.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QJsonArray>
@@ -47,7 +48,7 @@ SResult runIn(const QString &directory, const QStringList &arguments, const SSur
     if (around.isTerminal) {
         process.setStandardOutputFile(terminal.name());
     }
-    process.start(QStringLiteral(VRN_TOOL), arguments);
+    process.start(Tool::program(), arguments);
     process.write(around.input);
     process.closeWriteChannel();
     SResult result;
@@ -518,5 +519,5 @@ void tst_VrnDeviceReport::unreadableInput()
     QVERIFY(!QFile::exists(m_directory->filePath(u"out.html"_s)));
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceReport)
+REGISTER_GUILESS_TEST(tst_VrnDeviceReport)
 #include "tst_vrndevice_report.moc"

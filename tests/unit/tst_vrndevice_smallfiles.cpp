@@ -4,6 +4,7 @@
 #include "settings/CNetworkSettingsFile.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QJsonArray>
@@ -566,5 +567,5 @@ void tst_vrndevice_smallfiles::exampleIsInOrder()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_vrndevice_smallfiles)
+REGISTER_GUILESS_TEST(tst_vrndevice_smallfiles)
 #include "tst_vrndevice_smallfiles.moc"

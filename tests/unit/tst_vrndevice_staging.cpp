@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QCryptographicHash>
@@ -130,7 +131,7 @@ private slots:
         QProcess process;
         process.setWorkingDirectory(m_directory->path());
         process.setStandardInputFile(document());
-        process.start(QStringLiteral(VRN_TOOL),
+        process.start(Tool::program(),
                       {u"stage"_s, u"-"_s, u"--project"_s, project(), u"--to"_s, u"root"_s});
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), 0);
@@ -150,8 +151,8 @@ private slots:
             process.setWorkingDirectory(m_directory->path());
             process.start(u"sh"_s,
                           {u"-c"_s, u"umask 077; LC_ALL=$1; export LC_ALL; shift; exec \"$@\""_s,
-                           u"sh"_s, locale, QStringLiteral(VRN_TOOL), u"stage"_s, document(),
-                           u"--project"_s, project(), u"--archive"_s, u"second"_s});
+                           u"sh"_s, locale, Tool::program(), u"stage"_s, document(), u"--project"_s,
+                           project(), u"--archive"_s, u"second"_s});
             QVERIFY(process.waitForFinished());
             QCOMPARE(process.exitCode(), 0);
             QCOMPARE(Files::read(at(u"second"_s)), Files::read(at(u"first"_s)));
@@ -266,7 +267,7 @@ private slots:
         QVERIFY(makeLargeProject(64 * 1024 * 1024));
         QProcess process;
         process.setWorkingDirectory(m_directory->path());
-        process.start(QStringLiteral(VRN_TOOL),
+        process.start(Tool::program(),
                       {u"stage"_s, u"large.3deco"_s, u"--project"_s, u"project"_s, u"--to"_s,
                        u"root"_s, u"--archive"_s, u"out"_s});
         // As soon as the tree is being written.
@@ -297,7 +298,7 @@ private slots:
             QFile::remove(at(u"out"_s));
             QProcess process;
             process.setWorkingDirectory(m_directory->path());
-            process.start(QStringLiteral(VRN_TOOL),
+            process.start(Tool::program(),
                           {u"stage"_s, u"large.3deco"_s, u"--project"_s, u"project"_s, u"--to"_s,
                            u"root"_s, u"--archive"_s, u"out"_s});
             QVERIFY(process.waitForStarted());
@@ -320,5 +321,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceStaging)
+REGISTER_GUILESS_TEST(tst_VrnDeviceStaging)
 #include "tst_vrndevice_staging.moc"

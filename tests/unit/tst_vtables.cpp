@@ -9,6 +9,7 @@
 #include "devicefiles/CHashMap.h"
 #include "elements/CSubDeviceKD2ElementEdit.h"
 #include "elements/CSubDeviceKD3ElementEdit.h"
+#include "support/TestProgram.h"
 
 #include <cxxabi.h>
 #include <dlfcn.h>
@@ -328,5 +329,5 @@ void tst_VTables::comparisonSeesDifferences()
     QCOMPARE(byText, byIdentity + 1);
 }
 
-QTEST_APPLESS_MAIN(tst_VTables)
+REGISTER_APPLESS_TEST(tst_VTables)
 #include "tst_vtables.moc"

@@ -4,7 +4,7 @@
 #include <QString>
 
 #include <functional>
-#include <locale.h>
+#include <clocale>
 #include <memory>
 #include <sys/types.h>
 
