@@ -24,7 +24,7 @@ function(vrn_compile target)
     endif()
 endfunction()
 
-# As what becomes part of a library: only what is marked is seen from outside.
+# For a library or the tool: only what is marked is seen from outside.
 function(vrn_compile_hidden target)
     vrn_compile(${target})
     set_target_properties(${target} PROPERTIES
