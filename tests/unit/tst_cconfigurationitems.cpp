@@ -753,7 +753,7 @@ void tst_CConfigurationItems::values_data()
             << path << value << path + u": "_s + reason;
     };
     const QString date = u"description.creationDate"_s;
-    const QString noDate = u"'%1' is no date; one is written as 2026-11-21"_s;
+    const QString noDate = u"'%1' is not a valid date. Expected: a date like 2026-11-21."_s;
     good(date, u""_s);
     good(date, u"2024-02-29"_s);
     for (const QString &value : {u"2025-02-29"_s, u"2026-1-2"_s, u"21.11.2026"_s, u"20261121"_s,
@@ -765,53 +765,56 @@ void tst_CConfigurationItems::values_data()
     }
     for (const QString &value : {u"KD3"_s, u""_s, u"kd4"_s, u"undefined"_s}) {
         bad(u"device.class"_s, value,
-            u"'%1' is no device class; there are kc2, kd3 and Undefined"_s.arg(value));
+            u"'%1' is not a valid device class. Expected: kc2, kd3."_s.arg(value));
     }
     good(u"device.hardwareId"_s, u""_s);
     good(u"device.hardwareId"_s, u"A:B:65535:0:1"_s);
     for (const QString &value : {u"A"_s, u"A:B:1:2"_s, u"A:B:65536:0:1"_s, u"A:B:1:2:3:4"_s}) {
         bad(u"device.hardwareId"_s, value,
-            u"'%1' is no hardware identity; one is written as "
-            "PREFIX:NAME:PLATFORM:VERSION:REVISION"_s.arg(value));
+            u"'%1' is not a valid hardware identity. Expected: "
+            "PREFIX:NAME:PLATFORM:VERSION:REVISION."_s.arg(value));
     }
     good(u"device.opcUaEnabled"_s, u"false"_s);
     for (const QString &value : {u"TRUE"_s, u"1"_s, u"yes"_s, u""_s, u" true"_s}) {
-        bad(u"device.opcUaEnabled"_s, value, u"'%1' is neither true nor false"_s.arg(value));
+        bad(u"device.opcUaEnabled"_s, value,
+            u"'%1' is neither true nor false. Expected: true, false."_s.arg(value));
     }
     good(u"drive[0].busId"_s, u"0"_s);
     good(u"drive[0].busId"_s, u"4294967295"_s);
     for (const QString &value : {u"-1"_s, u"4294967296"_s, u""_s, u"+1"_s, u"1.0"_s, u"0x10"_s,
                                  u"007"_s, u" 7"_s, u"٣"_s, u"1,000"_s}) {
         bad(u"drive[0].busId"_s, value,
-            u"'%1' is no whole number from 0 to 4294967295"_s.arg(value));
+            u"'%1' is not a valid number. Expected: a number from 0 to 4294967295."_s.arg(value));
     }
     good(u"device.plugins[motion].priority"_s, u"0"_s);
     good(u"device.plugins[motion].priority"_s, u"-2147483648"_s);
     good(u"device.plugins[motion].priority"_s, u"2147483647"_s);
     for (const QString &value : {u"2147483648"_s, u"-2147483649"_s, u""_s, u"high"_s, u"-0"_s}) {
         bad(u"device.plugins[motion].priority"_s, value,
-            u"'%1' is no whole number from -2147483648 to 2147483647"_s.arg(value));
+            u"'%1' is not a valid number. Expected: a number from -2147483648 to 2147483647."_s.arg(
+                value));
     }
     const QString paramType = u"device.parameterFiles[LineParams].type"_s;
     for (const QString &value : {u"KC2Parameters"_s, u"VornMotorParameters"_s, u"Undefined"_s}) {
         good(paramType, value);
     }
     for (const QString &value : {u"vornparameters"_s, u""_s, u"10"_s}) {
-        bad(paramType, value, u"'%1' is no type of parameter files"_s.arg(value));
+        bad(paramType, value,
+            u"'%1' is not a valid type of a parameter file. Expected: KC2Parameters, KC2Compensation, VornParameters, VornConfigParams, VornDeviceDatabase, VornPluginParameters, VornFirmwareDataBase, VornLogicDataBase, VornOemParameters, VornMotorParameters, VornOptionModulDatabase."_s
+                .arg(value));
     }
     good(u"drive[0].type"_s, u"KD2_drive"_s);
     for (const QString &value : {u"UNKNOWN_drive"_s, u"kd2_drive"_s, u""_s}) {
         bad(u"drive[0].type"_s, value,
-            u"'%1' is no type of drives; there are KD2_drive and KD3_drive"_s.arg(value));
+            u"'%1' is not a valid type of a drive. Expected: KD2_drive, KD3_drive."_s.arg(value));
     }
     const QString option = u"device.options[-trace]"_s;
     good(option, u"a b=-1 c-d"_s);
-    for (const QString &value : {u"-1"_s, u"a -b"_s, u"-"_s}) {
+    for (const QString &value :
+         {u"-1"_s, u"a -b"_s, u"-"_s, u" a"_s, u"a  b"_s, u"a\tb"_s, u"a\n"_s, u" "_s}) {
         bad(option, value,
-            u"in '%1' a word begins with '-', which would be an option"_s.arg(value));
-    }
-    for (const QString &value : {u" a"_s, u"a  b"_s, u"a\tb"_s, u"a\n"_s, u" "_s}) {
-        bad(option, value, u"the words of an argument are separated by single blanks"_s);
+            u"'%1' is not a valid argument of a start option. Expected: words that do not begin "
+            "with '-', with one space between each two."_s.arg(value));
     }
     for (const QString &value : {u""_s, u" "_s, u"\t\r\n"_s, u"]]> &amp; <"_s, u"\U0001F600"_s}) {
         good(u"device.comment"_s, value);
@@ -821,7 +824,7 @@ void tst_CConfigurationItems::values_data()
         {QString(QChar(0)), u"0000"_s},     {u"a\ufffe"_s, u"FFFE"_s},
         {u"\uffff"_s, u"FFFF"_s},           {QString(QChar(0xd83d)), u"D83D"_s},
         {QString(QChar(0xde00)), u"DE00"_s}};
-    const QString reason = u"the character U+%1 cannot be stored in a configuration"_s;
+    const QString reason = u"The character U+%1 cannot be stored in a configuration."_s;
     for (const auto &row : unwritable) {
         bad(u"device.comment"_s, row.first, reason.arg(row.second));
         bad(u"device.activeFpgaFile"_s, row.first, reason.arg(row.second));
@@ -830,7 +833,7 @@ void tst_CConfigurationItems::values_data()
     bad(u"drive[0].param.deviceDir"_s, u"a\u0001"_s, reason.arg(u"0001"_s));
     bad(u"files[recipes.csv].name"_s, u"a\u0001"_s, reason.arg(u"0001"_s));
 
-    bad(u"device.activeFpgaFile"_s, u""_s, u"a name must not be empty"_s);
+    bad(u"device.activeFpgaFile"_s, u""_s, u"The name is empty. Expected: a name."_s);
     bad(u"device.fpgaFiles[kd3_motion_v11.bit]"_s, u"x"_s, u"this has no value of its own"_s);
     for (const QString &path : {u"device"_s, u"files"_s, u"files[recipes.csv]"_s,
                                 u"device.dictionary"_s, u"device.options"_s}) {
@@ -987,7 +990,7 @@ void tst_CConfigurationItems::rename_data()
     const QString drive = u"drive[1].driveNo"_s;
     const QString option = u"device.options[-trace].name"_s;
     row(file, u"new ].csv"_s, QString());
-    row(file, QString(), u"files[recipes.csv].name: a name must not be empty"_s);
+    row(file, QString(), u"files[recipes.csv].name: The name is empty. Expected: a name."_s);
     row(u"device.parameterFiles[options].name"_s, u"Other"_s, QString());
     row(u"device.parameterFiles[options].name"_s, u"LineParams"_s,
         u"device.parameterFiles[LineParams]: there is such a parameter file already"_s);
@@ -1004,7 +1007,9 @@ void tst_CConfigurationItems::rename_data()
     row(option, u"-opc"_s, u"device.options[-opc]: there is such an option already"_s);
     for (const QString &value : {u"t"_s, u"-"_s, u"-a b"_s, u""_s, u"-a\t"_s}) {
         row(option, value,
-            option + u": '%1' is no option; one is a word that begins with '-'"_s.arg(value));
+            option
+                + u": '%1' is not a valid start option. Expected: a word that begins with '-'."_s
+                      .arg(value));
     }
     row(drive, u"1"_s, QString());
     row(drive, u"3"_s, QString());
@@ -1012,7 +1017,9 @@ void tst_CConfigurationItems::rename_data()
     row(drive, u"2"_s, u"drive[2]: there is such a drive already"_s);
     for (const QString &value : {u"255"_s, u"-1"_s, u""_s, u"03"_s, u"x"_s, u" 3"_s}) {
         row(drive, value,
-            drive + u": '%1' is no drive number; one is a number from 0 to 254"_s.arg(value));
+            drive
+                + u": '%1' is not a valid drive number. Expected: a number from 0 to 254."_s.arg(
+                    value));
     }
 }
 
@@ -1312,17 +1319,19 @@ void tst_CConfigurationItems::failuresChangeNothing_data()
     row(true, u"device.dictionary"_s, u"only entries of lists can be added"_s);
     row(true, u"files"_s, u"only entries of lists can be added"_s);
     row(true, u"files[recipes.csv].comment"_s, u"only entries of lists can be added"_s);
-    row(true, u"files[]"_s, u"a name must not be empty"_s);
-    row(true, u"files[a\u0001]"_s, u"the character U+0001 cannot be stored in a configuration"_s);
+    row(true, u"files[]"_s, u"The name is empty. Expected: a name."_s);
+    row(true, u"files[a\u0001]"_s, u"The character U+0001 cannot be stored in a configuration."_s);
     row(true, u"files[recipes.csv]"_s, u"there is such a file already"_s);
     row(true, u"files[recipes.csv][2]"_s, u"a second entry of the same key cannot be added"_s);
     row(true, u"drive[0]"_s, u"there is such a drive already"_s);
-    row(true, u"drive[255]"_s, u"'255' is no drive number; one is a number from 0 to 254"_s);
-    row(true, u"drive[x]"_s, u"'x' is no drive number; one is a number from 0 to 254"_s);
-    row(true, u"drive[]"_s, u"'' is no drive number; one is a number from 0 to 254"_s);
+    row(true, u"drive[255]"_s,
+        u"'255' is not a valid drive number. Expected: a number from 0 to 254."_s);
+    row(true, u"drive[x]"_s,
+        u"'x' is not a valid drive number. Expected: a number from 0 to 254."_s);
+    row(true, u"drive[]"_s, u"'' is not a valid drive number. Expected: a number from 0 to 254."_s);
     row(true, u"device.options[-opc]"_s, u"there is such an option already"_s);
     row(true, u"device.options[opc]"_s,
-        u"'opc' is no option; one is a word that begins with '-'"_s);
+        u"'opc' is not a valid start option. Expected: a word that begins with '-'."_s);
     row(true, u"device.plugins[motion]"_s, u"there is such a plug-in already"_s);
 
     const QString noItem = u"only single items, entries and files can be removed"_s;

@@ -492,16 +492,17 @@ void tst_CConfigurationPatch::mismatch_data()
         set(u"device.activeFpgaFile"_s, u"kd3_motion_v12.bit"_s, u"x.bit"_s),
         u"there is no such FPGA image"_s);
     row("no such item", set(u"device.nme"_s, QString(), u"x"_s), u"there is no such item"_s);
-    row("no class", set(u"device.class"_s, u"kd3"_s, u"kd9"_s), u"'kd9' is no device class"_s);
+    row("no class", set(u"device.class"_s, u"kd3"_s, u"kd9"_s),
+        u"'kd9' is not a valid device class"_s);
     row("no text", set(u"device.name"_s, u"PackagingLine"_s, u"a\u0001"_s),
-        u"the character U+0001 cannot be stored"_s);
+        u"The character U+0001 cannot be stored"_s);
     row("no text of an entry", added(u"files[a]"_s, {{u"comment"_s, QString(QChar(0xd800))}}),
-        u"the character U+D800 cannot be stored"_s);
+        u"The character U+D800 cannot be stored"_s);
     row("no number", added(u"device.plugins[a]"_s, {{u"priority"_s, u"1e9"_s}}),
-        u"'1e9' is no whole number"_s);
-    row("no drive number", added(u"drive[255]"_s), u"'255' is no drive number"_s);
-    row("no option", added(u"device.options[trace]"_s), u"'trace' is no option"_s);
-    row("empty name", added(u"files[]"_s), u"a name must not be empty"_s);
+        u"'1e9' is not a valid number"_s);
+    row("no drive number", added(u"drive[255]"_s), u"'255' is not a valid drive number"_s);
+    row("no option", added(u"device.options[trace]"_s), u"'trace' is not a valid start option"_s);
+    row("empty name", added(u"files[]"_s), u"The name is empty"_s);
     row("second of one name", added(u"files[recipes.csv][2]"_s),
         u"a second entry of the same key cannot be added"_s);
     row("item that no such entry has", added(u"files[a]"_s, {{u"busId"_s, u"1"_s}}),

@@ -5,7 +5,7 @@
 #include <QHash>
 #include <QString>
 
-/** Makes the paths of the entries of one list, as CConfigurationItems tells them. */
+/** Makes the paths of the entries of one list, as CConfigurationItems documents them. */
 class ItemPaths
 {
 public:
