@@ -3,6 +3,7 @@
 #include "commissioning/rules/FileRules.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
+#include "storage/CanonicalName.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -126,7 +127,7 @@ private:
         file.content = document.content.isNull() ? QByteArray("") : document.content;
         file.size = document.content.size();
         if (!document.path.isEmpty()) {
-            file.source = ProjectFiles::canonical(QFile::encodeName(document.path));
+            file.source = canonicalName(QFile::encodeName(document.path));
         }
         file.projectPath = m_project.relativePath(file.source);
         place(file, element);
