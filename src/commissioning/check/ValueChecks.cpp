@@ -32,49 +32,64 @@ const ERule NoRule = RULE_COUNT;
 struct SRow {
     EValue kind;
     /** Nothing is there. */
-    ERule missing = NoRule;
-    const char *missingText = nullptr;
-    /** The value is left open. */
-    ERule undefined = NoRule;
-    const char *undefinedText = nullptr;
-    const char *undefinedHint = nullptr;
+    ERule missing;
+    const char *missingText;
+    /** The value is left open. Without a text of its own it is reported as invalid. */
+    ERule undefined;
     /** Readers cannot read it. */
-    ERule invalid = NoRule;
-    const char *hint = nullptr;
+    ERule invalid;
+    const char *undefinedText;
+    const char *undefinedHint;
+    const char *hint;
 };
 
 const char *const NextFreeNumber =
     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive is read with the next free number.");
 
+/** A kind of which nothing needs to be there, and which cannot be left open. */
+constexpr SRow optional(EValue kind, ERule invalid, const char *hint = nullptr)
+{
+    return {kind, NoRule, nullptr, NoRule, invalid, nullptr, nullptr, hint};
+}
+
+/** An enumeration, which has a text that leaves its value open. */
+constexpr SRow enumeration(EValue kind, ERule missing, const char *missingText, ERule undefined,
+                           const char *undefinedText, ERule invalid)
+{
+    return {kind, missing, missingText, undefined, invalid, undefinedText, nullptr, nullptr};
+}
+
 const SRow Rows[] = {
-    {EValue::DATE, NoRule, nullptr, NoRule, nullptr, nullptr, DATE_INVALID, nullptr},
-    {EValue::HARDWARE_ID, NoRule, nullptr, NoRule, nullptr, nullptr, HARDWARE_ID_INVALID,
-     QT_TRANSLATE_NOOP("CConfigurationCheck",
-                       "The last three are numbers from 0 to 65535; an invalid hardware identity "
-                       "is read as empty.")},
-    {EValue::DEVICE_CLASS, DEVICE_CLASS_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The device class is missing."),
-     DEVICE_CLASS_UNDEFINED,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The device class is 'Undefined'."), nullptr,
-     DEVICE_CLASS_UNKNOWN, nullptr},
-    {EValue::BOOLEAN, NoRule, nullptr, NoRule, nullptr, nullptr, OPC_UA_FLAG_INVALID, nullptr},
-    {EValue::PARAMETER_FILE_TYPE, PARAMETER_TYPE_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The parameter file has no type."),
-     PARAMETER_TYPE_UNDEFINED,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the parameter file is 'Undefined'."),
-     nullptr, PARAMETER_TYPE_UNKNOWN, nullptr},
-    {EValue::SIGNED_NUMBER, NoRule, nullptr, NoRule, nullptr, nullptr, PRIORITY_INVALID,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The plug-in is read without a priority.")},
-    {EValue::DRIVE_TYPE, DRIVE_TYPE_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no type."), DRIVE_TYPE_UNDEFINED,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the drive is undefined."), nullptr,
-     DRIVE_TYPE_UNKNOWN, nullptr},
+    optional(EValue::DATE, DATE_INVALID),
+    optional(EValue::HARDWARE_ID, HARDWARE_ID_INVALID,
+             QT_TRANSLATE_NOOP("CConfigurationCheck",
+                               "The last three are numbers from 0 to 65535; an invalid hardware "
+                               "identity is read as empty.")),
+    optional(EValue::BOOLEAN, OPC_UA_FLAG_INVALID),
+    optional(EValue::SIGNED_NUMBER, PRIORITY_INVALID,
+             QT_TRANSLATE_NOOP("CConfigurationCheck", "The plug-in is read without a priority.")),
+    optional(EValue::UNSIGNED_NUMBER, BUS_ID_INVALID),
+    enumeration(EValue::DEVICE_CLASS, DEVICE_CLASS_MISSING,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The device class is missing."),
+                DEVICE_CLASS_UNDEFINED,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The device class is 'Undefined'."),
+                DEVICE_CLASS_UNKNOWN),
+    enumeration(
+        EValue::PARAMETER_FILE_TYPE, PARAMETER_TYPE_MISSING,
+        QT_TRANSLATE_NOOP("CConfigurationCheck", "The parameter file has no type."),
+        PARAMETER_TYPE_UNDEFINED,
+        QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the parameter file is 'Undefined'."),
+        PARAMETER_TYPE_UNKNOWN),
+    enumeration(EValue::DRIVE_TYPE, DRIVE_TYPE_MISSING,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no type."),
+                DRIVE_TYPE_UNDEFINED,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the drive is undefined."),
+                DRIVE_TYPE_UNKNOWN),
     {EValue::KEY_DRIVE_NUMBER, DRIVE_NUMBER_MISSING,
      QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive number is missing."), DRIVE_NUMBER_INVALID,
-     nullptr,
+     DRIVE_NUMBER_INVALID, nullptr,
      QT_TRANSLATE_NOOP("CConfigurationCheck", "This number means that no number is assigned."),
-     DRIVE_NUMBER_INVALID, NextFreeNumber},
-    {EValue::UNSIGNED_NUMBER, NoRule, nullptr, NoRule, nullptr, nullptr, BUS_ID_INVALID, nullptr},
+     NextFreeNumber},
 };
 
 QString translated(const char *text)
