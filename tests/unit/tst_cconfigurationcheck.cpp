@@ -175,7 +175,7 @@ const QList<SInvalid> InvalidFiles = {
     {"bus-id-too-high", {"114:4 bus-id-invalid drive[0].busId"}},
     {"bus-id-twice", {"129:4 bus-id-twice drive[254].busId"}},
     {"file-without-name", {"82:5 file-name-missing files[]"}},
-    {"file-entry-empty", {"82:5 file-name-missing files[]"}},
+    {"file-entry-empty", {"82:5 file-name-missing files"}},
     {"file-name-with-slash", {"83:6 file-name-invalid files[a/recipes.csv]"}},
     {"file-name-with-backslash", {"83:6 file-name-invalid files[a\\\\recipes\\].csv]"}},
     {"file-name-with-line-break", {"83:6 file-name-invalid files[recipes.csv\n     ]"}},

@@ -2,7 +2,7 @@
 
 #include "commissioning/items/ItemTexts.h"
 #include "commissioning/items/NearestName.h"
-#include "elements/DriveNumbers.h"
+#include "configfile/ItemValue.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
 
@@ -124,9 +124,11 @@ bool ItemFinder::enterList(const SItemPathStep &given, bool entryMayBeAbsent, SI
                         .arg(place.path, given.word));
     }
     place.entry = given;
-    if (place.node->shape->entry == EEntry::DRIVE) {
-        place.entry.key = DriveNumbers::key(given.key);
-        place.path = place.entry.text();
+    place.entry.key = key(*place.node->shape, given.key);
+    if (place.entry.key != given.key) {
+        SItemPathStep written = place.entry;
+        written.word = place.listPath;
+        place.path = written.text();
     }
     const bool isFound = place.node->kind() == EKind::OPTIONS ? findOption(place.entry, place)
                                                               : findEntry(place.entry, place);
@@ -153,7 +155,7 @@ bool ItemFinder::findEntry(const SItemPathStep &wanted, SItemPlace &place) const
     QDomElement found;
     visitCandidates(list, place.element(), [&](const QDomElement &candidate) {
         // Its key first: to take a whole entry apart costs more.
-        if (key(list, candidate) == wanted.key && isEntry(list, candidate)) {
+        if (key(list, candidate) == wanted.key && isEntry(m_file, *list.shape, candidate)) {
             --left;
             found = candidate;
         }
@@ -170,7 +172,7 @@ QVector<QDomElement> ItemFinder::entries(const SItemNode &list, const QDomElemen
 {
     QVector<QDomElement> result;
     visitCandidates(list, element, [&](const QDomElement &candidate) {
-        if (isEntry(list, candidate)) {
+        if (isEntry(m_file, *list.shape, candidate)) {
             result.append(candidate);
         }
         return true;
@@ -180,8 +182,12 @@ QVector<QDomElement> ItemFinder::entries(const SItemNode &list, const QDomElemen
 
 QString ItemFinder::key(const SItemNode &list, const QDomElement &entry) const
 {
-    const QString text = m_file.getNodeValue(followed(entry, list.key().tags));
-    return list.shape->entry == EEntry::DRIVE ? DriveNumbers::key(text) : text;
+    return key(*list.shape, m_file.getNodeValue(followed(entry, list.key().tags)));
+}
+
+QString ItemFinder::key(const SNode &list, const QString &text)
+{
+    return ItemValue::read(list.key().item.value, text);
 }
 
 StartOptions ItemFinder::options(const QDomElement &element) const
@@ -196,22 +202,22 @@ bool ItemFinder::canHave(const QDomElement &element, const SItemNode &node)
         || DriveTypes::isKd2(element.attribute(NVornXmlTags::ATTR_TYPE));
 }
 
-/** Whether readers of the document take @p element for an entry of the list. */
-bool ItemFinder::isEntry(const SItemNode &list, const QDomElement &element) const
+bool ItemFinder::isEntry(const CDeviceConfigurationFile10 &file, const SNode &list,
+                         const QDomElement &element)
 {
-    if (element.tagName() != list.shape->entryTag) {
+    if (element.tagName() != list.entryTag) {
         return false;
     }
-    switch (list.shape->entry) {
+    switch (list.entry) {
     case EEntry::PARAMETER_FILE: {
         CParamFileElement entry;
-        m_file.paramFileElement(entry, element);
+        file.paramFileElement(entry, element);
         return !entry.isNull();
     }
     case EEntry::FILE:
     case EEntry::OPC_UA_FILE: {
         CFileElement entry;
-        m_file.fileElement(entry, element);
+        file.fileElement(entry, element);
         return !entry.isNull();
     }
     default:
