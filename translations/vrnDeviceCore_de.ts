@@ -12,8 +12,416 @@
         <translation>%1: Dieses Verzeichnis gibt es nicht.</translation>
     </message>
     <message>
+        <source>The document has no device.</source>
+        <translation>Das Dokument enthält kein Gerät.</translation>
+    </message>
+    <message>
+        <source>an element &apos;%1&apos;</source>
+        <translation>ein Element &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>Without a device there is nothing to be commissioned.</source>
+        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
+    </message>
+    <message>
+        <source>The configuration was revised before it was created.</source>
+        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
+    </message>
+    <message>
+        <source>%1 or later</source>
+        <translation>%1 oder später</translation>
+    </message>
+    <message>
+        <source>The device has no name.</source>
+        <translation>Das Gerät hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>The name is also that of the device&apos;s directory in the project.</source>
+        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
+    </message>
+    <message>
+        <source>The device has no configuration block.</source>
+        <translation>Das Gerät hat keinen Konfigurationsblock.</translation>
+    </message>
+    <message>
+        <source>The device is read without options, files and plug-ins.</source>
+        <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
+    </message>
+    <message>
+        <source>The device does not tell the name of its configuration.</source>
+        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
+    </message>
+    <message>
+        <source>It is read as &apos;%1&apos;.</source>
+        <translation>Gelesen wird &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Remove the file, or mend the drive&apos;s type.</source>
+        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
+    </message>
+    <message>
+        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
+    </message>
+    <message>
+        <source>prefix, name and platform of &apos;%1&apos;</source>
+        <translation>Präfix, Name und Plattform von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2.</source>
+        <translation>Die Nummer %1 ist auch die von %2.</translation>
+    </message>
+    <message>
+        <source>a number of its own</source>
+        <translation>eine eigene Nummer</translation>
+    </message>
+    <message>
+        <source>The drive has no name.</source>
+        <translation>Der Antrieb hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>When the drive is read it is named after its number.</source>
+        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; is also that of %2.</source>
+        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
+    </message>
+    <message>
+        <source>a name of its own</source>
+        <translation>ein eigener Name</translation>
+    </message>
+    <message>
+        <source>The bus identifier %1 is also that of %2.</source>
+        <translation>Die Buskennung %1 ist auch die von %2.</translation>
+    </message>
+    <message>
+        <source>an identifier of its own</source>
+        <translation>eine eigene Kennung</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; does not begin with a slash.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; beginnt nicht mit einem Schrägstrich.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; belongs to the configuration &apos;%2&apos;.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; gehört zur Konfiguration &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>a directory of &apos;%1&apos;</source>
+        <translation>ein Verzeichnis von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is not below that of the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
+    </message>
+    <message>
+        <source>a directory below &apos;%1&apos;</source>
+        <translation>ein Verzeichnis unter &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>It is removed when the device is read.</source>
+        <translation>Es wird beim Lesen des Geräts entfernt.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
+        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
+    </message>
+    <message>
+        <source>Remove all but one.</source>
+        <translation>Entfernen Sie alle bis auf eines.</translation>
+    </message>
+    <message>
+        <source>The parameter file &apos;%1&apos; stands more than once.</source>
+        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
+        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>Remove all but one; the first image is the active one.</source>
+        <translation>Entfernen Sie alle bis auf eines; das erste Abbild ist das aktive.</translation>
+    </message>
+    <message>
+        <source>There is more to be found; from here on it is left out.</source>
+        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
+    </message>
+    <message>
+        <source>Mend what is told, then check again.</source>
+        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>The project&apos;s manifest cannot be read: %1</source>
+        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>a manifest as it is made by staging</source>
+        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
+    </message>
+    <message>
+        <source>Make the manifest anew; files are not compared with this one.</source>
+        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
+        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
+    </message>
+    <message>
+        <source>Put back the file, or make the manifest anew.</source>
+        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+    </message>
+    <message>
+        <source>options like -trace with one blank between each two</source>
+        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
+    </message>
+    <message>
+        <source>Options are separated by something other than a blank.</source>
+        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
+    </message>
+    <message>
+        <source>The device takes this for one word.</source>
+        <translation>Das Gerät hält dies für ein Wort.</translation>
+    </message>
+    <message>
+        <source>An option has a hyphen, but no name.</source>
+        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option, and follows none.</source>
+        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
+    </message>
+    <message>
+        <source>An option begins with a hyphen; what follows it is its argument.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
+    </message>
+    <message>
+        <source>The option &apos;%1&apos; stands more than once.</source>
+        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The OPC UA server is enabled, but the option %1 is missing.</source>
+        <translation>Der OPC-UA-Server ist eingeschaltet, aber die Option %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Add the option %1, or disable the server.</source>
+        <translation>Ergänzen Sie die Option %1, oder schalten Sie den Server aus.</translation>
+    </message>
+    <message>
+        <source>There is the option %1, but the OPC UA server is not enabled.</source>
+        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Enable the server, or remove the option %1.</source>
+        <translation>Schalten Sie den Server ein, oder entfernen Sie die Option %1.</translation>
+    </message>
+    <message>
+        <source>The plug-in has no name.</source>
+        <translation>Das Plug-in hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; stands more than once.</source>
+        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
+        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
+    </message>
+    <message>
+        <source>the name of a plug-in</source>
+        <translation>der Name eines Plug-ins</translation>
+    </message>
+    <message>
+        <source>Add the plug-in, or name another one.</source>
+        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; has no bus configuration.</source>
+        <translation>Das Plug-in &apos;%1&apos; hat keine Buskonfiguration.</translation>
+    </message>
+    <message>
+        <source>a file in &apos;%1&apos;</source>
+        <translation>eine Datei in &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
+        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>a plug-in &apos;%1&apos;</source>
+        <translation>ein Plug-in &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
+        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
+    </message>
+    <message>
+        <source>nothing but elements</source>
+        <translation>nichts als Elemente</translation>
+    </message>
+    <message>
+        <source>Remove the text, or put it into the element for which it is meant.</source>
+        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
+    </message>
+    <message>
+        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
+        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
+    </message>
+    <message>
+        <source>Remove the attribute.</source>
+        <translation>Entfernen Sie das Attribut.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
+        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
+    </message>
+    <message>
+        <source>one &apos;%1&apos;</source>
+        <translation>ein &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>at the top of the document</source>
+        <translation>auf der obersten Ebene des Dokuments</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>Move the element to where it belongs, or remove it.</source>
+        <translation>Verschieben Sie das Element dahin, wo es hingehört, oder entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
+        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
+    </message>
+    <message>
+        <source>nothing but text</source>
+        <translation>nichts als Text</translation>
+    </message>
+    <message>
+        <source>Remove the element, or mend its name.</source>
+        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
+    </message>
+    <message>
+        <source>The drive is read with the next number that no other drive has.</source>
+        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
+    </message>
+    <message>
+        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
+        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>The device has no class.</source>
+        <translation>Das Gerät hat keine Klasse.</translation>
+    </message>
+    <message>
+        <source>The class of the device is left open.</source>
+        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>The parameter file has no type.</source>
+        <translation>Die Parameterdatei hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of the parameter file is left open.</source>
+        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>The plug-in is read without a priority.</source>
+        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
+    </message>
+    <message>
+        <source>The drive has no type.</source>
+        <translation>Der Antrieb hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of the drive is left open.</source>
+        <translation>Der Typ des Antriebs ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>The drive has no number.</source>
+        <translation>Der Antrieb hat keine Nummer.</translation>
+    </message>
+    <message>
+        <source>This number means that no number is assigned.</source>
+        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
+    </message>
+    <message>
+        <source>The document is read as one of version %1; save it anew with this version.</source>
+        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
+    </message>
+    <message>
         <source>The document does not tell its version.</source>
         <translation>Das Dokument nennt seine Version nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no version.</source>
+        <translation>&apos;%1&apos; ist keine Version.</translation>
+    </message>
+    <message>
+        <source>The document was created with a previous version.</source>
+        <translation>Das Dokument wurde mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The document was created with a later version.</source>
+        <translation>Das Dokument wurde mit einer späteren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>letters, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow</source>
+        <translation>Buchstaben, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen</translation>
+    </message>
+    <message>
+        <source>The name of the configuration is empty.</source>
+        <translation>Der Name der Konfiguration ist leer.</translation>
+    </message>
+    <message>
+        <source>Without a name it has no directories on the device.</source>
+        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
+        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
+    </message>
+    <message>
+        <source>a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;</source>
+        <translation>ein Name ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
+        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
+    </message>
+    <message>
+        <source>numbers with dots between them, like 1.3</source>
+        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
+    </message>
+    <message>
+        <source>Its file would be &apos;%1&apos;.</source>
+        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; has no version.</source>
+        <translation>Das Plug-in &apos;%1&apos; hat keine Version.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no version of a plug-in.</source>
+        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
     </message>
     <message>
         <source>The document is read as one of version 1.0; write &apos;version=&quot;1.0&quot;&apos;, or save it with a tool.</source>
@@ -72,20 +480,12 @@
         <translation>Text steht zwischen Elementen, wo ihn niemand liest.</translation>
     </message>
     <message>
-        <source>Remove the text, or put it into the element for which it is meant.</source>
-        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
-    </message>
-    <message>
         <source>A date is none.</source>
         <translation>Ein Datum ist keines.</translation>
     </message>
     <message>
         <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is none, and allowed.</source>
         <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist keines und erlaubt.</translation>
-    </message>
-    <message>
-        <source>The configuration was revised before it was created.</source>
-        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
     </message>
     <message>
         <source>One of the two dates is wrong, or they are interchanged.</source>
@@ -100,24 +500,12 @@
         <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde genannt.</translation>
     </message>
     <message>
-        <source>The document has no device.</source>
-        <translation>Das Dokument enthält kein Gerät.</translation>
-    </message>
-    <message>
         <source>Without a device there is nothing to be commissioned; add the element &apos;Device&apos;.</source>
         <translation>Ohne Gerät gibt es nichts in Betrieb zu nehmen; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
     </message>
     <message>
-        <source>The device has no class.</source>
-        <translation>Das Gerät hat keine Klasse.</translation>
-    </message>
-    <message>
         <source>Write &apos;kc2&apos; or &apos;kd3&apos;.</source>
         <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos;.</translation>
-    </message>
-    <message>
-        <source>The class of the device is left open.</source>
-        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
     </message>
     <message>
         <source>There is no such class of devices.</source>
@@ -128,32 +516,16 @@
         <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
     </message>
     <message>
-        <source>The device has no name.</source>
-        <translation>Das Gerät hat keinen Namen.</translation>
-    </message>
-    <message>
         <source>Give the device a name. It is also that of the device&apos;s directory in the project.</source>
         <translation>Geben Sie dem Gerät einen Namen. So heißt auch das Verzeichnis des Geräts im Projekt.</translation>
-    </message>
-    <message>
-        <source>The device has no configuration block.</source>
-        <translation>Das Gerät hat keinen Konfigurationsblock.</translation>
     </message>
     <message>
         <source>Add the element &apos;Config&apos;; without it the device has no options, files and plug-ins.</source>
         <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
     </message>
     <message>
-        <source>The device does not tell the name of its configuration.</source>
-        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
-    </message>
-    <message>
         <source>The name is read as &apos;STD&apos;; write it down.</source>
         <translation>Der Name wird als &apos;STD&apos; gelesen; schreiben Sie ihn hin.</translation>
-    </message>
-    <message>
-        <source>The name of the configuration is empty.</source>
-        <translation>Der Name der Konfiguration ist leer.</translation>
     </message>
     <message>
         <source>Give the configuration a name: without one it has no directories on the device.</source>
@@ -260,10 +632,6 @@
         <translation>Ein FPGA-Abbild steht mehrmals.</translation>
     </message>
     <message>
-        <source>Remove all but one; the first image is the active one.</source>
-        <translation>Entfernen Sie alle bis auf eines; das erste Abbild ist das aktive.</translation>
-    </message>
-    <message>
         <source>A plug-in has no name.</source>
         <translation>Ein Plug-in hat keinen Namen.</translation>
     </message>
@@ -290,10 +658,6 @@
     <message>
         <source>A plug-in stands more than once.</source>
         <translation>Ein Plug-in steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Remove all but one.</source>
-        <translation>Entfernen Sie alle bis auf eines.</translation>
     </message>
     <message>
         <source>The priority of a plug-in is no number, or out of range.</source>
@@ -576,384 +940,8 @@
         <translation>Schreiben Sie &apos;%1&apos;: Groß- und Kleinschreibung zählt.</translation>
     </message>
     <message>
-        <source>The project&apos;s manifest cannot be read: %1</source>
-        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
-    </message>
-    <message>
-        <source>a manifest as it is made by staging</source>
-        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
-    </message>
-    <message>
-        <source>Make the manifest anew; files are not compared with this one.</source>
-        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
-    </message>
-    <message>
-        <source>There is more to be found; from here on it is left out.</source>
-        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
-    </message>
-    <message>
-        <source>Mend what is told, then check again.</source>
-        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
-    </message>
-    <message>
-        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
-        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>Remove the attribute.</source>
-        <translation>Entfernen Sie das Attribut.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
-        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
-    </message>
-    <message>
-        <source>one &apos;%1&apos;</source>
-        <translation>ein &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
-        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
-    </message>
-    <message>
-        <source>nothing but elements</source>
-        <translation>nichts als Elemente</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
-    </message>
-    <message>
-        <source>at the top of the document</source>
-        <translation>auf der obersten Ebene des Dokuments</translation>
-    </message>
-    <message>
-        <source>in %1</source>
-        <translation>in %1</translation>
-    </message>
-    <message>
-        <source>Move the element to where it belongs, or remove it.</source>
-        <translation>Verschieben Sie das Element dahin, wo es hingehört, oder entfernen Sie es.</translation>
-    </message>
-    <message>
-        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
-        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>nothing but text</source>
-        <translation>nichts als Text</translation>
-    </message>
-    <message>
-        <source>Remove the element, or mend its name.</source>
-        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
-    </message>
-    <message>
-        <source>The document is read as one of version %1; save it anew with this version.</source>
-        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no version.</source>
-        <translation>&apos;%1&apos; ist keine Version.</translation>
-    </message>
-    <message>
-        <source>The document was created with a previous version.</source>
-        <translation>Das Dokument wurde mit einer früheren Version erstellt.</translation>
-    </message>
-    <message>
-        <source>The document was created with a later version.</source>
-        <translation>Das Dokument wurde mit einer späteren Version erstellt.</translation>
-    </message>
-    <message>
-        <source>an element &apos;%1&apos;</source>
-        <translation>ein Element &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>Without a device there is nothing to be commissioned.</source>
-        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no date.</source>
-        <translation>&apos;%1&apos; ist kein Datum.</translation>
-    </message>
-    <message>
-        <source>a date like 2026-11-21</source>
-        <translation>ein Datum wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>%1 or later</source>
-        <translation>%1 oder später</translation>
-    </message>
-    <message>
-        <source>a name</source>
-        <translation>ein Name</translation>
-    </message>
-    <message>
-        <source>The name is also that of the device&apos;s directory in the project.</source>
-        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
-    </message>
-    <message>
-        <source>The device is read without options, files and plug-ins.</source>
-        <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
-    </message>
-    <message>
-        <source>There is no device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keine Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>It is read as &apos;%1&apos;.</source>
-        <translation>Gelesen wird &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>letters, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow</source>
-        <translation>Buchstaben, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen</translation>
-    </message>
-    <message>
-        <source>Without a name it has no directories on the device.</source>
-        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
-        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
-    </message>
-    <message>
-        <source>a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;</source>
-        <translation>ein Name ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
-        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no hardware identity.</source>
-        <translation>&apos;%1&apos; ist keine Hardwarekennung.</translation>
-    </message>
-    <message>
-        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
-        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
-    </message>
-    <message>
-        <source>options like -trace with one blank between each two</source>
-        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
-    </message>
-    <message>
-        <source>Options are separated by something other than a blank.</source>
-        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
-    </message>
-    <message>
-        <source>The device takes this for one word.</source>
-        <translation>Das Gerät hält dies für ein Wort.</translation>
-    </message>
-    <message>
-        <source>An option has a hyphen, but no name.</source>
-        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no option, and follows none.</source>
-        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
-    </message>
-    <message>
-        <source>An option begins with a hyphen; what follows it is its argument.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
-    </message>
-    <message>
-        <source>The option &apos;%1&apos; stands more than once.</source>
-        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
-        <translation>&apos;%1&apos; ist weder true noch false; es wird als false gelesen.</translation>
-    </message>
-    <message>
-        <source>The OPC UA server is enabled, but the option %1 is missing.</source>
-        <translation>Der OPC-UA-Server ist eingeschaltet, aber die Option %1 fehlt.</translation>
-    </message>
-    <message>
-        <source>Add the option %1, or disable the server.</source>
-        <translation>Ergänzen Sie die Option %1, oder schalten Sie den Server aus.</translation>
-    </message>
-    <message>
-        <source>There is the option %1, but the OPC UA server is not enabled.</source>
-        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
-    </message>
-    <message>
-        <source>Enable the server, or remove the option %1.</source>
-        <translation>Schalten Sie den Server ein, oder entfernen Sie die Option %1.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
-        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
-    </message>
-    <message>
-        <source>the name of a plug-in</source>
-        <translation>der Name eines Plug-ins</translation>
-    </message>
-    <message>
-        <source>Add the plug-in, or name another one.</source>
-        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; has no bus configuration.</source>
-        <translation>Das Plug-in &apos;%1&apos; hat keine Buskonfiguration.</translation>
-    </message>
-    <message>
-        <source>a file in &apos;%1&apos;</source>
-        <translation>eine Datei in &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
-        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>a plug-in &apos;%1&apos;</source>
-        <translation>ein Plug-in &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>The parameter file &apos;%1&apos; stands more than once.</source>
-        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The parameter file has no type.</source>
-        <translation>Die Parameterdatei hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>The type of the parameter file is left open.</source>
-        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>There is no type &apos;%1&apos; of parameter files; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Typ &apos;%1&apos; von Parameterdateien; er wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
-        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The plug-in has no name.</source>
-        <translation>Das Plug-in hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; stands more than once.</source>
-        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>numbers with dots between them, like 1.3</source>
-        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; has no version.</source>
-        <translation>Das Plug-in &apos;%1&apos; hat keine Version.</translation>
-    </message>
-    <message>
-        <source>Its file would be &apos;%1&apos;.</source>
-        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no version of a plug-in.</source>
-        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no priority.</source>
-        <translation>&apos;%1&apos; ist keine Priorität.</translation>
-    </message>
-    <message>
-        <source>a number from -2147483648 to 2147483647</source>
-        <translation>eine Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>The plug-in is read without a priority.</source>
-        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
-    </message>
-    <message>
-        <source>prefix, name and platform of &apos;%1&apos;</source>
-        <translation>Präfix, Name und Plattform von &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>Remove the file, or mend the drive&apos;s type.</source>
-        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
-    </message>
-    <message>
-        <source>The drive has no type; it is read as &apos;%1&apos;.</source>
-        <translation>Der Antrieb hat keinen Typ; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The type of the drive is left open; it is read as &apos;%1&apos;.</source>
-        <translation>Der Typ des Antriebs ist offen gelassen; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>There is no type &apos;%1&apos; of drives; the drive is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to %1</source>
-        <translation>eine Zahl von 0 bis %1</translation>
-    </message>
-    <message>
-        <source>The drive is read with the next number that no other drive has.</source>
-        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
-    </message>
-    <message>
-        <source>The drive has no number.</source>
-        <translation>Der Antrieb hat keine Nummer.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no number of a drive.</source>
-        <translation>&apos;%1&apos; ist keine Antriebsnummer.</translation>
-    </message>
-    <message>
-        <source>This number means that no number is assigned.</source>
-        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
-    </message>
-    <message>
-        <source>The number %1 is also that of %2.</source>
-        <translation>Die Nummer %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>a number of its own</source>
-        <translation>eine eigene Nummer</translation>
-    </message>
-    <message>
-        <source>The drive has no name.</source>
-        <translation>Der Antrieb hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>When the drive is read it is named after its number.</source>
-        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
-    </message>
-    <message>
-        <source>The name &apos;%1&apos; is also that of %2.</source>
-        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
-    </message>
-    <message>
-        <source>a name of its own</source>
-        <translation>ein eigener Name</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no bus identifier; it is read as 0.</source>
-        <translation>&apos;%1&apos; ist keine Buskennung; sie wird als 0 gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to 4294967295</source>
-        <translation>eine Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>The bus identifier %1 is also that of %2.</source>
-        <translation>Die Buskennung %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>an identifier of its own</source>
-        <translation>eine eigene Kennung</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; has no directory on the device.</source>
-        <translation>Die Datei &apos;%1&apos; hat kein Verzeichnis auf dem Gerät.</translation>
+        <source>names of at most %1 bytes</source>
+        <translation>Namen von höchstens %1 Bytes</translation>
     </message>
     <message>
         <source>a directory below %1 or %2</source>
@@ -976,32 +964,12 @@
         <translation>ein Name ohne Verzeichnis, Schrägstriche und Zeilenumbrüche</translation>
     </message>
     <message>
+        <source>The file &apos;%1&apos; has no directory on the device.</source>
+        <translation>Die Datei &apos;%1&apos; hat kein Verzeichnis auf dem Gerät.</translation>
+    </message>
+    <message>
         <source>The directory &apos;%1&apos; leads upwards.</source>
         <translation>Das Verzeichnis &apos;%1&apos; führt nach oben.</translation>
-    </message>
-    <message>
-        <source>names of at most %1 bytes</source>
-        <translation>Namen von höchstens %1 Bytes</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>Choose shorter names.</source>
-        <translation>Wählen Sie kürzere Namen.</translation>
-    </message>
-    <message>
-        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
-        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be read: %2</source>
-        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
-        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
     </message>
     <message>
         <source>a directory without &apos;..&apos;</source>
@@ -1012,16 +980,12 @@
         <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; does not begin with a slash.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; beginnt nicht mit einem Schrägstrich.</translation>
+        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; belongs to the configuration &apos;%2&apos;.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; gehört zur Konfiguration &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>a directory of &apos;%1&apos;</source>
-        <translation>ein Verzeichnis von &apos;%1&apos;</translation>
+        <source>Choose shorter names.</source>
+        <translation>Wählen Sie kürzere Namen.</translation>
     </message>
     <message>
         <source>The directory &apos;%1&apos; is absolute.</source>
@@ -1040,28 +1004,8 @@
         <translation>ein Verzeichnis im Projekt</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; is not below that of the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
-    </message>
-    <message>
-        <source>a directory below &apos;%1&apos;</source>
-        <translation>ein Verzeichnis unter &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>It is removed when the device is read.</source>
-        <translation>Es wird beim Lesen des Geräts entfernt.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
-        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
-    </message>
-    <message>
-        <source>a place of its own</source>
-        <translation>ein eigener Platz</translation>
-    </message>
-    <message>
-        <source>The one that is transferred last overwrites the other one.</source>
-        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
+        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
+        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is not in the project.</source>
@@ -1100,10 +1044,6 @@
         <translation>eine reguläre Datei</translation>
     </message>
     <message>
-        <source>a file that may be read</source>
-        <translation>eine Datei, die gelesen werden darf</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; is empty.</source>
         <translation>Die Datei &apos;%1&apos; ist leer.</translation>
     </message>
@@ -1112,20 +1052,108 @@
         <translation>0 Bytes</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
-        <translation>%1 Bytes</translation>
+        <source>The file &apos;%1&apos; cannot be read: %2</source>
+        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
-        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
+        <source>a file that may be read</source>
+        <translation>eine Datei, die gelesen werden darf</translation>
     </message>
     <message>
-        <source>Put back the file, or make the manifest anew.</source>
-        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
+        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
+    </message>
+    <message>
+        <source>a place of its own</source>
+        <translation>ein eigener Platz</translation>
+    </message>
+    <message>
+        <source>The one that is transferred last overwrites the other one.</source>
+        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
 </context>
 <context>
     <name>CConfigurationItems</name>
+    <message>
+        <source>%1: %2 Expected: %3.</source>
+        <translation>%1: %2 Erwartet: %3.</translation>
+    </message>
+    <message>
+        <source>%1: only entries of lists can be added</source>
+        <translation>%1: nur Elemente von Listen können hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>%1: a second entry of the same key cannot be added</source>
+        <translation>%1: ein zweites Element mit demselben Schlüssel kann nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>%1: only single items, entries and files can be removed</source>
+        <translation>%1: nur einzelne Einträge, Listenelemente und Dateien können entfernt werden</translation>
+    </message>
+    <message>
+        <source>%1: the entry cannot be without it</source>
+        <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
+    </message>
+    <message>
+        <source>There is no configuration.</source>
+        <translation>Es gibt keine Konfiguration.</translation>
+    </message>
+    <message>
+        <source>%1: an entry of the list must be named, as in %2</source>
+        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
+    </message>
+    <message>
+        <source>%1: only a drive of the type KD2_drive has this file</source>
+        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
+        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item</source>
+        <translation>%1: diesen Eintrag gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; did you mean %2?</source>
+        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; there are %2</source>
+        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
+    </message>
+    <message>
+        <source>a &apos;.&apos; is missing</source>
+        <translation>ein &apos;.&apos; fehlt</translation>
+    </message>
+    <message>
+        <source>a word is missing</source>
+        <translation>ein Wort fehlt</translation>
+    </message>
+    <message>
+        <source>a &apos;]&apos; is missing</source>
+        <translation>ein &apos;]&apos; fehlt</translation>
+    </message>
+    <message>
+        <source>only &apos;]&apos; and &apos;\&apos; can stand behind a &apos;\&apos;</source>
+        <translation>nur &apos;]&apos; und &apos;\&apos; können hinter einem &apos;\&apos; stehen</translation>
+    </message>
+    <message>
+        <source>behind a key only a number from 2 on can stand in brackets</source>
+        <translation>hinter einem Schlüssel kann in Klammern nur eine Zahl ab 2 stehen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no path: %2 at character %3</source>
+        <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
+    </message>
+    <message>
+        <source>%1: this has no value of its own</source>
+        <translation>%1: dies hat keinen eigenen Wert</translation>
+    </message>
+    <message>
+        <source>%1: the configuration does not have it</source>
+        <translation>%1: die Konfiguration hat das nicht</translation>
+    </message>
     <message>
         <source>%1: there is no such drive</source>
         <translation>%1: diesen Antrieb gibt es nicht</translation>
@@ -1181,138 +1209,6 @@
     <message>
         <source>%1: there is such a file already</source>
         <translation>%1: diese Datei gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item</source>
-        <translation>%1: diesen Eintrag gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; did you mean %2?</source>
-        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; there are %2</source>
-        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
-    </message>
-    <message>
-        <source>%1: an entry of the list must be named, as in %2</source>
-        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
-    </message>
-    <message>
-        <source>%1: only a drive of the type KD2_drive has this file</source>
-        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
-    </message>
-    <message>
-        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
-        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
-    </message>
-    <message>
-        <source>There is no configuration.</source>
-        <translation>Es gibt keine Konfiguration.</translation>
-    </message>
-    <message>
-        <source>%1: the character U+%2 cannot be stored in a configuration</source>
-        <translation>%1: das Zeichen U+%2 kann in einer Konfiguration nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>%1: the words of an argument are separated by single blanks</source>
-        <translation>%1: die Wörter eines Arguments sind durch einzelne Leerzeichen getrennt</translation>
-    </message>
-    <message>
-        <source>%1: in &apos;%2&apos; a word begins with &apos;-&apos;, which would be an option</source>
-        <translation>%1: in &apos;%2&apos; beginnt ein Wort mit &apos;-&apos;, was eine Option wäre</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no drive number; one is a number from 0 to %3</source>
-        <translation>%1: &apos;%2&apos; ist keine Antriebsnummer; das ist eine Zahl von 0 bis %3</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no option; one is a word that begins with &apos;-&apos;</source>
-        <translation>%1: &apos;%2&apos; ist keine Option; das ist ein Wort, das mit &apos;-&apos; beginnt</translation>
-    </message>
-    <message>
-        <source>%1: a name must not be empty</source>
-        <translation>%1: ein Name darf nicht leer sein</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no date; one is written as 2026-11-21</source>
-        <translation>%1: &apos;%2&apos; ist kein Datum; das schreibt man wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no device class; there are kc2, kd3 and Undefined</source>
-        <translation>%1: &apos;%2&apos; ist keine Geräteklasse; es gibt kc2, kd3 und Undefined</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no hardware identity; one is written as PREFIX:NAME:PLATFORM:VERSION:REVISION</source>
-        <translation>%1: &apos;%2&apos; ist keine Hardwarekennung; das schreibt man wie PREFIX:NAME:PLATFORM:VERSION:REVISION</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is neither true nor false</source>
-        <translation>%1: &apos;%2&apos; ist weder true noch false</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from 0 to 4294967295</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from -2147483648 to 2147483647</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of parameter files</source>
-        <translation>%1: &apos;%2&apos; ist kein Typ von Parameterdateien</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of drives; there are KD2_drive and KD3_drive</source>
-        <translation>%1: &apos;%2&apos; ist kein Antriebstyp; es gibt KD2_drive und KD3_drive</translation>
-    </message>
-    <message>
-        <source>%1: this has no value of its own</source>
-        <translation>%1: dies hat keinen eigenen Wert</translation>
-    </message>
-    <message>
-        <source>%1: the configuration does not have it</source>
-        <translation>%1: die Konfiguration hat das nicht</translation>
-    </message>
-    <message>
-        <source>%1: only entries of lists can be added</source>
-        <translation>%1: nur Elemente von Listen können hinzugefügt werden</translation>
-    </message>
-    <message>
-        <source>%1: a second entry of the same key cannot be added</source>
-        <translation>%1: ein zweites Element mit demselben Schlüssel kann nicht hinzugefügt werden</translation>
-    </message>
-    <message>
-        <source>%1: only single items, entries and files can be removed</source>
-        <translation>%1: nur einzelne Einträge, Listenelemente und Dateien können entfernt werden</translation>
-    </message>
-    <message>
-        <source>%1: the entry cannot be without it</source>
-        <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
-    </message>
-    <message>
-        <source>a &apos;.&apos; is missing</source>
-        <translation>ein &apos;.&apos; fehlt</translation>
-    </message>
-    <message>
-        <source>a word is missing</source>
-        <translation>ein Wort fehlt</translation>
-    </message>
-    <message>
-        <source>a &apos;]&apos; is missing</source>
-        <translation>ein &apos;]&apos; fehlt</translation>
-    </message>
-    <message>
-        <source>only &apos;]&apos; and &apos;\&apos; can stand behind a &apos;\&apos;</source>
-        <translation>nur &apos;]&apos; und &apos;\&apos; können hinter einem &apos;\&apos; stehen</translation>
-    </message>
-    <message>
-        <source>behind a key only a number from 2 on can stand in brackets</source>
-        <translation>hinter einem Schlüssel kann in Klammern nur eine Zahl ab 2 stehen</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no path: %2 at character %3</source>
-        <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
     </message>
 </context>
 <context>
@@ -1417,136 +1313,8 @@
         <translation>&apos;%1&apos; ist kein Pfad.</translation>
     </message>
     <message>
-        <source>option %1</source>
-        <translation>Option %1</translation>
-    </message>
-    <message>
-        <source>parameter file %1</source>
-        <translation>Parameterdatei %1</translation>
-    </message>
-    <message>
-        <source>FPGA image %1</source>
-        <translation>FPGA-Abbild %1</translation>
-    </message>
-    <message>
-        <source>OPC UA file %1</source>
-        <translation>OPC-UA-Datei %1</translation>
-    </message>
-    <message>
-        <source>plug-in %1</source>
-        <translation>Plug-in %1</translation>
-    </message>
-    <message>
-        <source>drive %1</source>
-        <translation>Antrieb %1</translation>
-    </message>
-    <message>
-        <source>file %1</source>
-        <translation>Datei %1</translation>
-    </message>
-    <message>
-        <source>description</source>
-        <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>device</source>
-        <translation>Gerät</translation>
-    </message>
-    <message>
-        <source>object dictionary</source>
-        <translation>Objektverzeichnis</translation>
-    </message>
-    <message>
-        <source>fault texts</source>
-        <translation>Fehlertexte</translation>
-    </message>
-    <message>
-        <source>EtherCAT master file</source>
-        <translation>Datei des EtherCAT-Masters</translation>
-    </message>
-    <message>
-        <source>parameter file</source>
-        <translation>Parameterdatei</translation>
-    </message>
-    <message>
-        <source>KD2 parameter file</source>
-        <translation>KD2-Parameterdatei</translation>
-    </message>
-    <message>
-        <source>KD2 logic</source>
-        <translation>KD2-Logik</translation>
-    </message>
-    <message>
-        <source>KD2 firmware</source>
-        <translation>KD2-Firmware</translation>
-    </message>
-    <message>
         <source>argument</source>
         <translation>Argument</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>comment</source>
-        <translation>Kommentar</translation>
-    </message>
-    <message>
-        <source>version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>creation date</source>
-        <translation>Erstellungsdatum</translation>
-    </message>
-    <message>
-        <source>revision date</source>
-        <translation>Überarbeitungsdatum</translation>
-    </message>
-    <message>
-        <source>class</source>
-        <translation>Klasse</translation>
-    </message>
-    <message>
-        <source>hardware identity</source>
-        <translation>Hardwarekennung</translation>
-    </message>
-    <message>
-        <source>configuration name</source>
-        <translation>Konfigurationsname</translation>
-    </message>
-    <message>
-        <source>execution plug-in</source>
-        <translation>Plug-in der Anwendung</translation>
-    </message>
-    <message>
-        <source>OPC UA enabled</source>
-        <translation>OPC UA eingeschaltet</translation>
-    </message>
-    <message>
-        <source>active FPGA image</source>
-        <translation>aktives FPGA-Abbild</translation>
-    </message>
-    <message>
-        <source>type</source>
-        <translation>Typ</translation>
-    </message>
-    <message>
-        <source>bus identifier</source>
-        <translation>Buskennung</translation>
-    </message>
-    <message>
-        <source>priority</source>
-        <translation>Priorität</translation>
-    </message>
-    <message>
-        <source>device directory</source>
-        <translation>Verzeichnis auf dem Gerät</translation>
-    </message>
-    <message>
-        <source>project directory</source>
-        <translation>Verzeichnis im Projekt</translation>
     </message>
     <message>
         <source>(empty)</source>
@@ -1876,6 +1644,10 @@
 <context>
     <name>CDeviceConfigurationFile</name>
     <message>
+        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
+    </message>
+    <message>
         <source>The device configuration file was created with a previous version</source>
         <translation>Die Gerätekonfigurationsdatei wurde mit einer früheren Version erstellt</translation>
     </message>
@@ -1890,10 +1662,6 @@
     <message>
         <source>The sub-device &apos;%1&apos; has no drive number of its own and gets %2.</source>
         <translation>Das Untergerät &apos;%1&apos; hat keine eigene Antriebsnummer und bekommt %2.</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
@@ -2646,6 +2414,169 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
 </context>
 <context>
+    <name>ConfigurationShape</name>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>hardware identity</source>
+        <translation>Hardwarekennung</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>creation date</source>
+        <translation>Erstellungsdatum</translation>
+    </message>
+    <message>
+        <source>revision date</source>
+        <translation>Überarbeitungsdatum</translation>
+    </message>
+    <message>
+        <source>configuration name</source>
+        <translation>Konfigurationsname</translation>
+    </message>
+    <message>
+        <source>class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>execution plug-in</source>
+        <translation>Plug-in der Anwendung</translation>
+    </message>
+    <message>
+        <source>OPC UA enabled</source>
+        <translation>OPC UA eingeschaltet</translation>
+    </message>
+    <message>
+        <source>object dictionary</source>
+        <translation>Objektverzeichnis</translation>
+    </message>
+    <message>
+        <source>fault texts</source>
+        <translation>Fehlertexte</translation>
+    </message>
+    <message>
+        <source>EtherCAT master file</source>
+        <translation>Datei des EtherCAT-Masters</translation>
+    </message>
+    <message>
+        <source>drive number</source>
+        <translation>Antriebsnummer</translation>
+    </message>
+    <message>
+        <source>bus identifier</source>
+        <translation>Buskennung</translation>
+    </message>
+    <message>
+        <source>parameter file</source>
+        <translation>Parameterdatei</translation>
+    </message>
+    <message>
+        <source>KD2 parameter file</source>
+        <translation>KD2-Parameterdatei</translation>
+    </message>
+    <message>
+        <source>KD2 logic</source>
+        <translation>KD2-Logik</translation>
+    </message>
+    <message>
+        <source>KD2 firmware</source>
+        <translation>KD2-Firmware</translation>
+    </message>
+    <message>
+        <source>device directory</source>
+        <translation>Verzeichnis auf dem Gerät</translation>
+    </message>
+    <message>
+        <source>project directory</source>
+        <translation>Verzeichnis im Projekt</translation>
+    </message>
+    <message>
+        <source>priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>option %1</source>
+        <translation>Option %1</translation>
+    </message>
+    <message>
+        <source>start options</source>
+        <translation>Startoptionen</translation>
+    </message>
+    <message>
+        <source>active FPGA image</source>
+        <translation>aktives FPGA-Abbild</translation>
+    </message>
+    <message>
+        <source>OPC UA file %1</source>
+        <translation>OPC-UA-Datei %1</translation>
+    </message>
+    <message>
+        <source>OPC UA files</source>
+        <translation>OPC-UA-Dateien</translation>
+    </message>
+    <message>
+        <source>parameter file %1</source>
+        <translation>Parameterdatei %1</translation>
+    </message>
+    <message>
+        <source>parameter files</source>
+        <translation>Parameterdateien</translation>
+    </message>
+    <message>
+        <source>FPGA image %1</source>
+        <translation>FPGA-Abbild %1</translation>
+    </message>
+    <message>
+        <source>FPGA images</source>
+        <translation>FPGA-Abbilder</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>Datei %1</translation>
+    </message>
+    <message>
+        <source>additional files</source>
+        <translation>zusätzliche Dateien</translation>
+    </message>
+    <message>
+        <source>plug-in %1</source>
+        <translation>Plug-in %1</translation>
+    </message>
+    <message>
+        <source>plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>drive %1</source>
+        <translation>Antrieb %1</translation>
+    </message>
+    <message>
+        <source>drives</source>
+        <translation>Antriebe</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
     <name>FileStorage</name>
     <message>
         <source>This is no regular file.</source>
@@ -2658,6 +2589,77 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>It is larger than %1 bytes.</source>
         <translation>Sie ist größer als %1 Bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemValue</name>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a date like 2026-11-21</source>
+        <translation>ein Datum wie 2026-11-21</translation>
+    </message>
+    <message>
+        <source>a word that begins with &apos;-&apos;</source>
+        <translation>ein Wort, das mit &apos;-&apos; beginnt</translation>
+    </message>
+    <message>
+        <source>words that do not begin with &apos;-&apos;, with one space between each two</source>
+        <translation>Wörter, die nicht mit &apos;-&apos; beginnen, mit je einem Leerzeichen dazwischen</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid date.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Datum.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid device class.</source>
+        <translation>&apos;%1&apos; ist keine gültige Geräteklasse.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid hardware identity.</source>
+        <translation>&apos;%1&apos; ist keine gültige Hardwarekennung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid type of a parameter file.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Typ einer Parameterdatei.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid type of a drive.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Typ eines Antriebs.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid drive number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Antriebsnummer.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid start option.</source>
+        <translation>&apos;%1&apos; ist keine gültige Startoption.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid argument of a start option.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Argument einer Startoption.</translation>
+    </message>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+    <message>
+        <source>The character U+%1 cannot be stored in a configuration.</source>
+        <translation>Das Zeichen U+%1 kann nicht in einer Konfiguration gespeichert werden.</translation>
     </message>
 </context>
 </TS>
