@@ -1075,6 +1075,62 @@
 <context>
     <name>CConfigurationItems</name>
     <message>
+        <source>%1: there is no such drive</source>
+        <translation>%1: diesen Antrieb gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such parameter file</source>
+        <translation>%1: diese Parameterdatei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such FPGA image</source>
+        <translation>%1: dieses FPGA-Abbild gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such OPC UA file</source>
+        <translation>%1: diese OPC-UA-Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such plug-in</source>
+        <translation>%1: dieses Plug-in gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such option</source>
+        <translation>%1: diese Option gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file</source>
+        <translation>%1: diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is such a drive already</source>
+        <translation>%1: diesen Antrieb gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such a parameter file already</source>
+        <translation>%1: diese Parameterdatei gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such an FPGA image already</source>
+        <translation>%1: dieses FPGA-Abbild gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such an OPC UA file already</source>
+        <translation>%1: diese OPC-UA-Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such a plug-in already</source>
+        <translation>%1: dieses Plug-in gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such an option already</source>
+        <translation>%1: diese Option gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such a file already</source>
+        <translation>%1: diese Datei gibt es schon</translation>
+    </message>
+    <message>
         <source>%1: %2 Expected: %3.</source>
         <translation>%1: %2 Erwartet: %3.</translation>
     </message>
@@ -1153,62 +1209,6 @@
     <message>
         <source>%1: the configuration does not have it</source>
         <translation>%1: die Konfiguration hat das nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such drive</source>
-        <translation>%1: diesen Antrieb gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such parameter file</source>
-        <translation>%1: diese Parameterdatei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such FPGA image</source>
-        <translation>%1: dieses FPGA-Abbild gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such OPC UA file</source>
-        <translation>%1: diese OPC-UA-Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such plug-in</source>
-        <translation>%1: dieses Plug-in gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such option</source>
-        <translation>%1: diese Option gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such file</source>
-        <translation>%1: diese Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is such a drive already</source>
-        <translation>%1: diesen Antrieb gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such a parameter file already</source>
-        <translation>%1: diese Parameterdatei gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such an FPGA image already</source>
-        <translation>%1: dieses FPGA-Abbild gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such an OPC UA file already</source>
-        <translation>%1: diese OPC-UA-Datei gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such a plug-in already</source>
-        <translation>%1: dieses Plug-in gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such an option already</source>
-        <translation>%1: diese Option gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such a file already</source>
-        <translation>%1: diese Datei gibt es schon</translation>
     </message>
 </context>
 <context>

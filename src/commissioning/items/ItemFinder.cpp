@@ -1,7 +1,8 @@
 #include "commissioning/items/ItemFinder.h"
 
-#include "commissioning/items/ItemTexts.h"
+#include "commissioning/items/EntryTexts.h"
 #include "commissioning/items/NearestName.h"
+#include "commissioning/Texts.h"
 #include "configfile/ItemValue.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 
 using namespace ConfigurationShape;
+using ConfigurationItemsTexts::Texts;
 using ItemPath::joined;
 
 namespace {
@@ -69,7 +71,7 @@ bool ItemFinder::find(const QString &path, SItemPlace &place, bool entryMayBeAbs
     place.node = &ItemTree::root();
     place.anchor = m_file.domDocument().documentElement();
     if (place.anchor.isNull()) {
-        return fail(ItemTexts::tr("There is no configuration."));
+        return fail(Texts::tr("There is no configuration."));
     }
     QList<SItemPathStep> steps;
     QString reason;
@@ -88,7 +90,7 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
 {
     const QString path = joined(place.path, given.text());
     if (place.node->isList() && !place.isEntry) {
-        return fail(ItemTexts::tr("%1: an entry of the list must be named, as in %2")
+        return fail(Texts::tr("%1: an entry of the list must be named, as in %2")
                         .arg(path, SItemPathStep{place.path, QStringLiteral("…"), 1, true}.text()));
     }
     const auto &children = place.node->children;
@@ -99,8 +101,7 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
         return failUnknownWord(place, path, given.word);
     }
     if (!canHave(place.element(), *child)) {
-        return fail(
-            ItemTexts::tr("%1: only a drive of the type KD2_drive has this file").arg(path));
+        return fail(Texts::tr("%1: only a drive of the type KD2_drive has this file").arg(path));
     }
     const QString listPath = joined(place.path, given.word);
     place.list = place.isEntry ? place.node : nullptr;
@@ -120,7 +121,7 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
 bool ItemFinder::enterList(const SItemPathStep &given, bool entryMayBeAbsent, SItemPlace &place)
 {
     if (!place.node->isList()) {
-        return fail(ItemTexts::tr("%1: %2 is no list, nothing can stand in brackets behind it")
+        return fail(Texts::tr("%1: %2 is no list, nothing can stand in brackets behind it")
                         .arg(place.path, given.word));
     }
     place.entry = given;
@@ -134,7 +135,7 @@ bool ItemFinder::enterList(const SItemPathStep &given, bool entryMayBeAbsent, SI
                                                               : findEntry(place.entry, place);
     place.isAbsent = !isFound;
     return isFound || entryMayBeAbsent
-        || fail(ItemTexts::missingEntry(place.node->shape->entry, place.path));
+        || fail(EntryTexts::missing(place.node->shape->entry, place.path));
 }
 
 bool ItemFinder::findOption(const SItemPathStep &wanted, SItemPlace &place) const
@@ -246,13 +247,13 @@ bool ItemFinder::failUnknownWord(const SItemPlace &place, const QString &path, c
         }
     }
     if (words.isEmpty() || place.node->isItem()) {
-        return fail(ItemTexts::tr("%1: there is no such item").arg(path));
+        return fail(Texts::tr("%1: there is no such item").arg(path));
     }
     const QString meant = nearestName(word, words);
     if (!meant.isEmpty()) {
-        return fail(ItemTexts::tr("%1: there is no such item; did you mean %2?")
+        return fail(Texts::tr("%1: there is no such item; did you mean %2?")
                         .arg(path, joined(place.path, meant)));
     }
-    return fail(ItemTexts::tr("%1: there is no such item; there are %2")
+    return fail(Texts::tr("%1: there is no such item; there are %2")
                     .arg(path, words.join(QStringLiteral(", "))));
 }
