@@ -328,6 +328,10 @@
         <translation>Die letzten drei sind Zahlen von 0 bis 65535; eine ungültige Hardwarekennung wird als leer gelesen.</translation>
     </message>
     <message>
+        <source>The plug-in is read without a priority.</source>
+        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
+    </message>
+    <message>
         <source>The device class is missing.</source>
         <translation>Die Geräteklasse fehlt.</translation>
     </message>
@@ -342,10 +346,6 @@
     <message>
         <source>The type of the parameter file is &apos;Undefined&apos;.</source>
         <translation>Der Typ der Parameterdatei ist &apos;Undefined&apos;.</translation>
-    </message>
-    <message>
-        <source>The plug-in is read without a priority.</source>
-        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
     </message>
     <message>
         <source>The drive has no type.</source>
@@ -1099,96 +1099,8 @@
         <translation>%1: diese Datei gibt es schon</translation>
     </message>
     <message>
-        <source>%1: there is no such item</source>
-        <translation>%1: diesen Eintrag gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; did you mean %2?</source>
-        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; there are %2</source>
-        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
-    </message>
-    <message>
-        <source>%1: an entry of the list must be named, as in %2</source>
-        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
-    </message>
-    <message>
-        <source>%1: only a drive of the type KD2_drive has this file</source>
-        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
-    </message>
-    <message>
-        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
-        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
-    </message>
-    <message>
-        <source>There is no configuration.</source>
-        <translation>Es gibt keine Konfiguration.</translation>
-    </message>
-    <message>
-        <source>%1: the character U+%2 cannot be stored in a configuration</source>
-        <translation>%1: das Zeichen U+%2 kann in einer Konfiguration nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>%1: the words of an argument are separated by single blanks</source>
-        <translation>%1: die Wörter eines Arguments sind durch einzelne Leerzeichen getrennt</translation>
-    </message>
-    <message>
-        <source>%1: in &apos;%2&apos; a word begins with &apos;-&apos;, which would be an option</source>
-        <translation>%1: in &apos;%2&apos; beginnt ein Wort mit &apos;-&apos;, was eine Option wäre</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no drive number; one is a number from 0 to %3</source>
-        <translation>%1: &apos;%2&apos; ist keine Antriebsnummer; das ist eine Zahl von 0 bis %3</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no option; one is a word that begins with &apos;-&apos;</source>
-        <translation>%1: &apos;%2&apos; ist keine Option; das ist ein Wort, das mit &apos;-&apos; beginnt</translation>
-    </message>
-    <message>
-        <source>%1: a name must not be empty</source>
-        <translation>%1: ein Name darf nicht leer sein</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no date; one is written as 2026-11-21</source>
-        <translation>%1: &apos;%2&apos; ist kein Datum; das schreibt man wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no device class; there are kc2, kd3 and Undefined</source>
-        <translation>%1: &apos;%2&apos; ist keine Geräteklasse; es gibt kc2, kd3 und Undefined</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no hardware identity; one is written as PREFIX:NAME:PLATFORM:VERSION:REVISION</source>
-        <translation>%1: &apos;%2&apos; ist keine Hardwarekennung; das schreibt man wie PREFIX:NAME:PLATFORM:VERSION:REVISION</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is neither true nor false</source>
-        <translation>%1: &apos;%2&apos; ist weder true noch false</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from 0 to 4294967295</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from -2147483648 to 2147483647</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of parameter files</source>
-        <translation>%1: &apos;%2&apos; ist kein Typ von Parameterdateien</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of drives; there are KD2_drive and KD3_drive</source>
-        <translation>%1: &apos;%2&apos; ist kein Antriebstyp; es gibt KD2_drive und KD3_drive</translation>
-    </message>
-    <message>
-        <source>%1: this has no value of its own</source>
-        <translation>%1: dies hat keinen eigenen Wert</translation>
-    </message>
-    <message>
-        <source>%1: the configuration does not have it</source>
-        <translation>%1: die Konfiguration hat das nicht</translation>
+        <source>%1: %2 Expected: %3.</source>
+        <translation>%1: %2 Erwartet: %3.</translation>
     </message>
     <message>
         <source>%1: only entries of lists can be added</source>
@@ -1205,6 +1117,34 @@
     <message>
         <source>%1: the entry cannot be without it</source>
         <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
+    </message>
+    <message>
+        <source>There is no configuration.</source>
+        <translation>Es gibt keine Konfiguration.</translation>
+    </message>
+    <message>
+        <source>%1: an entry of the list must be named, as in %2</source>
+        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
+    </message>
+    <message>
+        <source>%1: only a drive of the type KD2_drive has this file</source>
+        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
+        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item</source>
+        <translation>%1: diesen Eintrag gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; did you mean %2?</source>
+        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; there are %2</source>
+        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
     </message>
     <message>
         <source>a &apos;.&apos; is missing</source>
@@ -1229,6 +1169,14 @@
     <message>
         <source>&apos;%1&apos; is no path: %2 at character %3</source>
         <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
+    </message>
+    <message>
+        <source>%1: this has no value of its own</source>
+        <translation>%1: dies hat keinen eigenen Wert</translation>
+    </message>
+    <message>
+        <source>%1: the configuration does not have it</source>
+        <translation>%1: die Konfiguration hat das nicht</translation>
     </message>
 </context>
 <context>
@@ -2679,7 +2627,7 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
     <message>
         <source>The character U+%1 cannot be stored in a configuration.</source>
-        <translation>Das Zeichen U+%1 kann in einer Konfiguration nicht gespeichert werden.</translation>
+        <translation>Das Zeichen U+%1 kann nicht in einer Konfiguration gespeichert werden.</translation>
     </message>
 </context>
 </TS>

@@ -175,7 +175,7 @@ const QList<SInvalid> InvalidFiles = {
     {"bus-id-too-high", {"114:4 bus-id-invalid drive[0].busId"}},
     {"bus-id-twice", {"129:4 bus-id-twice drive[254].busId"}},
     {"file-without-name", {"82:5 file-name-missing files[]"}},
-    {"file-entry-empty", {"82:5 file-name-missing files[]"}},
+    {"file-entry-empty", {"82:5 file-name-missing files"}},
     {"file-name-with-slash", {"83:6 file-name-invalid files[a/recipes.csv]"}},
     {"file-name-with-backslash", {"83:6 file-name-invalid files[a\\\\recipes\\].csv]"}},
     {"file-name-with-line-break", {"83:6 file-name-invalid files[recipes.csv\n     ]"}},
@@ -456,6 +456,7 @@ private Q_SLOTS:
     void severities();
     void documentsOfTheRules();
     void itemsAreThoseOfTheDocument();
+    void entriesAreCountedAsTheItems();
     void texts_data();
     void texts();
     void unreadable_data();
@@ -745,6 +746,26 @@ void tst_CConfigurationCheck::itemsAreThoseOfTheDocument()
                      qPrintable(u"%1: %2"_s.arg(QString::fromUtf8(invalid.name), item)));
         }
     }
+}
+
+void tst_CConfigurationCheck::entriesAreCountedAsTheItems()
+{
+    // Readers pass over the first one, and take the others for files without a name.
+    const QByteArray bytes =
+        document("<Files><File/><File><Comment>a</Comment></File><File><Comment>b</Comment></File>"
+                 "</Files>");
+    CConfigurationCheck check;
+    QVERIFY(check.load(bytes));
+    QStringList found;
+    for (const SConfigurationFinding &finding : check.findings()) {
+        if (finding.rule == u"file-name-missing"_s) {
+            found << finding.item;
+        }
+    }
+    QCOMPARE(found, QStringList({u"files"_s, u"files[]"_s, u"files[][2]"_s}));
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load(bytes));
+    QCOMPARE(CConfigurationItems(file).entries(), found.mid(1));
 }
 
 void tst_CConfigurationCheck::texts_data()
