@@ -8,863 +8,67 @@
         <translation>%1: Das Verzeichnis ist nicht lesbar.</translation>
     </message>
     <message>
-        <source>%1: There is no such directory.</source>
-        <translation>%1: Dieses Verzeichnis gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>The document does not tell its version.</source>
-        <translation>Das Dokument nennt seine Version nicht.</translation>
-    </message>
-    <message>
-        <source>The document is read as one of version 1.0; write &apos;version=&quot;1.0&quot;&apos;, or save it with a tool.</source>
-        <translation>Das Dokument wird als eines der Version 1.0 gelesen; schreiben Sie &apos;version=&quot;1.0&quot;&apos;, oder sichern Sie es mit einem Werkzeug.</translation>
-    </message>
-    <message>
-        <source>The version of the document is no version.</source>
-        <translation>Die Version des Dokuments ist keine.</translation>
-    </message>
-    <message>
-        <source>A version is one to three numbers with dots between them; the document is read as one of version 1.0.</source>
-        <translation>Eine Version besteht aus einer bis drei Zahlen mit Punkten dazwischen; das Dokument wird als eines der Version 1.0 gelesen.</translation>
-    </message>
-    <message>
-        <source>The document was created with a previous or a later version.</source>
-        <translation>Das Dokument wurde mit einer früheren oder späteren Version erstellt.</translation>
-    </message>
-    <message>
-        <source>The document is read as one of version 1.0: look whether everything in it is known here, then save it anew.</source>
-        <translation>Das Dokument wird als eines der Version 1.0 gelesen: Sehen Sie nach, ob alles darin hier bekannt ist, und sichern Sie es dann neu.</translation>
-    </message>
-    <message>
-        <source>Nobody knows an element of that name.</source>
-        <translation>Ein Element dieses Namens kennt niemand.</translation>
-    </message>
-    <message>
-        <source>Mend the name, or remove the element. Capital and small letters matter.</source>
-        <translation>Berichtigen Sie den Namen, oder entfernen Sie das Element. Groß- und Kleinschreibung zählt.</translation>
-    </message>
-    <message>
-        <source>An element stands where it is not looked for, and is passed over.</source>
-        <translation>Ein Element steht, wo es nicht gesucht wird, und wird übergangen.</translation>
-    </message>
-    <message>
-        <source>Move the element to where it is looked for; the finding tells where that is.</source>
-        <translation>Verschieben Sie das Element dorthin, wo es gesucht wird; der Befund nennt die Stelle.</translation>
-    </message>
-    <message>
-        <source>An element stands more than once, but only the first one counts.</source>
-        <translation>Ein Element steht mehrmals, aber nur das erste zählt.</translation>
-    </message>
-    <message>
-        <source>Remove all but the one that is meant: it is the first one that is read.</source>
-        <translation>Entfernen Sie alle bis auf das gemeinte: Gelesen wird das erste.</translation>
-    </message>
-    <message>
-        <source>An element has an attribute that nobody reads.</source>
-        <translation>Ein Element hat ein Attribut, das niemand liest.</translation>
-    </message>
-    <message>
-        <source>Remove the attribute, or mend its name. Names that belong to XML itself, like &apos;xmlns&apos; and &apos;xml:lang&apos;, are no findings.</source>
-        <translation>Entfernen Sie das Attribut, oder berichtigen Sie seinen Namen. Namen, die zu XML selbst gehören, wie &apos;xmlns&apos; und &apos;xml:lang&apos;, sind keine Befunde.</translation>
-    </message>
-    <message>
-        <source>Text stands between elements, where nobody reads it.</source>
-        <translation>Text steht zwischen Elementen, wo ihn niemand liest.</translation>
-    </message>
-    <message>
-        <source>Remove the text, or put it into the element for which it is meant.</source>
-        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
-    </message>
-    <message>
-        <source>A date is none.</source>
-        <translation>Ein Datum ist keines.</translation>
-    </message>
-    <message>
-        <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is none, and allowed.</source>
-        <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist keines und erlaubt.</translation>
-    </message>
-    <message>
-        <source>The configuration was revised before it was created.</source>
-        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
-    </message>
-    <message>
-        <source>One of the two dates is wrong, or they are interchanged.</source>
-        <translation>Eines der beiden Daten ist falsch, oder sie sind vertauscht.</translation>
-    </message>
-    <message>
-        <source>So much was found that the rest is left out.</source>
-        <translation>Es wurde so viel gefunden, dass der Rest weggelassen wird.</translation>
-    </message>
-    <message>
-        <source>Mend what is told, then check again: of one document 100,000 findings are told at most.</source>
-        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde genannt.</translation>
+        <source>%1: The directory does not exist.</source>
+        <translation>%1: Das Verzeichnis existiert nicht.</translation>
     </message>
     <message>
         <source>The document has no device.</source>
         <translation>Das Dokument enthält kein Gerät.</translation>
     </message>
     <message>
-        <source>Without a device there is nothing to be commissioned; add the element &apos;Device&apos;.</source>
-        <translation>Ohne Gerät gibt es nichts in Betrieb zu nehmen; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
-    </message>
-    <message>
-        <source>The device has no class.</source>
-        <translation>Das Gerät hat keine Klasse.</translation>
-    </message>
-    <message>
-        <source>Write &apos;kc2&apos; or &apos;kd3&apos;.</source>
-        <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos;.</translation>
-    </message>
-    <message>
-        <source>The class of the device is left open.</source>
-        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>There is no such class of devices.</source>
-        <translation>Diese Geräteklasse gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Write &apos;kc2&apos; or &apos;kd3&apos;, in small letters; anything else is read as &apos;Undefined&apos;.</source>
-        <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The device has no name.</source>
-        <translation>Das Gerät hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>Give the device a name. It is also that of the device&apos;s directory in the project.</source>
-        <translation>Geben Sie dem Gerät einen Namen. So heißt auch das Verzeichnis des Geräts im Projekt.</translation>
-    </message>
-    <message>
-        <source>The device has no configuration block.</source>
-        <translation>Das Gerät hat keinen Konfigurationsblock.</translation>
-    </message>
-    <message>
-        <source>Add the element &apos;Config&apos;; without it the device has no options, files and plug-ins.</source>
-        <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
-    </message>
-    <message>
-        <source>The device does not tell the name of its configuration.</source>
-        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
-    </message>
-    <message>
-        <source>The name is read as &apos;STD&apos;; write it down.</source>
-        <translation>Der Name wird als &apos;STD&apos; gelesen; schreiben Sie ihn hin.</translation>
-    </message>
-    <message>
-        <source>The name of the configuration is empty.</source>
-        <translation>Der Name der Konfiguration ist leer.</translation>
-    </message>
-    <message>
-        <source>Give the configuration a name: without one it has no directories on the device.</source>
-        <translation>Geben Sie der Konfiguration einen Namen: Ohne einen hat sie keine Verzeichnisse auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>The name of the configuration is one that the device keeps for itself.</source>
-        <translation>Der Name der Konfiguration ist einer, den sich das Gerät selbst vorbehält.</translation>
-    </message>
-    <message>
-        <source>Choose a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;.</source>
-        <translation>Wählen Sie einen Namen ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;.</translation>
-    </message>
-    <message>
-        <source>The name of the configuration is not one that can be entered.</source>
-        <translation>Der Name der Konfiguration ist keiner, der eingegeben werden kann.</translation>
-    </message>
-    <message>
-        <source>Use letters from A to Z, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow.</source>
-        <translation>Verwenden Sie Buchstaben von A bis Z, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen.</translation>
-    </message>
-    <message>
-        <source>A hardware identity is none.</source>
-        <translation>Eine Hardwarekennung ist keine.</translation>
-    </message>
-    <message>
-        <source>Write &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; the last three are numbers from 0 to 65535. What is none is read as empty.</source>
-        <translation>Schreiben Sie &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; die letzten drei sind Zahlen von 0 bis 65535. Was keine Hardwarekennung ist, wird als leer gelesen.</translation>
-    </message>
-    <message>
-        <source>The hardware identity of a drive does not fit that of the device.</source>
-        <translation>Die Hardwarekennung eines Antriebs passt nicht zu der des Geräts.</translation>
-    </message>
-    <message>
-        <source>Prefix, name and platform of a drive are those of its device; version and revision may differ. Was the drive copied from another device?</source>
-        <translation>Präfix, Name und Plattform eines Antriebs sind die seines Geräts; Version und Revision dürfen abweichen. Wurde der Antrieb von einem anderen Gerät kopiert?</translation>
-    </message>
-    <message>
-        <source>A start option is none, or not separated by a blank.</source>
-        <translation>Eine Startoption ist keine oder nicht durch ein Leerzeichen getrennt.</translation>
-    </message>
-    <message>
-        <source>An option begins with a hyphen, and what follows it is its argument. Options are separated by blanks; a line break is none.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich, und was ihr folgt, ist ihr Argument. Optionen sind durch Leerzeichen getrennt; ein Zeilenumbruch ist keines.</translation>
-    </message>
-    <message>
-        <source>A start option stands more than once.</source>
-        <translation>Eine Startoption steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Remove all but one. The same option with different arguments is no finding.</source>
-        <translation>Entfernen Sie alle bis auf eine. Dieselbe Option mit verschiedenen Argumenten ist kein Befund.</translation>
-    </message>
-    <message>
-        <source>The flag of the OPC UA server is neither true nor false.</source>
-        <translation>Der Schalter des OPC-UA-Servers ist weder true noch false.</translation>
-    </message>
-    <message>
-        <source>Write &apos;true&apos; or &apos;false&apos;, in small letters; anything else is read as &apos;false&apos;.</source>
-        <translation>Schreiben Sie &apos;true&apos; oder &apos;false&apos; in Kleinbuchstaben; alles andere wird als &apos;false&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The flag of the OPC UA server and the option -opc contradict each other.</source>
-        <translation>Der Schalter des OPC-UA-Servers und die Option -opc widersprechen sich.</translation>
-    </message>
-    <message>
-        <source>Add the option &apos;-opc&apos;, or disable the server.</source>
-        <translation>Fügen Sie die Option &apos;-opc&apos; hinzu, oder schalten Sie den Server ab.</translation>
-    </message>
-    <message>
-        <source>A parameter file has no type.</source>
-        <translation>Eine Parameterdatei hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>Tell the type with the attribute &apos;type&apos;; it decides where the file lies.</source>
-        <translation>Nennen Sie den Typ mit dem Attribut &apos;type&apos;; er entscheidet, wo die Datei liegt.</translation>
-    </message>
-    <message>
-        <source>The type of a parameter file is left open.</source>
-        <translation>Der Typ einer Parameterdatei ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>Tell the type; it decides where the file lies.</source>
-        <translation>Nennen Sie den Typ; er entscheidet, wo die Datei liegt.</translation>
-    </message>
-    <message>
-        <source>There is no such type of parameter files.</source>
-        <translation>Diesen Typ von Parameterdateien gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Mend the type; it is read as &apos;Undefined&apos;. Capital and small letters matter.</source>
-        <translation>Berichtigen Sie den Typ; er wird als &apos;Undefined&apos; gelesen. Groß- und Kleinschreibung zählt.</translation>
-    </message>
-    <message>
-        <source>A parameter file stands more than once.</source>
-        <translation>Eine Parameterdatei steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Remove all but one. Files of one name, but different types, may stand side by side.</source>
-        <translation>Entfernen Sie alle bis auf eine. Dateien gleichen Namens, aber verschiedenen Typs dürfen nebeneinander stehen.</translation>
-    </message>
-    <message>
-        <source>An FPGA image stands more than once.</source>
-        <translation>Ein FPGA-Abbild steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Remove all but one; the first image is the active one.</source>
-        <translation>Entfernen Sie alle bis auf eines; das erste Abbild ist das aktive.</translation>
-    </message>
-    <message>
-        <source>A plug-in has no name.</source>
-        <translation>Ein Plug-in hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>Name the plug-in, or remove the entry.</source>
-        <translation>Benennen Sie das Plug-in, oder entfernen Sie den Eintrag.</translation>
-    </message>
-    <message>
-        <source>A plug-in has no version.</source>
-        <translation>Ein Plug-in hat keine Version.</translation>
-    </message>
-    <message>
-        <source>Tell the version: it is the end of the file&apos;s name.</source>
-        <translation>Nennen Sie die Version: Sie ist das Ende des Dateinamens.</translation>
-    </message>
-    <message>
-        <source>The version of a plug-in is not made of numbers and dots.</source>
-        <translation>Die Version eines Plug-ins besteht nicht aus Zahlen und Punkten.</translation>
-    </message>
-    <message>
-        <source>Write numbers with dots between them, like &apos;1.3&apos;: the version is the end of the file&apos;s name.</source>
-        <translation>Schreiben Sie Zahlen mit Punkten dazwischen, wie &apos;1.3&apos;: Die Version ist das Ende des Dateinamens.</translation>
-    </message>
-    <message>
-        <source>A plug-in stands more than once.</source>
-        <translation>Ein Plug-in steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Remove all but one.</source>
-        <translation>Entfernen Sie alle bis auf eines.</translation>
-    </message>
-    <message>
-        <source>The priority of a plug-in is no number, or out of range.</source>
-        <translation>Die Priorität eines Plug-ins ist keine Zahl oder außerhalb des Bereichs.</translation>
-    </message>
-    <message>
-        <source>Write a number from -2147483648 to 2147483647; otherwise the plug-in has no priority.</source>
-        <translation>Schreiben Sie eine Zahl von -2147483648 bis 2147483647; sonst hat das Plug-in keine Priorität.</translation>
-    </message>
-    <message>
-        <source>The plug-in that runs the application is not among the plug-ins.</source>
-        <translation>Das Plug-in, das die Anwendung ausführt, ist nicht unter den Plug-ins.</translation>
-    </message>
-    <message>
-        <source>Add the plug-in, or name one of those that are there.</source>
-        <translation>Fügen Sie das Plug-in hinzu, oder nennen Sie eines von denen, die da sind.</translation>
-    </message>
-    <message>
-        <source>There is the plug-in of the EtherCAT master, but no file for it.</source>
-        <translation>Das Plug-in des EtherCAT-Masters ist da, aber keine Datei dafür.</translation>
-    </message>
-    <message>
-        <source>Add the bus configuration, or remove the plug-in.</source>
-        <translation>Fügen Sie die Buskonfiguration hinzu, oder entfernen Sie das Plug-in.</translation>
-    </message>
-    <message>
-        <source>There is a file for the EtherCAT master, but not its plug-in.</source>
-        <translation>Eine Datei für den EtherCAT-Master ist da, aber nicht sein Plug-in.</translation>
-    </message>
-    <message>
-        <source>Add the plug-in &apos;CECatMaster&apos;, or remove the file.</source>
-        <translation>Fügen Sie das Plug-in &apos;CECatMaster&apos; hinzu, oder entfernen Sie die Datei.</translation>
-    </message>
-    <message>
-        <source>A drive has no type.</source>
-        <translation>Ein Antrieb hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; without a type the drive is read as &apos;KD3_drive&apos;.</source>
-        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; ohne Typ wird der Antrieb als &apos;KD3_drive&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The type of a drive is left open.</source>
-        <translation>Der Typ eines Antriebs ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; the drive is read as &apos;KD3_drive&apos;.</source>
-        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; der Antrieb wird als &apos;KD3_drive&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>There is no such type of drives.</source>
-        <translation>Diesen Antriebstyp gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; anything else, also in small letters, is read as &apos;KD3_drive&apos;.</source>
-        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; alles andere, auch in Kleinbuchstaben, wird als &apos;KD3_drive&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>A drive that is not read as KD2 has a file of KD2 drives.</source>
-        <translation>Ein Antrieb, der nicht als KD2 gelesen wird, hat eine Datei von KD2-Antrieben.</translation>
-    </message>
-    <message>
-        <source>Remove the file, or make the drive a &apos;KD2_drive&apos;.</source>
-        <translation>Entfernen Sie die Datei, oder machen Sie den Antrieb zu einem &apos;KD2_drive&apos;.</translation>
-    </message>
-    <message>
-        <source>A drive has no number.</source>
-        <translation>Ein Antrieb hat keine Nummer.</translation>
-    </message>
-    <message>
-        <source>Write a number from 0 to 254; otherwise the drive gets the next one that no other drive has.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste, die kein anderer Antrieb hat.</translation>
-    </message>
-    <message>
-        <source>The number of a drive is no number, or out of range.</source>
-        <translation>Die Nummer eines Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
-    </message>
-    <message>
-        <source>Write a number from 0 to 254; otherwise the drive gets the next one that no other drive has. 255 means that no number is assigned.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste, die kein anderer Antrieb hat. 255 bedeutet, dass keine Nummer vergeben ist.</translation>
-    </message>
-    <message>
-        <source>Two drives have the same number.</source>
-        <translation>Zwei Antriebe haben dieselbe Nummer.</translation>
-    </message>
-    <message>
-        <source>Give each drive a number of its own; otherwise all but the first get the next ones that no other drive has.</source>
-        <translation>Geben Sie jedem Antrieb eine eigene Nummer; sonst bekommen alle bis auf den ersten die nächsten, die kein anderer Antrieb hat.</translation>
-    </message>
-    <message>
-        <source>A drive has no name.</source>
-        <translation>Ein Antrieb hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>Name the drive; otherwise it is named after its number.</source>
-        <translation>Benennen Sie den Antrieb; sonst wird er nach seiner Nummer benannt.</translation>
-    </message>
-    <message>
-        <source>Two drives have the same name.</source>
-        <translation>Zwei Antriebe haben denselben Namen.</translation>
-    </message>
-    <message>
-        <source>Give each drive a name of its own.</source>
-        <translation>Geben Sie jedem Antrieb einen eigenen Namen.</translation>
-    </message>
-    <message>
-        <source>The bus identifier of a drive is no number, or out of range.</source>
-        <translation>Die Buskennung eines Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
-    </message>
-    <message>
-        <source>Write a number from 0 to 4294967295; anything else is read as 0, which means that none is assigned.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 4294967295; alles andere wird als 0 gelesen, was bedeutet, dass keine vergeben ist.</translation>
-    </message>
-    <message>
-        <source>Two drives have the same bus identifier.</source>
-        <translation>Zwei Antriebe haben dieselbe Buskennung.</translation>
-    </message>
-    <message>
-        <source>Look whether both drives are on the same bus; there each has an identifier of its own.</source>
-        <translation>Sehen Sie nach, ob beide Antriebe am selben Bus sind; dort hat jeder seine eigene Kennung.</translation>
-    </message>
-    <message>
-        <source>A file has no name.</source>
-        <translation>Eine Datei hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>Name the file, or remove the entry.</source>
-        <translation>Benennen Sie die Datei, oder entfernen Sie den Eintrag.</translation>
-    </message>
-    <message>
-        <source>The name of a file is a path, or has characters that no name has.</source>
-        <translation>Der Name einer Datei ist ein Pfad oder hat Zeichen, die kein Name hat.</translation>
-    </message>
-    <message>
-        <source>Write the name alone; directories have elements of their own. A line break in the element belongs to the name, too.</source>
-        <translation>Schreiben Sie nur den Namen; Verzeichnisse haben eigene Elemente. Auch ein Zeilenumbruch im Element gehört zum Namen.</translation>
-    </message>
-    <message>
-        <source>A file stands more than once.</source>
-        <translation>Eine Datei steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Two files would overwrite each other on the device.</source>
-        <translation>Zwei Dateien würden sich auf dem Gerät gegenseitig überschreiben.</translation>
-    </message>
-    <message>
-        <source>Give one of the two another name or another directory on the device. Parameter files, FPGA images, plug-ins and the configuration itself have their places, too.</source>
-        <translation>Geben Sie einer der beiden einen anderen Namen oder ein anderes Verzeichnis auf dem Gerät. Auch Parameterdateien, FPGA-Abbilder, Plug-ins und die Konfiguration selbst haben ihre Plätze.</translation>
-    </message>
-    <message>
-        <source>A file has no directory on the device.</source>
-        <translation>Eine Datei hat kein Verzeichnis auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>Tell where on the device the file belongs.</source>
-        <translation>Nennen Sie den Platz auf dem Gerät, an den die Datei gehört.</translation>
-    </message>
-    <message>
-        <source>A directory on the device does not begin with a slash.</source>
-        <translation>Ein Verzeichnis auf dem Gerät beginnt nicht mit einem Schrägstrich.</translation>
-    </message>
-    <message>
-        <source>Begin with a slash; the directory is read as if there were one.</source>
-        <translation>Beginnen Sie mit einem Schrägstrich; das Verzeichnis wird gelesen, als stünde dort einer.</translation>
-    </message>
-    <message>
-        <source>A directory on the device leads upwards with &quot;..&quot;.</source>
-        <translation>Ein Verzeichnis auf dem Gerät führt nach oben mit &quot;..&quot;.</translation>
-    </message>
-    <message>
-        <source>Write the directory that is meant, without &apos;..&apos;.</source>
-        <translation>Schreiben Sie das gemeinte Verzeichnis, ohne &apos;..&apos;.</translation>
-    </message>
-    <message>
-        <source>A directory on the device lies outside the device&apos;s trees.</source>
-        <translation>Ein Verzeichnis auf dem Gerät liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
-    </message>
-    <message>
-        <source>Choose a directory below &apos;/velkor/&apos; or &apos;/opt/velkor/&apos;.</source>
-        <translation>Wählen Sie ein Verzeichnis unter &apos;/velkor/&apos; oder &apos;/opt/velkor/&apos;.</translation>
-    </message>
-    <message>
-        <source>A directory on the device belongs to another configuration.</source>
-        <translation>Ein Verzeichnis auf dem Gerät gehört zu einer anderen Konfiguration.</translation>
-    </message>
-    <message>
-        <source>Was the configuration renamed? Then the directory has to follow.</source>
-        <translation>Wurde die Konfiguration umbenannt? Dann muss das Verzeichnis folgen.</translation>
-    </message>
-    <message>
-        <source>A directory in the project is absolute, and holds on one computer only.</source>
-        <translation>Ein Verzeichnis im Projekt ist absolut und gilt nur auf einem Rechner.</translation>
-    </message>
-    <message>
-        <source>Write the directory relative to the project.</source>
-        <translation>Schreiben Sie das Verzeichnis relativ zum Projekt.</translation>
-    </message>
-    <message>
-        <source>A directory in the project leads out of the project.</source>
-        <translation>Ein Verzeichnis im Projekt führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>Move the file into the project.</source>
-        <translation>Verschieben Sie die Datei in das Projekt.</translation>
-    </message>
-    <message>
-        <source>A directory in the project is not below that of the device, and is removed when the device is read.</source>
-        <translation>Ein Verzeichnis im Projekt liegt nicht unter dem des Geräts und wird beim Lesen des Geräts entfernt.</translation>
-    </message>
-    <message>
-        <source>Object dictionary and fault texts lie below the directory that is called as the device.</source>
-        <translation>Objektverzeichnis und Fehlertexte liegen unter dem Verzeichnis, das wie das Gerät heißt.</translation>
-    </message>
-    <message>
-        <source>A file is not in the project.</source>
-        <translation>Eine Datei ist nicht im Projekt.</translation>
-    </message>
-    <message>
-        <source>Put the file into the project, or mend its name or directory. For a parameter file, an FPGA image and a plug-in the directory follows from its kind; &apos;vrndevice place&apos; shows it.</source>
-        <translation>Legen Sie die Datei in das Projekt, oder berichtigen Sie ihren Namen oder ihr Verzeichnis. Bei einer Parameterdatei, einem FPGA-Abbild und einem Plug-in folgt das Verzeichnis aus der Art; &apos;vrndevice place&apos; zeigt es.</translation>
-    </message>
-    <message>
-        <source>A file is in the project with capital and small letters interchanged.</source>
-        <translation>Eine Datei ist im Projekt mit vertauschter Groß- und Kleinschreibung.</translation>
-    </message>
-    <message>
-        <source>Call the file in the project and in the configuration the same: on the device capital and small letters matter.</source>
-        <translation>Nennen Sie die Datei im Projekt und in der Konfiguration gleich: Auf dem Gerät zählt die Groß- und Kleinschreibung.</translation>
-    </message>
-    <message>
-        <source>A symbolic link leads out of the project.</source>
-        <translation>Eine symbolische Verknüpfung führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>Replace the symbolic link by the file: whoever gets the project does not get what lies outside.</source>
-        <translation>Ersetzen Sie den symbolischen Link durch die Datei: Wer das Projekt bekommt, bekommt nicht, was außerhalb liegt.</translation>
-    </message>
-    <message>
-        <source>What is in the project is no regular file.</source>
-        <translation>Was im Projekt steht, ist keine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>Replace the directory, pipe or device of that name by the file.</source>
-        <translation>Ersetzen Sie das Verzeichnis, die Pipe oder die Gerätedatei dieses Namens durch die Datei.</translation>
-    </message>
-    <message>
-        <source>A file in the project cannot be read.</source>
-        <translation>Eine Datei im Projekt ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>Look at the permissions of the file.</source>
-        <translation>Sehen Sie sich die Rechte der Datei an.</translation>
-    </message>
-    <message>
-        <source>A file in the project is empty.</source>
-        <translation>Eine Datei im Projekt ist leer.</translation>
-    </message>
-    <message>
-        <source>Fill the file, or remove the entry.</source>
-        <translation>Füllen Sie die Datei, oder entfernen Sie den Eintrag.</translation>
-    </message>
-    <message>
-        <source>A file in the project is not the one that the manifest tells.</source>
-        <translation>Eine Datei im Projekt ist nicht die, die das Manifest nennt.</translation>
-    </message>
-    <message>
-        <source>Put back the file with the size and the SHA-256 sum that &apos;manifest.json&apos; tells, or make the manifest anew.</source>
-        <translation>Legen Sie die Datei mit der Größe und der SHA-256-Summe zurück, die &apos;manifest.json&apos; nennt, oder erstellen Sie das Manifest neu.</translation>
-    </message>
-    <message>
-        <source>The manifest of the project cannot be read.</source>
-        <translation>Das Manifest des Projekts ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>Make the manifest anew. Until then the files are not compared with it.</source>
-        <translation>Erstellen Sie das Manifest neu. Bis dahin werden die Dateien nicht mit ihm verglichen.</translation>
-    </message>
-    <message>
-        <source>Write &apos;%1&apos;: capital and small letters matter.</source>
-        <translation>Schreiben Sie &apos;%1&apos;: Groß- und Kleinschreibung zählt.</translation>
-    </message>
-    <message>
-        <source>The project&apos;s manifest cannot be read: %1</source>
-        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
-    </message>
-    <message>
-        <source>a manifest as it is made by staging</source>
-        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
-    </message>
-    <message>
-        <source>Make the manifest anew; files are not compared with this one.</source>
-        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
-    </message>
-    <message>
-        <source>There is more to be found; from here on it is left out.</source>
-        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
-    </message>
-    <message>
-        <source>Mend what is told, then check again.</source>
-        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
-    </message>
-    <message>
-        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
-        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>Remove the attribute.</source>
-        <translation>Entfernen Sie das Attribut.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
-        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
-    </message>
-    <message>
-        <source>one &apos;%1&apos;</source>
-        <translation>ein &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
-        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
-    </message>
-    <message>
-        <source>nothing but elements</source>
-        <translation>nichts als Elemente</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
-    </message>
-    <message>
-        <source>at the top of the document</source>
-        <translation>auf der obersten Ebene des Dokuments</translation>
-    </message>
-    <message>
-        <source>in %1</source>
-        <translation>in %1</translation>
-    </message>
-    <message>
-        <source>Move the element to where it belongs, or remove it.</source>
-        <translation>Verschieben Sie das Element dahin, wo es hingehört, oder entfernen Sie es.</translation>
-    </message>
-    <message>
-        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
-        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>nothing but text</source>
-        <translation>nichts als Text</translation>
-    </message>
-    <message>
-        <source>Remove the element, or mend its name.</source>
-        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
-    </message>
-    <message>
-        <source>The document is read as one of version %1; save it anew with this version.</source>
-        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no version.</source>
-        <translation>&apos;%1&apos; ist keine Version.</translation>
-    </message>
-    <message>
-        <source>The document was created with a previous version.</source>
-        <translation>Das Dokument wurde mit einer früheren Version erstellt.</translation>
-    </message>
-    <message>
-        <source>The document was created with a later version.</source>
-        <translation>Das Dokument wurde mit einer späteren Version erstellt.</translation>
-    </message>
-    <message>
         <source>an element &apos;%1&apos;</source>
         <translation>ein Element &apos;%1&apos;</translation>
     </message>
     <message>
-        <source>Without a device there is nothing to be commissioned.</source>
-        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
+        <source>A configuration without a device cannot be commissioned.</source>
+        <translation>Eine Konfiguration ohne Gerät kann nicht in Betrieb genommen werden.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no date.</source>
-        <translation>&apos;%1&apos; ist kein Datum.</translation>
-    </message>
-    <message>
-        <source>a date like 2026-11-21</source>
-        <translation>ein Datum wie 2026-11-21</translation>
+        <source>The revision date is earlier than the creation date.</source>
+        <translation>Das Überarbeitungsdatum liegt vor dem Erstellungsdatum.</translation>
     </message>
     <message>
         <source>%1 or later</source>
         <translation>%1 oder später</translation>
     </message>
     <message>
+        <source>The device has no name.</source>
+        <translation>Das Gerät hat keinen Namen.</translation>
+    </message>
+    <message>
         <source>a name</source>
         <translation>ein Name</translation>
     </message>
     <message>
-        <source>The name is also that of the device&apos;s directory in the project.</source>
-        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
+        <source>The directory of the device in the project has the same name.</source>
+        <translation>Das Verzeichnis des Geräts im Projekt heißt ebenso.</translation>
     </message>
     <message>
-        <source>The device is read without options, files and plug-ins.</source>
+        <source>The device has no configuration block.</source>
+        <translation>Das Gerät hat keinen Konfigurationsblock.</translation>
+    </message>
+    <message>
+        <source>The device is read without options, files or plug-ins.</source>
         <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
     </message>
     <message>
-        <source>There is no device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keine Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
+        <source>The configuration name is missing.</source>
+        <translation>Der Konfigurationsname fehlt.</translation>
     </message>
     <message>
         <source>It is read as &apos;%1&apos;.</source>
         <translation>Gelesen wird &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>letters, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow</source>
-        <translation>Buchstaben, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen</translation>
+        <source>&apos;%1&apos; is ignored: the type of the drive is &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird ignoriert: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
     </message>
     <message>
-        <source>Without a name it has no directories on the device.</source>
-        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
+        <source>Remove the file, or correct the type of the drive.</source>
+        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
-        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
-    </message>
-    <message>
-        <source>a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;</source>
-        <translation>ein Name ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
-        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no hardware identity.</source>
-        <translation>&apos;%1&apos; ist keine Hardwarekennung.</translation>
-    </message>
-    <message>
-        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
-        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
-    </message>
-    <message>
-        <source>options like -trace with one blank between each two</source>
-        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
-    </message>
-    <message>
-        <source>Options are separated by something other than a blank.</source>
-        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
-    </message>
-    <message>
-        <source>The device takes this for one word.</source>
-        <translation>Das Gerät hält dies für ein Wort.</translation>
-    </message>
-    <message>
-        <source>An option has a hyphen, but no name.</source>
-        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no option, and follows none.</source>
-        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
-    </message>
-    <message>
-        <source>An option begins with a hyphen; what follows it is its argument.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
-    </message>
-    <message>
-        <source>The option &apos;%1&apos; stands more than once.</source>
-        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
-        <translation>&apos;%1&apos; ist weder true noch false; es wird als false gelesen.</translation>
-    </message>
-    <message>
-        <source>The OPC UA server is enabled, but the option %1 is missing.</source>
-        <translation>Der OPC-UA-Server ist eingeschaltet, aber die Option %1 fehlt.</translation>
-    </message>
-    <message>
-        <source>Add the option %1, or disable the server.</source>
-        <translation>Ergänzen Sie die Option %1, oder schalten Sie den Server aus.</translation>
-    </message>
-    <message>
-        <source>There is the option %1, but the OPC UA server is not enabled.</source>
-        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
-    </message>
-    <message>
-        <source>Enable the server, or remove the option %1.</source>
-        <translation>Schalten Sie den Server ein, oder entfernen Sie die Option %1.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
-        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
-    </message>
-    <message>
-        <source>the name of a plug-in</source>
-        <translation>der Name eines Plug-ins</translation>
-    </message>
-    <message>
-        <source>Add the plug-in, or name another one.</source>
-        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; has no bus configuration.</source>
-        <translation>Das Plug-in &apos;%1&apos; hat keine Buskonfiguration.</translation>
-    </message>
-    <message>
-        <source>a file in &apos;%1&apos;</source>
-        <translation>eine Datei in &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
-        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>a plug-in &apos;%1&apos;</source>
-        <translation>ein Plug-in &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>The parameter file &apos;%1&apos; stands more than once.</source>
-        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The parameter file has no type.</source>
-        <translation>Die Parameterdatei hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>The type of the parameter file is left open.</source>
-        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>There is no type &apos;%1&apos; of parameter files; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Typ &apos;%1&apos; von Parameterdateien; er wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
-        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The plug-in has no name.</source>
-        <translation>Das Plug-in hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; stands more than once.</source>
-        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>numbers with dots between them, like 1.3</source>
-        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; has no version.</source>
-        <translation>Das Plug-in &apos;%1&apos; hat keine Version.</translation>
-    </message>
-    <message>
-        <source>Its file would be &apos;%1&apos;.</source>
-        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no version of a plug-in.</source>
-        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no priority.</source>
-        <translation>&apos;%1&apos; ist keine Priorität.</translation>
-    </message>
-    <message>
-        <source>a number from -2147483648 to 2147483647</source>
-        <translation>eine Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>The plug-in is read without a priority.</source>
-        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
+        <source>The hardware identity &apos;%1&apos; does not match that of the device.</source>
         <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
     </message>
     <message>
@@ -872,144 +76,36 @@
         <translation>Präfix, Name und Plattform von &apos;%1&apos;</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
+        <source>The drive number %1 is already used by %2.</source>
+        <translation>Die Antriebsnummer %1 ist schon durch %2 belegt.</translation>
     </message>
     <message>
-        <source>Remove the file, or mend the drive&apos;s type.</source>
-        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
-    </message>
-    <message>
-        <source>The drive has no type; it is read as &apos;%1&apos;.</source>
-        <translation>Der Antrieb hat keinen Typ; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The type of the drive is left open; it is read as &apos;%1&apos;.</source>
-        <translation>Der Typ des Antriebs ist offen gelassen; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>There is no type &apos;%1&apos; of drives; the drive is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to %1</source>
-        <translation>eine Zahl von 0 bis %1</translation>
-    </message>
-    <message>
-        <source>The drive is read with the next number that no other drive has.</source>
-        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
-    </message>
-    <message>
-        <source>The drive has no number.</source>
-        <translation>Der Antrieb hat keine Nummer.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no number of a drive.</source>
-        <translation>&apos;%1&apos; ist keine Antriebsnummer.</translation>
-    </message>
-    <message>
-        <source>This number means that no number is assigned.</source>
-        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
-    </message>
-    <message>
-        <source>The number %1 is also that of %2.</source>
-        <translation>Die Nummer %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>a number of its own</source>
-        <translation>eine eigene Nummer</translation>
+        <source>a unique number</source>
+        <translation>eine eindeutige Nummer</translation>
     </message>
     <message>
         <source>The drive has no name.</source>
         <translation>Der Antrieb hat keinen Namen.</translation>
     </message>
     <message>
-        <source>When the drive is read it is named after its number.</source>
-        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
+        <source>The drive is read with a name made from its number.</source>
+        <translation>Der Antrieb wird mit einem Namen gelesen, der aus seiner Nummer gebildet ist.</translation>
     </message>
     <message>
-        <source>The name &apos;%1&apos; is also that of %2.</source>
-        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
+        <source>The name &apos;%1&apos; is already used by %2.</source>
+        <translation>Der Name &apos;%1&apos; ist schon durch %2 belegt.</translation>
     </message>
     <message>
-        <source>a name of its own</source>
-        <translation>ein eigener Name</translation>
+        <source>a unique name</source>
+        <translation>ein eindeutiger Name</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no bus identifier; it is read as 0.</source>
-        <translation>&apos;%1&apos; ist keine Buskennung; sie wird als 0 gelesen.</translation>
+        <source>The bus identifier %1 is already used by %2.</source>
+        <translation>Die Buskennung %1 ist schon durch %2 belegt.</translation>
     </message>
     <message>
-        <source>a number from 0 to 4294967295</source>
-        <translation>eine Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>The bus identifier %1 is also that of %2.</source>
-        <translation>Die Buskennung %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>an identifier of its own</source>
-        <translation>eine eigene Kennung</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; has no directory on the device.</source>
-        <translation>Die Datei &apos;%1&apos; hat kein Verzeichnis auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>a directory below %1 or %2</source>
-        <translation>ein Verzeichnis unter %1 oder %2</translation>
-    </message>
-    <message>
-        <source>The file has no name.</source>
-        <translation>Die Datei hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>Remove the entry if no file is meant.</source>
-        <translation>Entfernen Sie den Eintrag, wenn keine Datei gemeint ist.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no name of a file.</source>
-        <translation>&apos;%1&apos; ist kein Dateiname.</translation>
-    </message>
-    <message>
-        <source>a name without directory, slashes and line breaks</source>
-        <translation>ein Name ohne Verzeichnis, Schrägstriche und Zeilenumbrüche</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; leads upwards.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; führt nach oben.</translation>
-    </message>
-    <message>
-        <source>names of at most %1 bytes</source>
-        <translation>Namen von höchstens %1 Bytes</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>Choose shorter names.</source>
-        <translation>Wählen Sie kürzere Namen.</translation>
-    </message>
-    <message>
-        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
-        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be read: %2</source>
-        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
-        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
-    </message>
-    <message>
-        <source>a directory without &apos;..&apos;</source>
-        <translation>ein Verzeichnis ohne &apos;..&apos;</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; lies outside the device&apos;s trees.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
+        <source>a unique bus identifier</source>
+        <translation>eine eindeutige Buskennung</translation>
     </message>
     <message>
         <source>The directory &apos;%1&apos; does not begin with a slash.</source>
@@ -1024,24 +120,8 @@
         <translation>ein Verzeichnis von &apos;%1&apos;</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; is absolute.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; ist absolut.</translation>
-    </message>
-    <message>
-        <source>a directory relative to the project</source>
-        <translation>ein Verzeichnis relativ zum Projekt</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; leads out of the project.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>a directory in the project</source>
-        <translation>ein Verzeichnis im Projekt</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; is not below that of the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
+        <source>The directory &apos;%1&apos; is not below the directory of the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem Verzeichnis des Geräts.</translation>
     </message>
     <message>
         <source>a directory below &apos;%1&apos;</source>
@@ -1052,56 +132,884 @@
         <translation>Es wird beim Lesen des Geräts entfernt.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
-        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
+        <source>The file &apos;%1&apos; is listed more than once with the same directories.</source>
+        <translation>Die Datei &apos;%1&apos; ist mehrmals mit denselben Verzeichnissen aufgeführt.</translation>
     </message>
     <message>
-        <source>a place of its own</source>
-        <translation>ein eigener Platz</translation>
+        <source>Remove all but one.</source>
+        <translation>Entfernen Sie alle bis auf eines.</translation>
     </message>
     <message>
-        <source>The one that is transferred last overwrites the other one.</source>
-        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
+        <source>The parameter file &apos;%1&apos; is listed more than once.</source>
+        <translation>Die Parameterdatei &apos;%1&apos; ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>The FPGA image &apos;%1&apos; is listed more than once.</source>
+        <translation>Das FPGA-Abbild &apos;%1&apos; ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Remove all but one; the first image is the active one.</source>
+        <translation>Entfernen Sie alle bis auf eines; das erste Abbild ist das aktive.</translation>
+    </message>
+    <message>
+        <source>Too many findings; the remaining ones are left out.</source>
+        <translation>Zu viele Befunde; die übrigen werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Correct the reported findings, then check again.</source>
+        <translation>Beheben Sie die gemeldeten Befunde, und prüfen Sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>The manifest of the project cannot be read: %1</source>
+        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>a manifest written by staging</source>
+        <translation>ein Manifest, das beim Bereitstellen geschrieben wird</translation>
+    </message>
+    <message>
+        <source>Create the manifest again; the files are not compared with this one.</source>
+        <translation>Erzeugen Sie das Manifest neu; mit diesem werden die Dateien nicht verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; differs from the manifest.</source>
+        <translation>Die Datei &apos;%1&apos; weicht vom Manifest ab.</translation>
+    </message>
+    <message>
+        <source>Restore the file, or create the manifest again.</source>
+        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+    </message>
+    <message>
+        <source>options such as -trace, separated by single spaces</source>
+        <translation>Optionen wie -trace, durch einzelne Leerzeichen getrennt</translation>
+    </message>
+    <message>
+        <source>Options are separated by something other than a space.</source>
+        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
+    </message>
+    <message>
+        <source>The device reads this as one word.</source>
+        <translation>Das Gerät liest dies als ein Wort.</translation>
+    </message>
+    <message>
+        <source>An option has a hyphen but no name.</source>
+        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither an option nor the value of one.</source>
+        <translation>&apos;%1&apos; ist weder eine Option noch der Wert einer Option.</translation>
+    </message>
+    <message>
+        <source>An option begins with a hyphen; the words after it are its argument.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; die Wörter danach sind ihr Argument.</translation>
+    </message>
+    <message>
+        <source>The option &apos;%1&apos; occurs more than once.</source>
+        <translation>Die Option &apos;%1&apos; kommt mehrmals vor.</translation>
+    </message>
+    <message>
+        <source>The OPC UA server is enabled, but the option %1 is missing.</source>
+        <translation>Der OPC-UA-Server ist eingeschaltet, aber die Option %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Add the option %1, or disable the server.</source>
+        <translation>Ergänzen Sie die Option %1, oder schalten Sie den Server aus.</translation>
+    </message>
+    <message>
+        <source>The option %1 is present, but the OPC UA server is not enabled.</source>
+        <translation>Die Option %1 ist vorhanden, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Enable the server, or remove the option %1.</source>
+        <translation>Schalten Sie den Server ein, oder entfernen Sie die Option %1.</translation>
+    </message>
+    <message>
+        <source>The plug-in has no name.</source>
+        <translation>Das Plug-in hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; is listed more than once.</source>
+        <translation>Das Plug-in &apos;%1&apos; ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>The execution plug-in &apos;%1&apos; is not in the list of plug-ins.</source>
+        <translation>Das Plug-in der Anwendung &apos;%1&apos; ist nicht in der Liste der Plug-ins.</translation>
+    </message>
+    <message>
+        <source>the name of a plug-in</source>
+        <translation>der Name eines Plug-ins</translation>
+    </message>
+    <message>
+        <source>Add the plug-in, or choose another one.</source>
+        <translation>Fügen Sie das Plug-in hinzu, oder wählen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; has no bus configuration.</source>
+        <translation>Das Plug-in &apos;%1&apos; hat keine Buskonfiguration.</translation>
+    </message>
+    <message>
+        <source>a file in &apos;%1&apos;</source>
+        <translation>eine Datei in &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The bus configuration needs the plug-in &apos;%1&apos;, which is missing.</source>
+        <translation>Die Buskonfiguration braucht das Plug-in &apos;%1&apos;, das fehlt.</translation>
+    </message>
+    <message>
+        <source>a plug-in &apos;%1&apos;</source>
+        <translation>ein Plug-in &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; contains text, which is ignored.</source>
+        <translation>&apos;%1&apos; enthält Text, der ignoriert wird.</translation>
+    </message>
+    <message>
+        <source>only elements</source>
+        <translation>nur Elemente</translation>
+    </message>
+    <message>
+        <source>Remove the text, or move it into the element for which it is meant.</source>
+        <translation>Entfernen Sie den Text, oder verschieben Sie ihn in das Element, für das er gedacht ist.</translation>
+    </message>
+    <message>
+        <source>Unknown attribute &apos;%2&apos; of the element &apos;%1&apos;; it is ignored.</source>
+        <translation>Unbekanntes Attribut &apos;%2&apos; des Elements &apos;%1&apos;; es wird ignoriert.</translation>
+    </message>
+    <message>
+        <source>Remove the attribute.</source>
+        <translation>Entfernen Sie das Attribut.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; occurs more than once in &apos;%2&apos;; only the first one is read.</source>
+        <translation>&apos;%1&apos; kommt mehrmals in &apos;%2&apos; vor; nur das erste wird gelesen.</translation>
+    </message>
+    <message>
+        <source>one &apos;%1&apos;</source>
+        <translation>ein &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not belong in &apos;%2&apos;; it is ignored.</source>
+        <translation>&apos;%1&apos; gehört nicht in &apos;%2&apos;; es wird ignoriert.</translation>
+    </message>
+    <message>
+        <source>at the top of the document</source>
+        <translation>auf der obersten Ebene des Dokuments</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>Move the element to where it belongs, or remove it.</source>
+        <translation>Verschieben Sie das Element dahin, wo es hingehört, oder entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>Unknown element &apos;%1&apos;; it is ignored.</source>
+        <translation>Unbekanntes Element &apos;%1&apos;; es wird ignoriert.</translation>
+    </message>
+    <message>
+        <source>only text</source>
+        <translation>nur Text</translation>
+    </message>
+    <message>
+        <source>Remove the element, or correct its name.</source>
+        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
+    </message>
+    <message>
+        <source>The drive is read with the next free number.</source>
+        <translation>Der Antrieb wird mit der nächsten freien Nummer gelesen.</translation>
+    </message>
+    <message>
+        <source>The last three are numbers from 0 to 65535; an invalid hardware identity is read as empty.</source>
+        <translation>Die letzten drei sind Zahlen von 0 bis 65535; eine ungültige Hardwarekennung wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>The plug-in is read without a priority.</source>
+        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
+    </message>
+    <message>
+        <source>The device class is missing.</source>
+        <translation>Die Geräteklasse fehlt.</translation>
+    </message>
+    <message>
+        <source>The device class is &apos;Undefined&apos;.</source>
+        <translation>Die Geräteklasse ist &apos;Undefined&apos;.</translation>
+    </message>
+    <message>
+        <source>The parameter file has no type.</source>
+        <translation>Die Parameterdatei hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of the parameter file is &apos;Undefined&apos;.</source>
+        <translation>Der Typ der Parameterdatei ist &apos;Undefined&apos;.</translation>
+    </message>
+    <message>
+        <source>The drive has no type.</source>
+        <translation>Der Antrieb hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of the drive is undefined.</source>
+        <translation>Der Typ des Antriebs ist nicht festgelegt.</translation>
+    </message>
+    <message>
+        <source>The drive number is missing.</source>
+        <translation>Die Antriebsnummer fehlt.</translation>
+    </message>
+    <message>
+        <source>This number means that no number is assigned.</source>
+        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
+    </message>
+    <message>
+        <source>The document is read as version %1; save it again with this version.</source>
+        <translation>Das Dokument wird als Version %1 gelesen; sichern Sie es erneut mit dieser Version.</translation>
+    </message>
+    <message>
+        <source>The version of the document is missing.</source>
+        <translation>Die Version des Dokuments fehlt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid version.</source>
+        <translation>&apos;%1&apos; ist keine gültige Version.</translation>
+    </message>
+    <message>
+        <source>The document was created with a previous version.</source>
+        <translation>Das Dokument wurde mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The document was created with a later version.</source>
+        <translation>Das Dokument wurde mit einer späteren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>letters, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow</source>
+        <translation>Buchstaben, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen</translation>
+    </message>
+    <message>
+        <source>The configuration name is empty.</source>
+        <translation>Der Konfigurationsname ist leer.</translation>
+    </message>
+    <message>
+        <source>The directories on the device are named after it.</source>
+        <translation>Die Verzeichnisse auf dem Gerät werden nach ihm benannt.</translation>
+    </message>
+    <message>
+        <source>The configuration name &apos;%1&apos; is reserved by the device.</source>
+        <translation>Der Konfigurationsname &apos;%1&apos; ist vom Gerät reserviert.</translation>
+    </message>
+    <message>
+        <source>a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;</source>
+        <translation>ein Name ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid configuration name.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Konfigurationsname.</translation>
+    </message>
+    <message>
+        <source>numbers separated by dots, such as 1.3</source>
+        <translation>Zahlen, durch Punkte getrennt, wie 1.3</translation>
+    </message>
+    <message>
+        <source>The file name of the plug-in would be &apos;%1&apos;.</source>
+        <translation>Der Dateiname des Plug-ins wäre &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; has no version.</source>
+        <translation>Das Plug-in &apos;%1&apos; hat keine Version.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid plug-in version.</source>
+        <translation>&apos;%1&apos; ist keine gültige Version eines Plug-ins.</translation>
+    </message>
+    <message>
+        <source>The document is read as version 1.0; add &apos;version=&quot;1.0&quot;&apos; to its first element, or save it with a tool.</source>
+        <translation>Das Dokument wird als Version 1.0 gelesen; ergänzen Sie &apos;version=&quot;1.0&quot;&apos; in seinem ersten Element, oder sichern Sie es mit einem Werkzeug.</translation>
+    </message>
+    <message>
+        <source>The version of the document is not valid.</source>
+        <translation>Die Version des Dokuments ist ungültig.</translation>
+    </message>
+    <message>
+        <source>A version consists of one to three numbers separated by dots; the document is read as version 1.0.</source>
+        <translation>Eine Version besteht aus einer bis drei Zahlen, durch Punkte getrennt; das Dokument wird als Version 1.0 gelesen.</translation>
+    </message>
+    <message>
+        <source>The document was created with a previous or a later version.</source>
+        <translation>Das Dokument wurde mit einer früheren oder späteren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The document is read as version 1.0. Check that this version knows everything in it, then save it again.</source>
+        <translation>Das Dokument wird als Version 1.0 gelesen. Prüfen Sie, ob diese Version alles darin kennt, und sichern Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>Unknown element.</source>
+        <translation>Unbekanntes Element.</translation>
+    </message>
+    <message>
+        <source>Correct the name, or remove the element. Names are case-sensitive.</source>
+        <translation>Berichtigen Sie den Namen, oder entfernen Sie das Element. Bei Namen wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
+    </message>
+    <message>
+        <source>The element is in the wrong place and is ignored.</source>
+        <translation>Das Element steht an der falschen Stelle und wird ignoriert.</translation>
+    </message>
+    <message>
+        <source>Move the element to the place that the finding names.</source>
+        <translation>Verschieben Sie das Element an die Stelle, die der Befund nennt.</translation>
+    </message>
+    <message>
+        <source>The element occurs more than once; only the first one is read.</source>
+        <translation>Das Element kommt mehrmals vor; gelesen wird nur das erste.</translation>
+    </message>
+    <message>
+        <source>Keep the element that is meant, and remove the others.</source>
+        <translation>Behalten Sie das gemeinte Element, und entfernen Sie die anderen.</translation>
+    </message>
+    <message>
+        <source>Unknown attribute.</source>
+        <translation>Unbekanntes Attribut.</translation>
+    </message>
+    <message>
+        <source>Remove the attribute, or correct its name. Names that belong to XML itself, such as &apos;xmlns&apos; and &apos;xml:lang&apos;, are not reported.</source>
+        <translation>Entfernen Sie das Attribut, oder berichtigen Sie seinen Namen. Namen, die zu XML selbst gehören, wie &apos;xmlns&apos; und &apos;xml:lang&apos;, werden nicht gemeldet.</translation>
+    </message>
+    <message>
+        <source>Unexpected text between elements; it is ignored.</source>
+        <translation>Unerwarteter Text zwischen Elementen; er wird ignoriert.</translation>
+    </message>
+    <message>
+        <source>The date is not valid.</source>
+        <translation>Das Datum ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is allowed and means that no date is set.</source>
+        <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist erlaubt und bedeutet, dass kein Datum gesetzt ist.</translation>
+    </message>
+    <message>
+        <source>Correct the wrong date; the two dates may be interchanged.</source>
+        <translation>Berichtigen Sie das falsche Datum; möglicherweise sind die beiden vertauscht.</translation>
+    </message>
+    <message>
+        <source>Correct the reported findings, then check again: at most 100,000 findings are reported for one document.</source>
+        <translation>Beheben Sie die gemeldeten Befunde, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde gemeldet.</translation>
+    </message>
+    <message>
+        <source>A configuration without a device cannot be commissioned; add the element &apos;Device&apos;.</source>
+        <translation>Eine Konfiguration ohne Gerät kann nicht in Betrieb genommen werden; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
+    </message>
+    <message>
+        <source>Write &apos;kc2&apos; or &apos;kd3&apos;.</source>
+        <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos;.</translation>
+    </message>
+    <message>
+        <source>Unknown device class.</source>
+        <translation>Unbekannte Geräteklasse.</translation>
+    </message>
+    <message>
+        <source>Write &apos;kc2&apos; or &apos;kd3&apos; in lower case; anything else is read as &apos;Undefined&apos;.</source>
+        <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>Give the device a name. The directory of the device in the project has the same name.</source>
+        <translation>Geben Sie dem Gerät einen Namen. Das Verzeichnis des Geräts im Projekt heißt ebenso.</translation>
+    </message>
+    <message>
+        <source>Add the element &apos;Config&apos;; without it the device has no options, files or plug-ins.</source>
+        <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
+    </message>
+    <message>
+        <source>The name is read as &apos;STD&apos;. Add the name that is meant.</source>
+        <translation>Der Name wird als &apos;STD&apos; gelesen. Ergänzen Sie den gemeinten Namen.</translation>
+    </message>
+    <message>
+        <source>Give the configuration a name: the directories on the device are named after it.</source>
+        <translation>Geben Sie der Konfiguration einen Namen: Die Verzeichnisse auf dem Gerät werden nach ihm benannt.</translation>
+    </message>
+    <message>
+        <source>The configuration name is reserved by the device.</source>
+        <translation>Der Konfigurationsname ist vom Gerät reserviert.</translation>
+    </message>
+    <message>
+        <source>Choose a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;.</source>
+        <translation>Wählen Sie einen Namen ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;.</translation>
+    </message>
+    <message>
+        <source>The configuration name is not valid.</source>
+        <translation>Der Konfigurationsname ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Use letters from A to Z, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow.</source>
+        <translation>Verwenden Sie Buchstaben von A bis Z, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen.</translation>
+    </message>
+    <message>
+        <source>The hardware identity is not valid.</source>
+        <translation>Die Hardwarekennung ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Write &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; the last three are numbers from 0 to 65535. An invalid hardware identity is read as empty.</source>
+        <translation>Schreiben Sie &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; die letzten drei sind Zahlen von 0 bis 65535. Eine ungültige Hardwarekennung wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>The hardware identity of the drive does not match that of the device.</source>
+        <translation>Die Hardwarekennung des Antriebs passt nicht zu der des Geräts.</translation>
+    </message>
+    <message>
+        <source>A drive must have the prefix, name and platform of its device; version and revision may differ. Check whether the drive was copied from another device.</source>
+        <translation>Ein Antrieb muss Präfix, Name und Plattform seines Geräts haben; Version und Revision dürfen abweichen. Prüfen Sie, ob der Antrieb von einem anderen Gerät kopiert wurde.</translation>
+    </message>
+    <message>
+        <source>The start option is not valid, or not separated by a space.</source>
+        <translation>Die Startoption ist ungültig oder nicht durch ein Leerzeichen getrennt.</translation>
+    </message>
+    <message>
+        <source>An option begins with a hyphen; the words after it are its argument. Separate options by spaces, not by line breaks.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; die Wörter danach sind ihr Argument. Trennen Sie Optionen durch Leerzeichen, nicht durch Zeilenumbrüche.</translation>
+    </message>
+    <message>
+        <source>The start option occurs more than once.</source>
+        <translation>Die Startoption kommt mehrmals vor.</translation>
+    </message>
+    <message>
+        <source>Remove all but one. The same option with different arguments is not reported.</source>
+        <translation>Entfernen Sie alle bis auf eine. Dieselbe Option mit verschiedenen Argumenten wird nicht gemeldet.</translation>
+    </message>
+    <message>
+        <source>The flag of the OPC UA server is neither &apos;true&apos; nor &apos;false&apos;.</source>
+        <translation>Der Schalter des OPC-UA-Servers ist weder &apos;true&apos; noch &apos;false&apos;.</translation>
+    </message>
+    <message>
+        <source>Write &apos;true&apos; or &apos;false&apos; in lower case; anything else is read as &apos;false&apos;.</source>
+        <translation>Schreiben Sie &apos;true&apos; oder &apos;false&apos; in Kleinbuchstaben; alles andere wird als &apos;false&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>The flag of the OPC UA server and the option -opc contradict each other.</source>
+        <translation>Der Schalter des OPC-UA-Servers und die Option -opc widersprechen sich.</translation>
+    </message>
+    <message>
+        <source>Add the option &apos;-opc&apos;, or disable the server.</source>
+        <translation>Fügen Sie die Option &apos;-opc&apos; hinzu, oder schalten Sie den Server ab.</translation>
+    </message>
+    <message>
+        <source>Specify the type with the attribute &apos;type&apos;; it determines the directory of the file.</source>
+        <translation>Geben Sie den Typ mit dem Attribut &apos;type&apos; an; er bestimmt das Verzeichnis der Datei.</translation>
+    </message>
+    <message>
+        <source>Specify the type; it determines the directory of the file.</source>
+        <translation>Geben Sie den Typ an; er bestimmt das Verzeichnis der Datei.</translation>
+    </message>
+    <message>
+        <source>Unknown parameter file type.</source>
+        <translation>Unbekannter Typ einer Parameterdatei.</translation>
+    </message>
+    <message>
+        <source>Correct the type; it is read as &apos;Undefined&apos;. Types are case-sensitive.</source>
+        <translation>Berichtigen Sie den Typ; er wird als &apos;Undefined&apos; gelesen. Bei Typen wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
+    </message>
+    <message>
+        <source>The parameter file is listed more than once.</source>
+        <translation>Die Parameterdatei ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Remove all but one. Files of the same name but of different types are allowed.</source>
+        <translation>Entfernen Sie alle bis auf eine. Dateien gleichen Namens, aber verschiedenen Typs sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>The FPGA image is listed more than once.</source>
+        <translation>Das FPGA-Abbild ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Name the plug-in, or remove the entry.</source>
+        <translation>Benennen Sie das Plug-in, oder entfernen Sie den Eintrag.</translation>
+    </message>
+    <message>
+        <source>The plug-in has no version.</source>
+        <translation>Das Plug-in hat keine Version.</translation>
+    </message>
+    <message>
+        <source>Specify the version; the file name ends with it.</source>
+        <translation>Geben Sie die Version an; der Dateiname endet mit ihr.</translation>
+    </message>
+    <message>
+        <source>The version of the plug-in does not consist of numbers and dots.</source>
+        <translation>Die Version des Plug-ins besteht nicht aus Zahlen und Punkten.</translation>
+    </message>
+    <message>
+        <source>Write numbers separated by dots, such as &apos;1.3&apos;; the file name ends with the version.</source>
+        <translation>Schreiben Sie Zahlen, durch Punkte getrennt, wie &apos;1.3&apos;; der Dateiname endet mit der Version.</translation>
+    </message>
+    <message>
+        <source>The plug-in is listed more than once.</source>
+        <translation>Das Plug-in ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>The priority of the plug-in is not a number, or is out of range.</source>
+        <translation>Die Priorität des Plug-ins ist keine Zahl oder außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Write a number from -2147483648 to 2147483647; otherwise the plug-in is read without a priority.</source>
+        <translation>Schreiben Sie eine Zahl von -2147483648 bis 2147483647; sonst wird das Plug-in ohne Priorität gelesen.</translation>
+    </message>
+    <message>
+        <source>The execution plug-in is not in the list of plug-ins.</source>
+        <translation>Das Plug-in der Anwendung ist nicht in der Liste der Plug-ins.</translation>
+    </message>
+    <message>
+        <source>Add the plug-in, or choose one from the list.</source>
+        <translation>Fügen Sie das Plug-in hinzu, oder wählen Sie eines aus der Liste.</translation>
+    </message>
+    <message>
+        <source>The EtherCAT master plug-in has no bus configuration file.</source>
+        <translation>Das Plug-in des EtherCAT-Masters hat keine Datei mit der Buskonfiguration.</translation>
+    </message>
+    <message>
+        <source>Add the bus configuration, or remove the plug-in.</source>
+        <translation>Fügen Sie die Buskonfiguration hinzu, oder entfernen Sie das Plug-in.</translation>
+    </message>
+    <message>
+        <source>The bus configuration file has no EtherCAT master plug-in.</source>
+        <translation>Zur Datei mit der Buskonfiguration fehlt das Plug-in des EtherCAT-Masters.</translation>
+    </message>
+    <message>
+        <source>Add the plug-in &apos;CECatMaster&apos;, or remove the file.</source>
+        <translation>Fügen Sie das Plug-in &apos;CECatMaster&apos; hinzu, oder entfernen Sie die Datei.</translation>
+    </message>
+    <message>
+        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; without a type the drive is read as &apos;KD3_drive&apos;.</source>
+        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; ohne Typ wird der Antrieb als &apos;KD3_drive&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>The type of the drive is &apos;Undefined&apos;.</source>
+        <translation>Der Typ des Antriebs ist &apos;Undefined&apos;.</translation>
+    </message>
+    <message>
+        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; the drive is read as &apos;KD3_drive&apos;.</source>
+        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; der Antrieb wird als &apos;KD3_drive&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>Unknown drive type.</source>
+        <translation>Unbekannter Antriebstyp.</translation>
+    </message>
+    <message>
+        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; anything else, also in lower case, is read as &apos;KD3_drive&apos;.</source>
+        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; alles andere, auch in Kleinbuchstaben, wird als &apos;KD3_drive&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>A file for KD2 drives belongs to a drive of another type.</source>
+        <translation>Eine Datei für KD2-Antriebe gehört zu einem Antrieb anderen Typs.</translation>
+    </message>
+    <message>
+        <source>Remove the file, or change the type of the drive to &apos;KD2_drive&apos;.</source>
+        <translation>Entfernen Sie die Datei, oder ändern Sie den Typ des Antriebs in &apos;KD2_drive&apos;.</translation>
+    </message>
+    <message>
+        <source>Write a number from 0 to 254; otherwise the drive gets the next free number.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste freie Nummer.</translation>
+    </message>
+    <message>
+        <source>The drive number is not a number, or is out of range.</source>
+        <translation>Die Antriebsnummer ist keine Zahl oder außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Write a number from 0 to 254; otherwise the drive gets the next free number. 255 means that no number is assigned.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste freie Nummer. 255 bedeutet, dass keine Nummer vergeben ist.</translation>
+    </message>
+    <message>
+        <source>Two drives have the same drive number.</source>
+        <translation>Zwei Antriebe haben dieselbe Antriebsnummer.</translation>
+    </message>
+    <message>
+        <source>Give each drive a unique number; otherwise all drives but the first get the next free numbers.</source>
+        <translation>Geben Sie jedem Antrieb eine eindeutige Nummer; sonst bekommen alle Antriebe bis auf den ersten die nächsten freien Nummern.</translation>
+    </message>
+    <message>
+        <source>Name the drive; otherwise it is named after its number.</source>
+        <translation>Benennen Sie den Antrieb; sonst wird er nach seiner Nummer benannt.</translation>
+    </message>
+    <message>
+        <source>Two drives have the same name.</source>
+        <translation>Zwei Antriebe haben denselben Namen.</translation>
+    </message>
+    <message>
+        <source>Give each drive a unique name.</source>
+        <translation>Geben Sie jedem Antrieb einen eindeutigen Namen.</translation>
+    </message>
+    <message>
+        <source>The bus identifier of the drive is not a number, or is out of range.</source>
+        <translation>Die Buskennung des Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Write a number from 0 to 4294967295; anything else is read as 0, which means that no bus identifier is assigned.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 4294967295; alles andere wird als 0 gelesen, was bedeutet, dass keine Buskennung vergeben ist.</translation>
+    </message>
+    <message>
+        <source>Two drives have the same bus identifier.</source>
+        <translation>Zwei Antriebe haben dieselbe Buskennung.</translation>
+    </message>
+    <message>
+        <source>Check whether both drives are on the same fieldbus; drives on one fieldbus need different bus identifiers.</source>
+        <translation>Prüfen Sie, ob beide Antriebe am selben Feldbus sind; Antriebe an einem Feldbus brauchen verschiedene Buskennungen.</translation>
+    </message>
+    <message>
+        <source>The file has no name.</source>
+        <translation>Die Datei hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>Name the file, or remove the entry.</source>
+        <translation>Benennen Sie die Datei, oder entfernen Sie den Eintrag.</translation>
+    </message>
+    <message>
+        <source>The file name is a path, or contains invalid characters.</source>
+        <translation>Der Dateiname ist ein Pfad oder enthält ungültige Zeichen.</translation>
+    </message>
+    <message>
+        <source>Write the name without a directory; directories have elements of their own. A line break in the element is part of the name.</source>
+        <translation>Schreiben Sie den Namen ohne Verzeichnis; Verzeichnisse haben eigene Elemente. Ein Zeilenumbruch im Element ist Teil des Namens.</translation>
+    </message>
+    <message>
+        <source>The file is listed more than once.</source>
+        <translation>Die Datei ist mehrmals aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Two files would overwrite each other on the device.</source>
+        <translation>Zwei Dateien würden sich auf dem Gerät gegenseitig überschreiben.</translation>
+    </message>
+    <message>
+        <source>Give one of the files another name or another directory on the device. Parameter files, FPGA images, plug-ins and the configuration itself also have places on the device.</source>
+        <translation>Geben Sie einer der Dateien einen anderen Namen oder ein anderes Verzeichnis auf dem Gerät. Auch Parameterdateien, FPGA-Abbilder, Plug-ins und die Konfiguration selbst haben Plätze auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>The file has no directory on the device.</source>
+        <translation>Die Datei hat kein Verzeichnis auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>Specify the directory of the file on the device.</source>
+        <translation>Geben Sie das Verzeichnis der Datei auf dem Gerät an.</translation>
+    </message>
+    <message>
+        <source>The directory on the device does not begin with a slash.</source>
+        <translation>Das Verzeichnis auf dem Gerät beginnt nicht mit einem Schrägstrich.</translation>
+    </message>
+    <message>
+        <source>Begin the directory with a slash; it is read as if it began with one.</source>
+        <translation>Beginnen Sie das Verzeichnis mit einem Schrägstrich; es wird gelesen, als begänne es mit einem.</translation>
+    </message>
+    <message>
+        <source>The directory on the device contains &apos;..&apos;.</source>
+        <translation>Das Verzeichnis auf dem Gerät enthält &apos;..&apos;.</translation>
+    </message>
+    <message>
+        <source>Write the directory that is meant without &apos;..&apos;.</source>
+        <translation>Schreiben Sie das gemeinte Verzeichnis ohne &apos;..&apos;.</translation>
+    </message>
+    <message>
+        <source>The directory on the device is outside the directory trees of the device.</source>
+        <translation>Das Verzeichnis auf dem Gerät liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
+    </message>
+    <message>
+        <source>Choose a directory below &apos;/velkor/&apos; or &apos;/opt/velkor/&apos;.</source>
+        <translation>Wählen Sie ein Verzeichnis unter &apos;/velkor/&apos; oder &apos;/opt/velkor/&apos;.</translation>
+    </message>
+    <message>
+        <source>The directory on the device belongs to another configuration.</source>
+        <translation>Das Verzeichnis auf dem Gerät gehört zu einer anderen Konfiguration.</translation>
+    </message>
+    <message>
+        <source>If the configuration was renamed, change the directory accordingly.</source>
+        <translation>Wenn die Konfiguration umbenannt wurde, passen Sie das Verzeichnis an.</translation>
+    </message>
+    <message>
+        <source>The directory in the project is an absolute path, which is valid on one computer only.</source>
+        <translation>Das Verzeichnis im Projekt ist ein absoluter Pfad, der nur auf einem Rechner gilt.</translation>
+    </message>
+    <message>
+        <source>Write the directory relative to the project.</source>
+        <translation>Schreiben Sie das Verzeichnis relativ zum Projekt.</translation>
+    </message>
+    <message>
+        <source>The directory in the project is outside the project.</source>
+        <translation>Das Verzeichnis im Projekt liegt außerhalb des Projekts.</translation>
+    </message>
+    <message>
+        <source>Move the file into the project.</source>
+        <translation>Verschieben Sie die Datei in das Projekt.</translation>
+    </message>
+    <message>
+        <source>The directory in the project is not below the directory of the device; it is removed when the device is read.</source>
+        <translation>Das Verzeichnis im Projekt liegt nicht unter dem Verzeichnis des Geräts; es wird beim Lesen des Geräts entfernt.</translation>
+    </message>
+    <message>
+        <source>Move the object dictionary or the fault texts below the directory that has the name of the device.</source>
+        <translation>Verschieben Sie das Objektverzeichnis oder die Fehlertexte unter das Verzeichnis, das den Namen des Geräts hat.</translation>
+    </message>
+    <message>
+        <source>The file is not in the project.</source>
+        <translation>Die Datei ist nicht im Projekt.</translation>
+    </message>
+    <message>
+        <source>Put the file into the project, or correct its name or directory. The directory of a parameter file, an FPGA image or a plug-in follows from its kind; &apos;vrndevice place&apos; shows it.</source>
+        <translation>Legen Sie die Datei in das Projekt, oder berichtigen Sie ihren Namen oder ihr Verzeichnis. Das Verzeichnis einer Parameterdatei, eines FPGA-Abbilds oder eines Plug-ins folgt aus der Art; &apos;vrndevice place&apos; zeigt es.</translation>
+    </message>
+    <message>
+        <source>The file name in the project differs in upper and lower case.</source>
+        <translation>Der Dateiname im Projekt weicht in der Groß- und Kleinschreibung ab.</translation>
+    </message>
+    <message>
+        <source>Use the same file name in the project and in the configuration; file names on the device are case-sensitive.</source>
+        <translation>Verwenden Sie im Projekt und in der Konfiguration denselben Dateinamen; auf dem Gerät wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
+    </message>
+    <message>
+        <source>A symbolic link leads out of the project.</source>
+        <translation>Eine symbolische Verknüpfung führt aus dem Projekt hinaus.</translation>
+    </message>
+    <message>
+        <source>Replace the symbolic link with the file; a copy of the project does not contain what is outside.</source>
+        <translation>Ersetzen Sie die symbolische Verknüpfung durch die Datei; eine Kopie des Projekts enthält nicht, was außerhalb liegt.</translation>
+    </message>
+    <message>
+        <source>The file in the project is not a regular file.</source>
+        <translation>Die Datei im Projekt ist keine reguläre Datei.</translation>
+    </message>
+    <message>
+        <source>Replace the directory, pipe or device of that name with a regular file.</source>
+        <translation>Ersetzen Sie das Verzeichnis, die Pipe oder die Gerätedatei dieses Namens durch eine reguläre Datei.</translation>
+    </message>
+    <message>
+        <source>The file in the project cannot be read.</source>
+        <translation>Die Datei im Projekt ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Check the permissions of the file.</source>
+        <translation>Prüfen Sie die Zugriffsrechte der Datei.</translation>
+    </message>
+    <message>
+        <source>The file in the project is empty.</source>
+        <translation>Die Datei im Projekt ist leer.</translation>
+    </message>
+    <message>
+        <source>Add the content of the file, or remove the entry.</source>
+        <translation>Ergänzen Sie den Inhalt der Datei, oder entfernen Sie den Eintrag.</translation>
+    </message>
+    <message>
+        <source>The file in the project differs from the manifest.</source>
+        <translation>Die Datei im Projekt weicht vom Manifest ab.</translation>
+    </message>
+    <message>
+        <source>Restore the file with the size and the SHA-256 checksum in &apos;manifest.json&apos;, or create the manifest again.</source>
+        <translation>Stellen Sie die Datei mit der Größe und der SHA-256-Prüfsumme in &apos;manifest.json&apos; wieder her, oder erzeugen Sie das Manifest neu.</translation>
+    </message>
+    <message>
+        <source>The manifest of the project cannot be read.</source>
+        <translation>Das Manifest des Projekts ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Create the manifest again. Until then the files are not compared with it.</source>
+        <translation>Erzeugen Sie das Manifest neu. Bis dahin werden die Dateien nicht mit ihm verglichen.</translation>
+    </message>
+    <message>
+        <source>Write &apos;%1&apos;; upper and lower case are distinguished.</source>
+        <translation>Schreiben Sie &apos;%1&apos;; zwischen Groß- und Kleinschreibung wird unterschieden.</translation>
+    </message>
+    <message>
+        <source>names of at most %1 bytes</source>
+        <translation>Namen von höchstens %1 Bytes</translation>
+    </message>
+    <message>
+        <source>a directory below %1 or %2</source>
+        <translation>ein Verzeichnis unter %1 oder %2</translation>
+    </message>
+    <message>
+        <source>Remove the entry if no file is meant.</source>
+        <translation>Entfernen Sie den Eintrag, wenn keine Datei gemeint ist.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid file name.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Dateiname.</translation>
+    </message>
+    <message>
+        <source>a name without directories, slashes and line breaks</source>
+        <translation>ein Name ohne Verzeichnisse, Schrägstriche und Zeilenumbrüche</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; has no directory on the device.</source>
+        <translation>Die Datei &apos;%1&apos; hat kein Verzeichnis auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; contains &apos;..&apos;.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; enthält &apos;..&apos;.</translation>
+    </message>
+    <message>
+        <source>a directory without &apos;..&apos;</source>
+        <translation>ein Verzeichnis ohne &apos;..&apos;</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is outside the directory trees of the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Choose shorter names.</source>
+        <translation>Wählen Sie kürzere Namen.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is an absolute path.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; ist ein absoluter Pfad.</translation>
+    </message>
+    <message>
+        <source>a directory relative to the project</source>
+        <translation>ein Verzeichnis relativ zum Projekt</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is outside the project.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb des Projekts.</translation>
+    </message>
+    <message>
+        <source>a directory in the project</source>
+        <translation>ein Verzeichnis im Projekt</translation>
+    </message>
+    <message>
+        <source>After a symbolic link, &apos;..&apos; leads to another directory.</source>
+        <translation>Nach einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is not in the project.</source>
         <translation>Die Datei &apos;%1&apos; ist nicht im Projekt.</translation>
     </message>
     <message>
-        <source>A symbolic link of that name leads to nothing.</source>
-        <translation>Eine symbolische Verknüpfung dieses Namens führt ins Leere.</translation>
+        <source>The symbolic link of that name points to a missing file.</source>
+        <translation>Die symbolische Verknüpfung dieses Namens zeigt auf eine fehlende Datei.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is called &apos;%2&apos; in the project.</source>
+        <source>The file &apos;%1&apos; is named &apos;%2&apos; in the project.</source>
         <translation>Die Datei &apos;%1&apos; heißt im Projekt &apos;%2&apos;.</translation>
     </message>
     <message>
-        <source>Capital and small letters matter on the device.</source>
-        <translation>Auf dem Gerät zählt die Groß- und Kleinschreibung.</translation>
+        <source>File names on the device are case-sensitive.</source>
+        <translation>Auf dem Gerät wird bei Dateinamen zwischen Groß- und Kleinschreibung unterschieden.</translation>
     </message>
     <message>
-        <source>A symbolic link leads from &apos;%1&apos; out of the project.</source>
-        <translation>Eine symbolische Verknüpfung führt von &apos;%1&apos; aus dem Projekt hinaus.</translation>
+        <source>A symbolic link on the path &apos;%1&apos; leads out of the project.</source>
+        <translation>Eine symbolische Verknüpfung auf dem Pfad &apos;%1&apos; führt aus dem Projekt hinaus.</translation>
     </message>
     <message>
         <source>a file in the project</source>
         <translation>eine Datei im Projekt</translation>
     </message>
     <message>
-        <source>Whoever gets the project does not get the file.</source>
-        <translation>Wer das Projekt bekommt, bekommt die Datei nicht.</translation>
+        <source>A copy of the project does not contain the file.</source>
+        <translation>Eine Kopie des Projekts enthält die Datei nicht.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no regular file.</source>
+        <source>&apos;%1&apos; is not a regular file.</source>
         <translation>&apos;%1&apos; ist keine reguläre Datei.</translation>
     </message>
     <message>
         <source>a regular file</source>
         <translation>eine reguläre Datei</translation>
-    </message>
-    <message>
-        <source>a file that may be read</source>
-        <translation>eine Datei, die gelesen werden darf</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is empty.</source>
@@ -1112,16 +1020,24 @@
         <translation>0 Bytes</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
-        <translation>%1 Bytes</translation>
+        <source>The file &apos;%1&apos; cannot be read: %2</source>
+        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
-        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
+        <source>a readable file</source>
+        <translation>eine lesbare Datei</translation>
     </message>
     <message>
-        <source>Put back the file, or make the manifest anew.</source>
-        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
+        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
+    </message>
+    <message>
+        <source>a unique place</source>
+        <translation>ein eindeutiger Platz</translation>
+    </message>
+    <message>
+        <source>The file that is transferred last overwrites the other one.</source>
+        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
 </context>
 <context>
@@ -1183,96 +1099,8 @@
         <translation>%1: diese Datei gibt es schon</translation>
     </message>
     <message>
-        <source>%1: there is no such item</source>
-        <translation>%1: diesen Eintrag gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; did you mean %2?</source>
-        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; there are %2</source>
-        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
-    </message>
-    <message>
-        <source>%1: an entry of the list must be named, as in %2</source>
-        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
-    </message>
-    <message>
-        <source>%1: only a drive of the type KD2_drive has this file</source>
-        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
-    </message>
-    <message>
-        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
-        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
-    </message>
-    <message>
-        <source>There is no configuration.</source>
-        <translation>Es gibt keine Konfiguration.</translation>
-    </message>
-    <message>
-        <source>%1: the character U+%2 cannot be stored in a configuration</source>
-        <translation>%1: das Zeichen U+%2 kann in einer Konfiguration nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>%1: the words of an argument are separated by single blanks</source>
-        <translation>%1: die Wörter eines Arguments sind durch einzelne Leerzeichen getrennt</translation>
-    </message>
-    <message>
-        <source>%1: in &apos;%2&apos; a word begins with &apos;-&apos;, which would be an option</source>
-        <translation>%1: in &apos;%2&apos; beginnt ein Wort mit &apos;-&apos;, was eine Option wäre</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no drive number; one is a number from 0 to %3</source>
-        <translation>%1: &apos;%2&apos; ist keine Antriebsnummer; das ist eine Zahl von 0 bis %3</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no option; one is a word that begins with &apos;-&apos;</source>
-        <translation>%1: &apos;%2&apos; ist keine Option; das ist ein Wort, das mit &apos;-&apos; beginnt</translation>
-    </message>
-    <message>
-        <source>%1: a name must not be empty</source>
-        <translation>%1: ein Name darf nicht leer sein</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no date; one is written as 2026-11-21</source>
-        <translation>%1: &apos;%2&apos; ist kein Datum; das schreibt man wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no device class; there are kc2, kd3 and Undefined</source>
-        <translation>%1: &apos;%2&apos; ist keine Geräteklasse; es gibt kc2, kd3 und Undefined</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no hardware identity; one is written as PREFIX:NAME:PLATFORM:VERSION:REVISION</source>
-        <translation>%1: &apos;%2&apos; ist keine Hardwarekennung; das schreibt man wie PREFIX:NAME:PLATFORM:VERSION:REVISION</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is neither true nor false</source>
-        <translation>%1: &apos;%2&apos; ist weder true noch false</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from 0 to 4294967295</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from -2147483648 to 2147483647</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of parameter files</source>
-        <translation>%1: &apos;%2&apos; ist kein Typ von Parameterdateien</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of drives; there are KD2_drive and KD3_drive</source>
-        <translation>%1: &apos;%2&apos; ist kein Antriebstyp; es gibt KD2_drive und KD3_drive</translation>
-    </message>
-    <message>
-        <source>%1: this has no value of its own</source>
-        <translation>%1: dies hat keinen eigenen Wert</translation>
-    </message>
-    <message>
-        <source>%1: the configuration does not have it</source>
-        <translation>%1: die Konfiguration hat das nicht</translation>
+        <source>%1: %2 Expected: %3.</source>
+        <translation>%1: %2 Erwartet: %3.</translation>
     </message>
     <message>
         <source>%1: only entries of lists can be added</source>
@@ -1289,6 +1117,34 @@
     <message>
         <source>%1: the entry cannot be without it</source>
         <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
+    </message>
+    <message>
+        <source>There is no configuration.</source>
+        <translation>Es gibt keine Konfiguration.</translation>
+    </message>
+    <message>
+        <source>%1: an entry of the list must be named, as in %2</source>
+        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
+    </message>
+    <message>
+        <source>%1: only a drive of the type KD2_drive has this file</source>
+        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
+        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item</source>
+        <translation>%1: diesen Eintrag gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; did you mean %2?</source>
+        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; there are %2</source>
+        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
     </message>
     <message>
         <source>a &apos;.&apos; is missing</source>
@@ -1313,6 +1169,14 @@
     <message>
         <source>&apos;%1&apos; is no path: %2 at character %3</source>
         <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
+    </message>
+    <message>
+        <source>%1: this has no value of its own</source>
+        <translation>%1: dies hat keinen eigenen Wert</translation>
+    </message>
+    <message>
+        <source>%1: the configuration does not have it</source>
+        <translation>%1: die Konfiguration hat das nicht</translation>
     </message>
 </context>
 <context>
@@ -1417,136 +1281,8 @@
         <translation>&apos;%1&apos; ist kein Pfad.</translation>
     </message>
     <message>
-        <source>option %1</source>
-        <translation>Option %1</translation>
-    </message>
-    <message>
-        <source>parameter file %1</source>
-        <translation>Parameterdatei %1</translation>
-    </message>
-    <message>
-        <source>FPGA image %1</source>
-        <translation>FPGA-Abbild %1</translation>
-    </message>
-    <message>
-        <source>OPC UA file %1</source>
-        <translation>OPC-UA-Datei %1</translation>
-    </message>
-    <message>
-        <source>plug-in %1</source>
-        <translation>Plug-in %1</translation>
-    </message>
-    <message>
-        <source>drive %1</source>
-        <translation>Antrieb %1</translation>
-    </message>
-    <message>
-        <source>file %1</source>
-        <translation>Datei %1</translation>
-    </message>
-    <message>
-        <source>description</source>
-        <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>device</source>
-        <translation>Gerät</translation>
-    </message>
-    <message>
-        <source>object dictionary</source>
-        <translation>Objektverzeichnis</translation>
-    </message>
-    <message>
-        <source>fault texts</source>
-        <translation>Fehlertexte</translation>
-    </message>
-    <message>
-        <source>EtherCAT master file</source>
-        <translation>Datei des EtherCAT-Masters</translation>
-    </message>
-    <message>
-        <source>parameter file</source>
-        <translation>Parameterdatei</translation>
-    </message>
-    <message>
-        <source>KD2 parameter file</source>
-        <translation>KD2-Parameterdatei</translation>
-    </message>
-    <message>
-        <source>KD2 logic</source>
-        <translation>KD2-Logik</translation>
-    </message>
-    <message>
-        <source>KD2 firmware</source>
-        <translation>KD2-Firmware</translation>
-    </message>
-    <message>
         <source>argument</source>
         <translation>Argument</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>comment</source>
-        <translation>Kommentar</translation>
-    </message>
-    <message>
-        <source>version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>creation date</source>
-        <translation>Erstellungsdatum</translation>
-    </message>
-    <message>
-        <source>revision date</source>
-        <translation>Überarbeitungsdatum</translation>
-    </message>
-    <message>
-        <source>class</source>
-        <translation>Klasse</translation>
-    </message>
-    <message>
-        <source>hardware identity</source>
-        <translation>Hardwarekennung</translation>
-    </message>
-    <message>
-        <source>configuration name</source>
-        <translation>Konfigurationsname</translation>
-    </message>
-    <message>
-        <source>execution plug-in</source>
-        <translation>Plug-in der Anwendung</translation>
-    </message>
-    <message>
-        <source>OPC UA enabled</source>
-        <translation>OPC UA eingeschaltet</translation>
-    </message>
-    <message>
-        <source>active FPGA image</source>
-        <translation>aktives FPGA-Abbild</translation>
-    </message>
-    <message>
-        <source>type</source>
-        <translation>Typ</translation>
-    </message>
-    <message>
-        <source>bus identifier</source>
-        <translation>Buskennung</translation>
-    </message>
-    <message>
-        <source>priority</source>
-        <translation>Priorität</translation>
-    </message>
-    <message>
-        <source>device directory</source>
-        <translation>Verzeichnis auf dem Gerät</translation>
-    </message>
-    <message>
-        <source>project directory</source>
-        <translation>Verzeichnis im Projekt</translation>
     </message>
     <message>
         <source>(empty)</source>
@@ -1876,6 +1612,10 @@
 <context>
     <name>CDeviceConfigurationFile</name>
     <message>
+        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
+    </message>
+    <message>
         <source>The device configuration file was created with a previous version</source>
         <translation>Die Gerätekonfigurationsdatei wurde mit einer früheren Version erstellt</translation>
     </message>
@@ -1890,10 +1630,6 @@
     <message>
         <source>The sub-device &apos;%1&apos; has no drive number of its own and gets %2.</source>
         <translation>Das Untergerät &apos;%1&apos; hat keine eigene Antriebsnummer und bekommt %2.</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
@@ -2502,12 +2238,12 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>%1 wäre auf dem Gerät sowohl eine Datei als auch ein Verzeichnis.</translation>
     </message>
     <message>
-        <source>The device has no configuration name, which the directories on the device are named after.</source>
-        <translation>Das Gerät hat keinen Konfigurationsnamen, nach dem die Verzeichnisse auf dem Gerät benannt sind.</translation>
+        <source>The device has no configuration name; the directories on the device are named after it.</source>
+        <translation>Das Gerät hat keinen Konfigurationsnamen; die Verzeichnisse auf dem Gerät werden nach ihm benannt.</translation>
     </message>
     <message>
-        <source>The configuration name &quot;%1&quot; cannot be that of a directory.</source>
-        <translation>Der Konfigurationsname &quot;%1&quot; kann nicht der eines Verzeichnisses sein.</translation>
+        <source>The configuration name &quot;%1&quot; cannot be used as the name of a directory.</source>
+        <translation>Der Konfigurationsname &quot;%1&quot; kann nicht als Name eines Verzeichnisses dienen.</translation>
     </message>
 </context>
 <context>
@@ -2646,6 +2382,169 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
 </context>
 <context>
+    <name>ConfigurationShape</name>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>hardware identity</source>
+        <translation>Hardwarekennung</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>creation date</source>
+        <translation>Erstellungsdatum</translation>
+    </message>
+    <message>
+        <source>revision date</source>
+        <translation>Überarbeitungsdatum</translation>
+    </message>
+    <message>
+        <source>configuration name</source>
+        <translation>Konfigurationsname</translation>
+    </message>
+    <message>
+        <source>class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>execution plug-in</source>
+        <translation>Plug-in der Anwendung</translation>
+    </message>
+    <message>
+        <source>OPC UA enabled</source>
+        <translation>OPC UA eingeschaltet</translation>
+    </message>
+    <message>
+        <source>object dictionary</source>
+        <translation>Objektverzeichnis</translation>
+    </message>
+    <message>
+        <source>fault texts</source>
+        <translation>Fehlertexte</translation>
+    </message>
+    <message>
+        <source>EtherCAT master file</source>
+        <translation>Datei des EtherCAT-Masters</translation>
+    </message>
+    <message>
+        <source>drive number</source>
+        <translation>Antriebsnummer</translation>
+    </message>
+    <message>
+        <source>bus identifier</source>
+        <translation>Buskennung</translation>
+    </message>
+    <message>
+        <source>parameter file</source>
+        <translation>Parameterdatei</translation>
+    </message>
+    <message>
+        <source>KD2 parameter file</source>
+        <translation>KD2-Parameterdatei</translation>
+    </message>
+    <message>
+        <source>KD2 logic</source>
+        <translation>KD2-Logik</translation>
+    </message>
+    <message>
+        <source>KD2 firmware</source>
+        <translation>KD2-Firmware</translation>
+    </message>
+    <message>
+        <source>device directory</source>
+        <translation>Verzeichnis auf dem Gerät</translation>
+    </message>
+    <message>
+        <source>project directory</source>
+        <translation>Verzeichnis im Projekt</translation>
+    </message>
+    <message>
+        <source>priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>option %1</source>
+        <translation>Option %1</translation>
+    </message>
+    <message>
+        <source>start options</source>
+        <translation>Startoptionen</translation>
+    </message>
+    <message>
+        <source>active FPGA image</source>
+        <translation>aktives FPGA-Abbild</translation>
+    </message>
+    <message>
+        <source>OPC UA file %1</source>
+        <translation>OPC-UA-Datei %1</translation>
+    </message>
+    <message>
+        <source>OPC UA files</source>
+        <translation>OPC-UA-Dateien</translation>
+    </message>
+    <message>
+        <source>parameter file %1</source>
+        <translation>Parameterdatei %1</translation>
+    </message>
+    <message>
+        <source>parameter files</source>
+        <translation>Parameterdateien</translation>
+    </message>
+    <message>
+        <source>FPGA image %1</source>
+        <translation>FPGA-Abbild %1</translation>
+    </message>
+    <message>
+        <source>FPGA images</source>
+        <translation>FPGA-Abbilder</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>Datei %1</translation>
+    </message>
+    <message>
+        <source>additional files</source>
+        <translation>zusätzliche Dateien</translation>
+    </message>
+    <message>
+        <source>plug-in %1</source>
+        <translation>Plug-in %1</translation>
+    </message>
+    <message>
+        <source>plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>drive %1</source>
+        <translation>Antrieb %1</translation>
+    </message>
+    <message>
+        <source>drives</source>
+        <translation>Antriebe</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
     <name>FileStorage</name>
     <message>
         <source>This is no regular file.</source>
@@ -2658,6 +2557,77 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>It is larger than %1 bytes.</source>
         <translation>Sie ist größer als %1 Bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemValue</name>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a date like 2026-11-21</source>
+        <translation>ein Datum wie 2026-11-21</translation>
+    </message>
+    <message>
+        <source>a word that begins with &apos;-&apos;</source>
+        <translation>ein Wort, das mit &apos;-&apos; beginnt</translation>
+    </message>
+    <message>
+        <source>words that do not begin with &apos;-&apos;, with one space between each two</source>
+        <translation>Wörter, die nicht mit &apos;-&apos; beginnen, mit je einem Leerzeichen dazwischen</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid date.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Datum.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid device class.</source>
+        <translation>&apos;%1&apos; ist keine gültige Geräteklasse.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid hardware identity.</source>
+        <translation>&apos;%1&apos; ist keine gültige Hardwarekennung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid type of a parameter file.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Typ einer Parameterdatei.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid type of a drive.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Typ eines Antriebs.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid drive number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Antriebsnummer.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid start option.</source>
+        <translation>&apos;%1&apos; ist keine gültige Startoption.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid argument of a start option.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Argument einer Startoption.</translation>
+    </message>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+    <message>
+        <source>The character U+%1 cannot be stored in a configuration.</source>
+        <translation>Das Zeichen U+%1 kann nicht in einer Konfiguration gespeichert werden.</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,8 @@ class CConfigurationCheckPrivate;
  * The document is judged by how the device and the tools read it: what they would pass over, take
  * for something else, or cannot do is an error; what works but is hardly meant is a warning.
  *
+ * Files are judged by the rules by which CStagingPlan judges them, too.
+ *
  * The hardware identity of a drive fits when its prefix, name and platform are those of the
  * device's (see CDeviceBaseElement::isParameterHardwareIdCompatible()); version and revision may
  * differ. A drive or a device without an identity fits any.

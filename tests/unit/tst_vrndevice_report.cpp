@@ -498,7 +498,7 @@ void tst_VrnDeviceReport::unreadableInput_data()
             << QStringList{command, u"-"_s} << u"could not be"_s;
         QTest::addRow("project is missing, %s", name.constData())
             << QStringList{command, FileName, u"--project"_s, u"missing"_s}
-            << u"There is no such directory"_s;
+            << u"The directory does not exist"_s;
     }
 }
 

@@ -85,6 +85,48 @@ private slots:
         QVERIFY(QFileInfo(at(u"root/velkor/configurations/STD/subdevices/2/firmware"_s)).isDir());
     }
 
+    void refusesByTheRulesOfTheCheck()
+    {
+        QProcess copy;
+        copy.start(u"cp"_s, {u"-r"_s, project(), at(u"copy"_s)});
+        QVERIFY(copy.waitForFinished());
+        QStringList files;
+        QDirIterator found(at(u"copy"_s), {u"*.3param"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (found.hasNext()) {
+            files << found.next();
+        }
+        // Each has another fault.
+        QVERIFY(files.size() >= 4);
+        QVERIFY(QFile::remove(files.at(0)));
+        QVERIFY(Files::write(files.at(1), QByteArray()));
+        QVERIFY(QFile::rename(files.at(2), files.at(2).chopped(7) + u".3PARAM"_s));
+        QVERIFY(QFile::remove(files.at(3)));
+        QCOMPARE(mkfifo(QFile::encodeName(files.at(3)).constData(), 0600), 0);
+
+        const auto sortedRules = [](const QJsonArray &array) {
+            QStringList rules;
+            for (const QJsonValue &value : array) {
+                rules << value[u"rule"_s].toString();
+            }
+            rules.sort();
+            return rules;
+        };
+        const QStringList arguments = {u"copy/DeviceConfiguration.3deco"_s, u"--project"_s,
+                                       u"copy"_s, u"--json"_s};
+        const Tool::SResult checked = run(QStringList{u"check"_s} + arguments);
+        const Tool::SResult staged =
+            run(QStringList{u"stage"_s} + arguments + QStringList{u"--to"_s, u"root"_s});
+        const QStringList rules = sortedRules(staged.json().value(u"problems"_s).toArray());
+        QCOMPARE(rules,
+                 QStringList({u"project-file-empty"_s, u"project-file-missing"_s,
+                              u"project-file-not-regular"_s, u"project-file-other-case"_s}));
+        QCOMPARE(
+            sortedRules(checked.json().value(u"files"_s).toArray().at(0)[u"findings"_s].toArray()),
+            rules);
+        QVERIFY(!QFileInfo::exists(at(u"root"_s)));
+    }
+
     void stagesTreeAndArchiveAndRecord()
     {
         QVERIFY(QDir().mkpath(at(u"copy"_s)));

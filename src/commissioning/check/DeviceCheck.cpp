@@ -14,11 +14,11 @@ void DeviceCheck::checkRoot(const Fields &fields, const QString &version)
     m_context.findings.report(ValueChecks::version(version, m_context.file.requiredFileVersion()),
                               place);
     if (!fields.contains(TAG_DEVICE)) {
-        m_context.findings.report(DEVICE_MISSING, place,
-                                  {Texts::tr("The document has no device."), QString(),
-                                   Texts::tr("an element '%1'").arg(TAG_DEVICE),
-                                   Texts::tr("Without a device there is nothing to be "
-                                             "commissioned.")});
+        m_context.findings.report(
+            DEVICE_MISSING, place,
+            {Texts::tr("The document has no device."), QString(),
+             Texts::tr("an element '%1'").arg(TAG_DEVICE),
+             Texts::tr("A configuration without a device cannot be commissioned.")});
     }
 }
 
@@ -37,7 +37,7 @@ void DeviceCheck::checkDescription(const Fields &fields)
     if (creation.isValid() && revision.isValid() && revision < creation) {
         m_context.findings.report(
             DATE_ORDER, {fields.element(TAG_REVISIONDATE), revisionItem},
-            {Texts::tr("The configuration was revised before it was created."),
+            {Texts::tr("The revision date is earlier than the creation date."),
              fields.text(TAG_REVISIONDATE),
              Texts::tr("%1 or later").arg(creation.toString(Qt::ISODate)), QString()});
     }
@@ -66,7 +66,7 @@ void DeviceCheck::checkDevice(const Fields &fields, const QString &item)
         m_context.findings.report(
             DEVICE_NAME_MISSING, {fields.place(TAG_NAME), item + QStringLiteral(".name")},
             {Texts::tr("The device has no name."), QString(), Texts::tr("a name"),
-             Texts::tr("The name is also that of the device's directory in the project.")});
+             Texts::tr("The directory of the device in the project has the same name.")});
     }
     checkConfigurationName(fields, item);
     if (!fields.contains(TAG_CONFIG)) {
@@ -74,7 +74,7 @@ void DeviceCheck::checkDevice(const Fields &fields, const QString &item)
             CONFIG_MISSING, {fields.parent(), item},
             {Texts::tr("The device has no configuration block."), QString(),
              Texts::tr("an element '%1'").arg(TAG_CONFIG),
-             Texts::tr("The device is read without options, files and plug-ins.")});
+             Texts::tr("The device is read without options, files or plug-ins.")});
     }
 }
 
@@ -86,8 +86,7 @@ void DeviceCheck::checkConfigurationName(const Fields &fields, const QString &it
     if (!fields.contains(TAG_CONFIGNAME)) {
         m_context.findings.report(
             CONFIGURATION_NAME_MISSING, place,
-            {Texts::tr("The device does not tell the name of its configuration."), QString(),
-             Texts::tr("a name"),
+            {Texts::tr("The configuration name is missing."), QString(), Texts::tr("a name"),
              Texts::tr("It is read as '%1'.").arg(device.configurationName())});
         return;
     }

@@ -32,8 +32,9 @@ void DriveCheck::checkType(const Fields &fields, const QString &item)
         if (fields.element(tag).hasChildNodes()) {
             m_context.findings.report(
                 DRIVE_TYPE_MISMATCH, {fields.element(tag), item},
-                {Texts::tr("'%1' is passed over: the drive is of type '%2'.").arg(tag, text), text,
-                 DriveTypes::kd2(), Texts::tr("Remove the file, or mend the drive's type.")});
+                {Texts::tr("'%1' is ignored: the type of the drive is '%2'.").arg(tag, text), text,
+                 DriveTypes::kd2(),
+                 Texts::tr("Remove the file, or correct the type of the drive.")});
         }
     }
 }
@@ -50,7 +51,7 @@ void DriveCheck::checkHardwareId(const Fields &fields, const QString &item)
     if (!fits) {
         m_context.findings.report(
             HARDWARE_ID_MISMATCH, place,
-            {Texts::tr("The hardware identity '%1' does not fit that of the device.")
+            {Texts::tr("The hardware identity '%1' does not match that of the device.")
                  .arg(shown(own.hardwareId())),
              own.hardwareId(),
              Texts::tr("prefix, name and platform of '%1'").arg(shown(device.hardwareIdStr())),
@@ -68,9 +69,9 @@ void DriveCheck::checkNumber(const Fields &fields, const QString &item)
         m_context.findings.report(fault, place);
     } else if (m_numbers.contains(number)) {
         m_context.findings.report(DRIVE_NUMBER_TWICE, place,
-                                  {Texts::tr("The number %1 is also that of %2.")
+                                  {Texts::tr("The drive number %1 is already used by %2.")
                                        .arg(QString::number(number), m_numbers.value(number)),
-                                   text, Texts::tr("a number of its own"),
+                                   text, Texts::tr("a unique number"),
                                    ValueChecks::nextFreeNumber()});
     } else {
         m_numbers.insert(number, item);
@@ -85,12 +86,12 @@ void DriveCheck::checkName(const Fields &fields, const QString &item)
         m_context.findings.report(
             DRIVE_NAME_MISSING, place,
             {Texts::tr("The drive has no name."), QString(), Texts::tr("a name"),
-             Texts::tr("When the drive is read it is named after its number.")});
+             Texts::tr("The drive is read with a name made from its number.")});
     } else if (m_names.contains(name)) {
-        m_context.findings.report(
-            DRIVE_NAME_TWICE, place,
-            {Texts::tr("The name '%1' is also that of %2.").arg(shown(name), m_names.value(name)),
-             name, Texts::tr("a name of its own"), QString()});
+        m_context.findings.report(DRIVE_NAME_TWICE, place,
+                                  {Texts::tr("The name '%1' is already used by %2.")
+                                       .arg(shown(name), m_names.value(name)),
+                                   name, Texts::tr("a unique name"), QString()});
     } else {
         m_names.insert(name, item);
     }
@@ -104,9 +105,9 @@ void DriveCheck::checkBusId(const Fields &fields, const QString &item)
     const uint busId = text.toUInt();
     if (busId != 0 && m_busIds.contains(busId)) {
         m_context.findings.report(BUS_ID_TWICE, place,
-                                  {Texts::tr("The bus identifier %1 is also that of %2.")
+                                  {Texts::tr("The bus identifier %1 is already used by %2.")
                                        .arg(QString::number(busId), m_busIds.value(busId)),
-                                   text, Texts::tr("an identifier of its own"), QString()});
+                                   text, Texts::tr("a unique bus identifier"), QString()});
     } else if (busId != 0) {
         m_busIds.insert(busId, item);
     }

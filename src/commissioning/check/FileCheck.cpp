@@ -115,7 +115,8 @@ bool FileCheck::checkProjectPath(CFileElement &file, const SPlace &place, bool i
         && !path.startsWith(own)) {
         m_context.findings.report(
             PROJECT_PATH_IGNORED, place,
-            {Texts::tr("The directory '%1' is not below that of the device.").arg(shown(path)),
+            {Texts::tr("The directory '%1' is not below the directory of the device.")
+                 .arg(shown(path)),
              path, Texts::tr("a directory below '%1'").arg(shown(own)),
              Texts::tr("It is removed when the device is read.")});
         file.setProjectPath(QString());
@@ -152,7 +153,7 @@ bool FileCheck::claim(const CFileElement &file, const SPlace &place)
     if (m_files.contains(key)) {
         m_context.findings.report(
             FILE_TWICE, place,
-            {Texts::tr("The file '%1' stands more than once in the same directories.")
+            {Texts::tr("The file '%1' is listed more than once with the same directories.")
                  .arg(shown(file.fileName())),
              file.fileName(), QString(), Texts::tr("Remove all but one.")});
         return false;

@@ -21,7 +21,7 @@ void FileListCheck::checkParameterFile(const Fields &fields, const QString &item
     if (m_parameterFiles.contains(key)) {
         m_context.findings.report(
             PARAMETER_FILE_TWICE, {fields.place(TAG_NAME), item},
-            {Texts::tr("The parameter file '%1' stands more than once.").arg(shown(file.name())),
+            {Texts::tr("The parameter file '%1' is listed more than once.").arg(shown(file.name())),
              file.name(), QString(), Texts::tr("Remove all but one.")});
         return;
     }
@@ -68,7 +68,7 @@ void FileListCheck::checkFpgaFile(const Fields &fields, const QString &item)
     if (m_fpgaFiles.contains(name)) {
         m_context.findings.report(
             FPGA_FILE_TWICE, {fields.place(TAG_NAME), item},
-            {Texts::tr("The FPGA image '%1' stands more than once.").arg(shown(name)), name,
+            {Texts::tr("The FPGA image '%1' is listed more than once.").arg(shown(name)), name,
              QString(), Texts::tr("Remove all but one; the first image is the active one.")});
         return;
     }

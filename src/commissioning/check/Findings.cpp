@@ -18,8 +18,8 @@ void Findings::report(ERule rule, const SPlace &place, const SFaultText &text)
         append(rule, place, text);
     } else if (m_findings.size() == MostFindings) {
         append(FINDINGS_LEFT_OUT, place,
-               {Texts::tr("There is more to be found; from here on it is left out."), QString(),
-                QString(), Texts::tr("Mend what is told, then check again.")});
+               {Texts::tr("Too many findings; the remaining ones are left out."), QString(),
+                QString(), Texts::tr("Correct the reported findings, then check again.")});
     }
 }
 

@@ -15,9 +15,9 @@ namespace {
 SFault invalid(const QString &reason)
 {
     return {MANIFEST_INVALID,
-            {Texts::tr("The project's manifest cannot be read: %1").arg(reason),
-             CDeviceManifest::fileName(), Texts::tr("a manifest as it is made by staging"),
-             Texts::tr("Make the manifest anew; files are not compared with this one.")}};
+            {Texts::tr("The manifest of the project cannot be read: %1").arg(reason),
+             CDeviceManifest::fileName(), Texts::tr("a manifest written by staging"),
+             Texts::tr("Create the manifest again; the files are not compared with this one.")}};
 }
 
 SFault changed(const QString &path, const CDeviceManifest::SEntry &measured,
@@ -31,10 +31,10 @@ SFault changed(const QString &path, const CDeviceManifest::SEntry &measured,
     };
     const bool isSize = measured.size != recorded.size;
     return {PROJECT_FILE_CHANGED,
-            {Texts::tr("The file '%1' is not the one that the manifest tells.").arg(shown(path)),
+            {Texts::tr("The file '%1' differs from the manifest.").arg(shown(path)),
              isSize ? inBytes(measured.size) : sum(measured.sha256),
              isSize ? inBytes(recorded.size) : sum(recorded.sha256),
-             Texts::tr("Put back the file, or make the manifest anew.")}};
+             Texts::tr("Restore the file, or create the manifest again.")}};
 }
 
 } // namespace

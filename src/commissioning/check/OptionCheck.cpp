@@ -29,7 +29,7 @@ bool isBlank(const QString &text)
 
 QString expectedOptions()
 {
-    return Texts::tr("options like -trace with one blank between each two");
+    return Texts::tr("options such as -trace, separated by single spaces");
 }
 
 } // namespace
@@ -59,8 +59,8 @@ void OptionCheck::checkSeparators(const QList<StartOptions::SOption> &options, c
         if (badWord != option.words.cend()) {
             m_context.findings.report(
                 OPTION_INVALID, place,
-                {Texts::tr("Options are separated by something other than a blank."), *badWord,
-                 expectedOptions(), Texts::tr("The device takes this for one word.")});
+                {Texts::tr("Options are separated by something other than a space."), *badWord,
+                 expectedOptions(), Texts::tr("The device reads this as one word.")});
             return;
         }
     }
@@ -70,19 +70,19 @@ void OptionCheck::checkForm(const StartOptions::SOption &option, bool isKnown, c
 {
     const QString text = option.text();
     if (option.name() == QLatin1String("-")) {
-        m_context.findings.report(OPTION_INVALID, place,
-                                  {Texts::tr("An option has a hyphen, but no name."), text,
-                                   expectedOptions(), QString()});
+        m_context.findings.report(
+            OPTION_INVALID, place,
+            {Texts::tr("An option has a hyphen but no name."), text, expectedOptions(), QString()});
     } else if (!StartOptions::isOption(option.name()) && !isBlank(text)) {
         m_context.findings.report(
             OPTION_INVALID, place,
-            {Texts::tr("'%1' is no option, and follows none.").arg(shown(text)), text,
+            {Texts::tr("'%1' is neither an option nor the value of one.").arg(shown(text)), text,
              expectedOptions(),
-             Texts::tr("An option begins with a hyphen; what follows it is its argument.")});
+             Texts::tr("An option begins with a hyphen; the words after it are its argument.")});
     } else if (isKnown) {
         m_context.findings.report(
             OPTION_TWICE, place,
-            {Texts::tr("The option '%1' stands more than once.").arg(shown(text)), text, QString(),
+            {Texts::tr("The option '%1' occurs more than once.").arg(shown(text)), text, QString(),
              Texts::tr("Remove all but one.")});
     }
 }
@@ -113,7 +113,8 @@ void OptionCheck::finish()
     } else {
         m_context.findings.report(
             OPC_UA_MISMATCH, m_opcUaOption,
-            {Texts::tr("There is the option %1, but the OPC UA server is not enabled.").arg(option),
+            {Texts::tr("The option %1 is present, but the OPC UA server is not enabled.")
+                 .arg(option),
              option, QString(),
              Texts::tr("Enable the server, or remove the option %1.").arg(option)});
     }

@@ -47,8 +47,8 @@ bool PluginCheck::checkName(const Fields &fields, const QString &item)
     if (m_names.contains(name)) {
         m_context.findings.report(
             PLUGIN_TWICE, place,
-            {Texts::tr("The plug-in '%1' stands more than once.").arg(shown(name)), name, QString(),
-             Texts::tr("Remove all but one.")});
+            {Texts::tr("The plug-in '%1' is listed more than once.").arg(shown(name)), name,
+             QString(), Texts::tr("Remove all but one.")});
         return false;
     }
     return true;
@@ -97,10 +97,9 @@ void PluginCheck::checkExecutionPlugin(const Fields &config, const QString &item
     m_context.findings.report(
         EXECUTION_PLUGIN_UNKNOWN,
         {config.element(TAG_EXECUTIONPLUGIN), item + QStringLiteral(".executionPlugin")},
-        {Texts::tr("'%1' is to run the application, but is not among the plug-ins.")
-             .arg(shown(name)),
+        {Texts::tr("The execution plug-in '%1' is not in the list of plug-ins.").arg(shown(name)),
          name, Texts::tr("the name of a plug-in"),
-         Texts::tr("Add the plug-in, or name another one.")});
+         Texts::tr("Add the plug-in, or choose another one.")});
 }
 
 void PluginCheck::checkEtherCatMaster()
@@ -116,7 +115,8 @@ void PluginCheck::checkEtherCatMaster()
     } else if (hasFile && !hasPlugin) {
         m_context.findings.report(
             ETHERCAT_PLUGIN_MISSING, m_etherCatFile,
-            {Texts::tr("There is a bus configuration, but not the plug-in '%1'.").arg(plugin),
+            {Texts::tr("The bus configuration needs the plug-in '%1', which is missing.")
+                 .arg(plugin),
              QString(), Texts::tr("a plug-in '%1'").arg(plugin), QString()});
     }
 }

@@ -40,9 +40,9 @@ void StructureCheck::check(const Fields &fields, const QString &item)
     if (!stray.isEmpty()) {
         m_findings.report(
             TEXT_UNEXPECTED, {fields.parent(), item},
-            {Texts::tr("'%1' has a text of its own, which nobody reads.").arg(type.tag), stray,
-             Texts::tr("nothing but elements"),
-             Texts::tr("Remove the text, or put it into the element for which it is meant.")});
+            {Texts::tr("'%1' contains text, which is ignored.").arg(type.tag), stray,
+             Texts::tr("only elements"),
+             Texts::tr("Remove the text, or move it into the element for which it is meant.")});
     }
 }
 
@@ -58,7 +58,7 @@ void StructureCheck::checkAttributes(const Fields &fields, const QString &item)
         const QString wanted = meant(attribute.name(), type.attributes);
         m_findings.report(
             ATTRIBUTE_UNKNOWN, {fields.parent(), item},
-            {Texts::tr("The element '%1' has no attribute '%2'; nobody reads it.")
+            {Texts::tr("Unknown attribute '%2' of the element '%1'; it is ignored.")
                  .arg(type.tag, attribute.name()),
              QStringLiteral("%1=\"%2\"").arg(attribute.name(), attribute.value()),
              inWords(type.attributes),
@@ -76,7 +76,7 @@ void StructureCheck::checkChild(const QDomElement &child, const Fields &fields, 
     } else if (!type.children.at(index).isRepeated && child != fields.element(tag)) {
         m_findings.report(
             ELEMENT_REPEATED, {child, item},
-            {Texts::tr("'%1' stands more than once in '%2'; only the first one is read.")
+            {Texts::tr("'%1' occurs more than once in '%2'; only the first one is read.")
                  .arg(tag, type.tag),
              tag, Texts::tr("one '%1'").arg(tag), Texts::tr("Remove all but one.")});
     }
@@ -88,11 +88,12 @@ void StructureCheck::reportStray(const QDomElement &child, const SElement &paren
     const QString tag = child.tagName();
     const QStringList places = parents(tag);
     if (!places.isEmpty() || tag == root().tag) {
-        m_findings.report(ELEMENT_MISPLACED, {child, item},
-                          {Texts::tr("'%1' is not looked for in '%2'.").arg(tag, parent.tag), tag,
-                           places.isEmpty() ? Texts::tr("at the top of the document")
-                                            : Texts::tr("in %1").arg(inWords(places)),
-                           Texts::tr("Move the element to where it belongs, or remove it.")});
+        m_findings.report(
+            ELEMENT_MISPLACED, {child, item},
+            {Texts::tr("'%1' does not belong in '%2'; it is ignored.").arg(tag, parent.tag), tag,
+             places.isEmpty() ? Texts::tr("at the top of the document")
+                              : Texts::tr("in %1").arg(inWords(places)),
+             Texts::tr("Move the element to where it belongs, or remove it.")});
         return;
     }
     QStringList allowed;
@@ -100,9 +101,9 @@ void StructureCheck::reportStray(const QDomElement &child, const SElement &paren
         allowed.append(candidate.element->tag);
     }
     const QString known = similar(tag);
-    m_findings.report(
-        ELEMENT_UNKNOWN, {child, item},
-        {Texts::tr("There is no element '%1'; nobody reads it.").arg(shown(tag)), tag,
-         allowed.isEmpty() ? Texts::tr("nothing but text") : inWords(allowed),
-         known.isEmpty() ? Texts::tr("Remove the element, or mend its name.") : caseHint(known)});
+    m_findings.report(ELEMENT_UNKNOWN, {child, item},
+                      {Texts::tr("Unknown element '%1'; it is ignored.").arg(shown(tag)), tag,
+                       allowed.isEmpty() ? Texts::tr("only text") : inWords(allowed),
+                       known.isEmpty() ? Texts::tr("Remove the element, or correct its name.")
+                                       : caseHint(known)});
 }

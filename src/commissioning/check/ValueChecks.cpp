@@ -32,47 +32,64 @@ const ERule NoRule = RULE_COUNT;
 struct SRow {
     EValue kind;
     /** Nothing is there. */
-    ERule missing = NoRule;
-    const char *missingText = nullptr;
-    /** The value is left open. */
-    ERule undefined = NoRule;
-    const char *undefinedText = nullptr;
-    const char *undefinedHint = nullptr;
+    ERule missing;
+    const char *missingText;
+    /** The value is left open. Without a text of its own it is reported as invalid. */
+    ERule undefined;
     /** Readers cannot read it. */
-    ERule invalid = NoRule;
-    const char *hint = nullptr;
+    ERule invalid;
+    const char *undefinedText;
+    const char *undefinedHint;
+    const char *hint;
 };
 
-const char *const NextFreeNumber = QT_TRANSLATE_NOOP(
-    "CConfigurationCheck", "The drive is read with the next number that no other drive has.");
+const char *const NextFreeNumber =
+    QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive is read with the next free number.");
+
+/** A kind of which nothing needs to be there, and which cannot be left open. */
+constexpr SRow optional(EValue kind, ERule invalid, const char *hint = nullptr)
+{
+    return {kind, NoRule, nullptr, NoRule, invalid, nullptr, nullptr, hint};
+}
+
+/** An enumeration, which has a text that leaves its value open. */
+constexpr SRow enumeration(EValue kind, ERule missing, const char *missingText, ERule undefined,
+                           const char *undefinedText, ERule invalid)
+{
+    return {kind, missing, missingText, undefined, invalid, undefinedText, nullptr, nullptr};
+}
 
 const SRow Rows[] = {
-    {EValue::DATE, NoRule, nullptr, NoRule, nullptr, nullptr, DATE_INVALID, nullptr},
-    {EValue::HARDWARE_ID, NoRule, nullptr, NoRule, nullptr, nullptr, HARDWARE_ID_INVALID,
-     QT_TRANSLATE_NOOP("CConfigurationCheck",
-                       "The last three are numbers from 0 to 65535; it is read as empty.")},
-    {EValue::DEVICE_CLASS, DEVICE_CLASS_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The device has no class."), DEVICE_CLASS_UNDEFINED,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The class of the device is left open."), nullptr,
-     DEVICE_CLASS_UNKNOWN, nullptr},
-    {EValue::BOOLEAN, NoRule, nullptr, NoRule, nullptr, nullptr, OPC_UA_FLAG_INVALID, nullptr},
-    {EValue::PARAMETER_FILE_TYPE, PARAMETER_TYPE_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The parameter file has no type."),
-     PARAMETER_TYPE_UNDEFINED,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the parameter file is left open."),
-     nullptr, PARAMETER_TYPE_UNKNOWN, nullptr},
-    {EValue::SIGNED_NUMBER, NoRule, nullptr, NoRule, nullptr, nullptr, PRIORITY_INVALID,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The plug-in is read without a priority.")},
-    {EValue::DRIVE_TYPE, DRIVE_TYPE_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no type."), DRIVE_TYPE_UNDEFINED,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the drive is left open."), nullptr,
-     DRIVE_TYPE_UNKNOWN, nullptr},
+    optional(EValue::DATE, DATE_INVALID),
+    optional(EValue::HARDWARE_ID, HARDWARE_ID_INVALID,
+             QT_TRANSLATE_NOOP("CConfigurationCheck",
+                               "The last three are numbers from 0 to 65535; an invalid hardware "
+                               "identity is read as empty.")),
+    optional(EValue::BOOLEAN, OPC_UA_FLAG_INVALID),
+    optional(EValue::SIGNED_NUMBER, PRIORITY_INVALID,
+             QT_TRANSLATE_NOOP("CConfigurationCheck", "The plug-in is read without a priority.")),
+    optional(EValue::UNSIGNED_NUMBER, BUS_ID_INVALID),
+    enumeration(EValue::DEVICE_CLASS, DEVICE_CLASS_MISSING,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The device class is missing."),
+                DEVICE_CLASS_UNDEFINED,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The device class is 'Undefined'."),
+                DEVICE_CLASS_UNKNOWN),
+    enumeration(
+        EValue::PARAMETER_FILE_TYPE, PARAMETER_TYPE_MISSING,
+        QT_TRANSLATE_NOOP("CConfigurationCheck", "The parameter file has no type."),
+        PARAMETER_TYPE_UNDEFINED,
+        QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the parameter file is 'Undefined'."),
+        PARAMETER_TYPE_UNKNOWN),
+    enumeration(EValue::DRIVE_TYPE, DRIVE_TYPE_MISSING,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no type."),
+                DRIVE_TYPE_UNDEFINED,
+                QT_TRANSLATE_NOOP("CConfigurationCheck", "The type of the drive is undefined."),
+                DRIVE_TYPE_UNKNOWN),
     {EValue::KEY_DRIVE_NUMBER, DRIVE_NUMBER_MISSING,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive has no number."), DRIVE_NUMBER_INVALID,
-     nullptr,
+     QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive number is missing."), DRIVE_NUMBER_INVALID,
+     DRIVE_NUMBER_INVALID, nullptr,
      QT_TRANSLATE_NOOP("CConfigurationCheck", "This number means that no number is assigned."),
-     DRIVE_NUMBER_INVALID, NextFreeNumber},
-    {EValue::UNSIGNED_NUMBER, NoRule, nullptr, NoRule, nullptr, nullptr, BUS_ID_INVALID, nullptr},
+     NextFreeNumber},
 };
 
 QString translated(const char *text)
@@ -137,17 +154,17 @@ Fault version(const QString &version, const QString &required)
     const quint32 revision = CStr::stringToRevision(version, &isRevision);
     const quint32 requiredRevision = CStr::stringToRevision(required);
     const QString hint =
-        Texts::tr("The document is read as one of version %1; save it anew with this version.")
+        Texts::tr("The document is read as version %1; save it again with this version.")
             .arg(required);
     if (version.isEmpty()) {
         return SFault{
             VERSION_MISSING,
-            {Texts::tr("The document does not tell its version."), QString(), required, hint}};
+            {Texts::tr("The version of the document is missing."), QString(), required, hint}};
     }
     if (!isRevision) {
-        return SFault{
-            VERSION_INVALID,
-            {Texts::tr("'%1' is no version.").arg(shown(version)), version, required, hint}};
+        return SFault{VERSION_INVALID,
+                      {Texts::tr("'%1' is not a valid version.").arg(shown(version)), version,
+                       required, hint}};
     }
     if (revision == requiredRevision) {
         return {};
@@ -164,30 +181,31 @@ Fault configurationName(const QString &name)
         Texts::tr("letters, digits, '_', '-' and '+'; a number in parentheses may follow");
     if (name.isEmpty()) {
         return SFault{CONFIGURATION_NAME_EMPTY,
-                      {Texts::tr("The name of the configuration is empty."), QString(), allowed,
-                       Texts::tr("Without a name it has no directories on the device.")}};
+                      {Texts::tr("The configuration name is empty."), QString(), allowed,
+                       Texts::tr("The directories on the device are named after it.")}};
     }
     // Expressions of our own: those of NDeviceConf are for one thread alone. What is too long for a
     // directory is not given to them.
     const bool isTooLong = name.toUtf8().size() > CanonicalPaths::LongestName;
     if (!isTooLong && QRegExp(NDeviceConf::NAME_CHECK_PATTERN).exactMatch(name)) {
-        return SFault{CONFIGURATION_NAME_RESERVED,
-                      {Texts::tr("'%1' is a name that the device keeps for itself.").arg(name),
-                       name, Texts::tr("a name without 'setup', 'failsafe' and 'mount error'"),
-                       QString()}};
+        return SFault{
+            CONFIGURATION_NAME_RESERVED,
+            {Texts::tr("The configuration name '%1' is reserved by the device.").arg(name), name,
+             Texts::tr("a name without 'setup', 'failsafe' and 'mount error'"), QString()}};
     }
     if (!isTooLong && QRegExp(NDeviceConf::NAME_INPUT_PATTERN).exactMatch(name)) {
         return {};
     }
     return SFault{CONFIGURATION_NAME_INVALID,
-                  {Texts::tr("'%1' cannot be the name of a configuration.").arg(shown(name)), name,
+                  {Texts::tr("'%1' is not a valid configuration name.").arg(shown(name)), name,
                    allowed, QString()}};
 }
 
 Fault pluginVersion(const CPluginElement &plugin)
 {
-    const QString expected = Texts::tr("numbers with dots between them, like 1.3");
-    const QString hint = Texts::tr("Its file would be '%1'.").arg(shown(plugin.fileName()));
+    const QString expected = Texts::tr("numbers separated by dots, such as 1.3");
+    const QString hint =
+        Texts::tr("The file name of the plug-in would be '%1'.").arg(shown(plugin.fileName()));
     if (plugin.version().isEmpty()) {
         return SFault{PLUGIN_VERSION_MISSING,
                       {Texts::tr("The plug-in '%1' has no version.").arg(shown(plugin.name())),
@@ -197,7 +215,7 @@ Fault pluginVersion(const CPluginElement &plugin)
         return {};
     }
     return SFault{PLUGIN_VERSION_INVALID,
-                  {Texts::tr("'%1' is no version of a plug-in.").arg(shown(plugin.version())),
+                  {Texts::tr("'%1' is not a valid plug-in version.").arg(shown(plugin.version())),
                    plugin.version(), expected, hint}};
 }
 

@@ -1,9 +1,10 @@
 #include "commissioning/items/ItemReader.h"
 
 #include "commissioning/items/ItemPaths.h"
-#include "commissioning/items/ItemTexts.h"
+#include "commissioning/Texts.h"
 
 using namespace ConfigurationShape;
+using ConfigurationItemsTexts::Texts;
 using ItemPath::joined;
 
 namespace {
@@ -26,12 +27,12 @@ bool ItemReader::fail(const QString &text)
 
 bool ItemReader::failWithoutValue(const SItemPlace &place)
 {
-    return fail(ItemTexts::tr("%1: this has no value of its own").arg(place.path));
+    return fail(Texts::tr("%1: this has no value of its own").arg(place.path));
 }
 
 bool ItemReader::failAbsent(const SItemPlace &place)
 {
-    return fail(ItemTexts::tr("%1: the configuration does not have it").arg(place.path));
+    return fail(Texts::tr("%1: the configuration does not have it").arg(place.path));
 }
 
 bool ItemReader::find(const QString &path, SItemPlace &place, bool entryMayBeAbsent)
@@ -164,7 +165,7 @@ void ItemReader::listChildren(const SItemNode &node, const QDomElement &element,
                               const QString &path, const SLists &lists) const
 {
     for (const SItemNode &child : node.children) {
-        if (!child.isKey && ItemFinder::canHave(element, child)) {
+        if (!child.isKey() && ItemFinder::canHave(element, child)) {
             QDomElement childElement = element;
             for (const QString &tag : child.tags) {
                 childElement = childElement.firstChildElement(tag);

@@ -33,7 +33,7 @@ QString meant(const QString &text, const QStringList &allowed)
 
 QString caseHint(const QString &rightText)
 {
-    return Texts::tr("Write '%1': capital and small letters matter.").arg(rightText);
+    return Texts::tr("Write '%1'; upper and lower case are distinguished.").arg(rightText);
 }
 
 } // namespace FaultTexts

@@ -60,9 +60,9 @@ std::optional<SFault> ofName(const QString &name)
     if (!isName(name)) {
         const bool isTooLong = name.toUtf8().size() > CanonicalPaths::LongestName;
         return SFault{FILE_NAME_INVALID,
-                      {Texts::tr("'%1' is no name of a file.").arg(shown(name)), name,
+                      {Texts::tr("'%1' is not a valid file name.").arg(shown(name)), name,
                        isTooLong ? shortNames()
-                                 : Texts::tr("a name without directory, slashes and line breaks"),
+                                 : Texts::tr("a name without directories, slashes and line breaks"),
                        QString()}};
     }
     return {};
@@ -78,14 +78,14 @@ std::optional<SFault> ofDeviceDirectory(const CFileElement &file, const QString 
     }
     if (leadsUp(file.devicePath())) {
         return SFault{DEVICE_PATH_CLIMBS,
-                      {Texts::tr("The directory '%1' leads upwards.").arg(shown(written)), written,
+                      {Texts::tr("The directory '%1' contains '..'.").arg(shown(written)), written,
                        Texts::tr("a directory without '..'"), QString()}};
     }
     if (CFTPath::fromPath(CanonicalPaths::deviceDirectory(file)) == CFTPath::ENTRY_POINT_UNKNOWN) {
-        return SFault{
-            DEVICE_PATH_OUTSIDE,
-            {Texts::tr("The directory '%1' lies outside the device's trees.").arg(shown(written)),
-             written, deviceTrees(), QString()}};
+        return SFault{DEVICE_PATH_OUTSIDE,
+                      {Texts::tr("The directory '%1' is outside the directory trees of the device.")
+                           .arg(shown(written)),
+                       written, deviceTrees(), QString()}};
     }
     const QString path = CanonicalPaths::deviceDirectory(file) + file.fileName();
     if (isName(file.fileName()) && !CanonicalPaths::isStorable(path.mid(1))) {
@@ -103,19 +103,19 @@ std::optional<SFault> ofProjectDirectory(const CFileElement &file)
     const QString clean = CanonicalPaths::of(path);
     if (isAbsolute(path)) {
         return SFault{PROJECT_PATH_ABSOLUTE,
-                      {Texts::tr("The directory '%1' is absolute.").arg(shown(path)), path,
+                      {Texts::tr("The directory '%1' is an absolute path.").arg(shown(path)), path,
                        Texts::tr("a directory relative to the project"), QString()}};
     }
     if (clean == Up || clean.startsWith(QLatin1String("../"))) {
         return SFault{PROJECT_PATH_OUTSIDE,
-                      {Texts::tr("The directory '%1' leads out of the project.").arg(shown(path)),
+                      {Texts::tr("The directory '%1' is outside the project.").arg(shown(path)),
                        path, Texts::tr("a directory in the project"), QString()}};
     }
     if (leadsUp(path)) {
         return SFault{PROJECT_PATH_OUTSIDE,
-                      {Texts::tr("The directory '%1' leads upwards.").arg(shown(path)), path,
+                      {Texts::tr("The directory '%1' contains '..'.").arg(shown(path)), path,
                        Texts::tr("a directory without '..'"),
-                       Texts::tr("Behind a symbolic link '..' leads to another directory.")}};
+                       Texts::tr("After a symbolic link, '..' leads to another directory.")}};
     }
     return {};
 }
@@ -129,24 +129,26 @@ std::optional<SFault> ofProjectFile(const CFileElement &file, const ProjectFiles
     case ProjectFiles::STATE_PRESENT:
         break;
     case ProjectFiles::STATE_MISSING:
-        return SFault{PROJECT_FILE_MISSING,
-                      {Texts::tr("The file '%1' is not in the project.").arg(name), found, path,
-                       found.isEmpty() ? QString()
-                                       : Texts::tr("A symbolic link of that name leads to "
-                                                   "nothing.")}};
+        return SFault{
+            PROJECT_FILE_MISSING,
+            {Texts::tr("The file '%1' is not in the project.").arg(name), found, path,
+             found.isEmpty()
+                 ? QString()
+                 : Texts::tr("The symbolic link of that name points to a missing file.")}};
     case ProjectFiles::STATE_OTHER_CASE:
         return SFault{
             PROJECT_FILE_OTHER_CASE,
-            {Texts::tr("The file '%1' is called '%2' in the project.").arg(name, shown(found)),
-             found, path, Texts::tr("Capital and small letters matter on the device.")}};
+            {Texts::tr("The file '%1' is named '%2' in the project.").arg(name, shown(found)),
+             found, path, Texts::tr("File names on the device are case-sensitive.")}};
     case ProjectFiles::STATE_OUTSIDE:
-        return SFault{PROJECT_FILE_OUTSIDE,
-                      {Texts::tr("A symbolic link leads from '%1' out of the project.").arg(name),
-                       found, Texts::tr("a file in the project"),
-                       Texts::tr("Whoever gets the project does not get the file.")}};
+        return SFault{
+            PROJECT_FILE_OUTSIDE,
+            {Texts::tr("A symbolic link on the path '%1' leads out of the project.").arg(name),
+             found, Texts::tr("a file in the project"),
+             Texts::tr("A copy of the project does not contain the file.")}};
     case ProjectFiles::STATE_NOT_REGULAR:
         return SFault{PROJECT_FILE_NOT_REGULAR,
-                      {Texts::tr("'%1' is no regular file.").arg(name), path,
+                      {Texts::tr("'%1' is not a regular file.").arg(name), path,
                        Texts::tr("a regular file"), QString()}};
     case ProjectFiles::STATE_UNREADABLE:
         return unreadable(path, found);
@@ -162,7 +164,7 @@ SFault unreadable(const QString &path, const QString &reason)
 {
     return {PROJECT_FILE_UNREADABLE,
             {Texts::tr("The file '%1' cannot be read: %2").arg(shown(path), reason), reason,
-             Texts::tr("a file that may be read"), QString()}};
+             Texts::tr("a readable file"), QString()}};
 }
 
 SFault samePlace(const CFileElement &file, const QString &other)
@@ -170,8 +172,8 @@ SFault samePlace(const CFileElement &file, const QString &other)
     return {DEVICE_FILE_CONFLICT,
             {Texts::tr("The file '%1' has the same place on the device as %2.")
                  .arg(shown(file.fileName()), other),
-             CanonicalPaths::onDevice(file), Texts::tr("a place of its own"),
-             Texts::tr("The one that is transferred last overwrites the other one.")}};
+             CanonicalPaths::onDevice(file), Texts::tr("a unique place"),
+             Texts::tr("The file that is transferred last overwrites the other one.")}};
 }
 
 } // namespace FileRules

@@ -1,12 +1,12 @@
 #include "commissioning/rules/ProjectFiles.h"
 
 #include "elements/CanonicalPaths.h"
+#include "storage/CanonicalName.h"
 #include "storage/Descriptor.h"
 
 #include <QFile>
 
 #include <cerrno>
-#include <cstdlib>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -28,11 +28,16 @@ bool list(const QByteArray &directory, QStringList &names)
     if (entries == nullptr) {
         return false;
     }
-    errno = 0;
-    while (const dirent *const entry = readdir(entries)) {
+    bool isComplete = false;
+    for (;;) {
+        errno = 0;
+        const dirent *const entry = readdir(entries);
+        if (entry == nullptr) {
+            isComplete = errno == 0;
+            break;
+        }
         names.append(QString::fromUtf8(entry->d_name));
     }
-    const bool isComplete = errno == 0;
     closedir(entries);
     names.sort();
     return isComplete;
@@ -61,6 +66,11 @@ void judge(ProjectFiles::SFile &file)
         unreadable();
         return;
     }
+    // Another one may have taken its place meanwhile.
+    if (!S_ISREG(status.st_mode)) {
+        file.state = ProjectFiles::STATE_NOT_REGULAR;
+        return;
+    }
     file.size = status.st_size;
     file.state = file.size == 0 ? ProjectFiles::STATE_EMPTY : ProjectFiles::STATE_PRESENT;
 }
@@ -68,7 +78,7 @@ void judge(ProjectFiles::SFile &file)
 } // namespace
 
 ProjectFiles::ProjectFiles(const QString &directory)
-    : m_root(canonical(QFile::encodeName(directory)))
+    : m_root(canonicalName(QFile::encodeName(directory)))
 {
     if (m_root.isEmpty()) {
         m_errorText = qt_error_string(errno);
@@ -90,16 +100,6 @@ QString ProjectFiles::relativePath(const QByteArray &source) const
     return isInside ? QString::fromUtf8(source.mid(m_root.size())) : QString();
 }
 
-QByteArray ProjectFiles::canonical(const QByteArray &name)
-{
-    char *const resolved = realpath(name.constData(), nullptr);
-    const int error = errno;
-    QByteArray result(resolved);
-    std::free(resolved);
-    errno = error;
-    return result;
-}
-
 const ProjectFiles::SDirectory &ProjectFiles::directory(const QString &relativePath)
 {
     const auto known = m_directories.constFind(relativePath);
@@ -107,7 +107,7 @@ const ProjectFiles::SDirectory &ProjectFiles::directory(const QString &relativeP
         return *known;
     }
     SDirectory result;
-    result.canonicalPath = canonical(inProject(relativePath));
+    result.canonicalPath = canonicalName(inProject(relativePath));
     QStringList names;
     result.isListed = list(inProject(relativePath), names);
     for (const QString &name : qAsConst(names)) {
@@ -147,7 +147,7 @@ QByteArray ProjectFiles::resolved(const QString &relativePath)
     }
     // Most files are no links, and most directories have many files.
     if (parent.isEmpty() || S_ISLNK(status.st_mode)) {
-        return canonical(name);
+        return canonicalName(name);
     }
     return (parent.endsWith('/') ? parent : parent + '/') + relativePath.mid(nameAt).toUtf8();
 }

@@ -42,7 +42,7 @@ public:
 
     explicit ProjectFiles(const QString &directory);
 
-    /** Why there is no such directory; empty when there is. */
+    /** Why the directory cannot be found; empty when it can. */
     QString errorText() const { return m_errorText; }
 
     /** Looks for @p file, whose directory in the project has no fault. */
@@ -50,10 +50,6 @@ public:
 
     /** The path in the project of the file @p source, without links; empty when it is outside. */
     QString relativePath(const QByteArray &source) const;
-
-    /** The name of what @p name leads to, without links; empty, with errno, when that is nothing.
-     */
-    static QByteArray canonical(const QByteArray &name);
 
 private:
     struct SDirectory {

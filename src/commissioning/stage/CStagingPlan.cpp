@@ -3,6 +3,7 @@
 #include "commissioning/rules/FileRules.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
+#include "storage/CanonicalName.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -77,17 +78,19 @@ private:
         const QString name = m_device.configurationName();
         if (name.isEmpty()) {
             addProblem(QStringLiteral("no-configuration-name"), {},
-                       Texts::tr("The device has no configuration name, which the directories on "
-                                 "the device are named after."));
+                       Texts::tr("The device has no configuration name; the directories on the "
+                                 "device are named after it."));
             return false;
         }
         // A file's directory takes a backslash for a separator, so that files would lie elsewhere.
         const bool isName = !name.contains(Separator) && !name.contains(QLatin1Char('\\'))
             && CanonicalPaths::isStorable(name);
         if (!isName) {
-            addProblem(QStringLiteral("bad-configuration-name"), {},
-                       Texts::tr("The configuration name \"%1\" cannot be that of a directory.")
-                           .arg(name));
+            addProblem(
+                QStringLiteral("bad-configuration-name"), {},
+                Texts::tr(
+                    "The configuration name \"%1\" cannot be used as the name of a directory.")
+                    .arg(name));
             return false;
         }
         return true;
@@ -124,7 +127,7 @@ private:
         file.content = document.content.isNull() ? QByteArray("") : document.content;
         file.size = document.content.size();
         if (!document.path.isEmpty()) {
-            file.source = ProjectFiles::canonical(QFile::encodeName(document.path));
+            file.source = canonicalName(QFile::encodeName(document.path));
         }
         file.projectPath = m_project.relativePath(file.source);
         place(file, element);
