@@ -1111,6 +1111,86 @@
 <context>
     <name>CConfigurationItems</name>
     <message>
+        <source>%1: %2 Expected: %3.</source>
+        <translation>%1: %2 Erwartet: %3.</translation>
+    </message>
+    <message>
+        <source>%1: only entries of lists can be added</source>
+        <translation>%1: nur Elemente von Listen können hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>%1: a second entry of the same key cannot be added</source>
+        <translation>%1: ein zweites Element mit demselben Schlüssel kann nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>%1: only single items, entries and files can be removed</source>
+        <translation>%1: nur einzelne Einträge, Listenelemente und Dateien können entfernt werden</translation>
+    </message>
+    <message>
+        <source>%1: the entry cannot be without it</source>
+        <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
+    </message>
+    <message>
+        <source>There is no configuration.</source>
+        <translation>Es gibt keine Konfiguration.</translation>
+    </message>
+    <message>
+        <source>%1: an entry of the list must be named, as in %2</source>
+        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
+    </message>
+    <message>
+        <source>%1: only a drive of the type KD2_drive has this file</source>
+        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
+        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item</source>
+        <translation>%1: diesen Eintrag gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; did you mean %2?</source>
+        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
+    </message>
+    <message>
+        <source>%1: there is no such item; there are %2</source>
+        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
+    </message>
+    <message>
+        <source>a &apos;.&apos; is missing</source>
+        <translation>ein &apos;.&apos; fehlt</translation>
+    </message>
+    <message>
+        <source>a word is missing</source>
+        <translation>ein Wort fehlt</translation>
+    </message>
+    <message>
+        <source>a &apos;]&apos; is missing</source>
+        <translation>ein &apos;]&apos; fehlt</translation>
+    </message>
+    <message>
+        <source>only &apos;]&apos; and &apos;\&apos; can stand behind a &apos;\&apos;</source>
+        <translation>nur &apos;]&apos; und &apos;\&apos; können hinter einem &apos;\&apos; stehen</translation>
+    </message>
+    <message>
+        <source>behind a key only a number from 2 on can stand in brackets</source>
+        <translation>hinter einem Schlüssel kann in Klammern nur eine Zahl ab 2 stehen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no path: %2 at character %3</source>
+        <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
+    </message>
+    <message>
+        <source>%1: this has no value of its own</source>
+        <translation>%1: dies hat keinen eigenen Wert</translation>
+    </message>
+    <message>
+        <source>%1: the configuration does not have it</source>
+        <translation>%1: die Konfiguration hat das nicht</translation>
+    </message>
+    <message>
         <source>%1: there is no such drive</source>
         <translation>%1: diesen Antrieb gibt es nicht</translation>
     </message>
@@ -1165,138 +1245,6 @@
     <message>
         <source>%1: there is such a file already</source>
         <translation>%1: diese Datei gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item</source>
-        <translation>%1: diesen Eintrag gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; did you mean %2?</source>
-        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
-    </message>
-    <message>
-        <source>%1: there is no such item; there are %2</source>
-        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
-    </message>
-    <message>
-        <source>%1: an entry of the list must be named, as in %2</source>
-        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
-    </message>
-    <message>
-        <source>%1: only a drive of the type KD2_drive has this file</source>
-        <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
-    </message>
-    <message>
-        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
-        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
-    </message>
-    <message>
-        <source>There is no configuration.</source>
-        <translation>Es gibt keine Konfiguration.</translation>
-    </message>
-    <message>
-        <source>%1: the character U+%2 cannot be stored in a configuration</source>
-        <translation>%1: das Zeichen U+%2 kann in einer Konfiguration nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>%1: the words of an argument are separated by single blanks</source>
-        <translation>%1: die Wörter eines Arguments sind durch einzelne Leerzeichen getrennt</translation>
-    </message>
-    <message>
-        <source>%1: in &apos;%2&apos; a word begins with &apos;-&apos;, which would be an option</source>
-        <translation>%1: in &apos;%2&apos; beginnt ein Wort mit &apos;-&apos;, was eine Option wäre</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no drive number; one is a number from 0 to %3</source>
-        <translation>%1: &apos;%2&apos; ist keine Antriebsnummer; das ist eine Zahl von 0 bis %3</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no option; one is a word that begins with &apos;-&apos;</source>
-        <translation>%1: &apos;%2&apos; ist keine Option; das ist ein Wort, das mit &apos;-&apos; beginnt</translation>
-    </message>
-    <message>
-        <source>%1: a name must not be empty</source>
-        <translation>%1: ein Name darf nicht leer sein</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no date; one is written as 2026-11-21</source>
-        <translation>%1: &apos;%2&apos; ist kein Datum; das schreibt man wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no device class; there are kc2, kd3 and Undefined</source>
-        <translation>%1: &apos;%2&apos; ist keine Geräteklasse; es gibt kc2, kd3 und Undefined</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no hardware identity; one is written as PREFIX:NAME:PLATFORM:VERSION:REVISION</source>
-        <translation>%1: &apos;%2&apos; ist keine Hardwarekennung; das schreibt man wie PREFIX:NAME:PLATFORM:VERSION:REVISION</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is neither true nor false</source>
-        <translation>%1: &apos;%2&apos; ist weder true noch false</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from 0 to 4294967295</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no whole number from -2147483648 to 2147483647</source>
-        <translation>%1: &apos;%2&apos; ist keine ganze Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of parameter files</source>
-        <translation>%1: &apos;%2&apos; ist kein Typ von Parameterdateien</translation>
-    </message>
-    <message>
-        <source>%1: &apos;%2&apos; is no type of drives; there are KD2_drive and KD3_drive</source>
-        <translation>%1: &apos;%2&apos; ist kein Antriebstyp; es gibt KD2_drive und KD3_drive</translation>
-    </message>
-    <message>
-        <source>%1: this has no value of its own</source>
-        <translation>%1: dies hat keinen eigenen Wert</translation>
-    </message>
-    <message>
-        <source>%1: the configuration does not have it</source>
-        <translation>%1: die Konfiguration hat das nicht</translation>
-    </message>
-    <message>
-        <source>%1: only entries of lists can be added</source>
-        <translation>%1: nur Elemente von Listen können hinzugefügt werden</translation>
-    </message>
-    <message>
-        <source>%1: a second entry of the same key cannot be added</source>
-        <translation>%1: ein zweites Element mit demselben Schlüssel kann nicht hinzugefügt werden</translation>
-    </message>
-    <message>
-        <source>%1: only single items, entries and files can be removed</source>
-        <translation>%1: nur einzelne Einträge, Listenelemente und Dateien können entfernt werden</translation>
-    </message>
-    <message>
-        <source>%1: the entry cannot be without it</source>
-        <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
-    </message>
-    <message>
-        <source>a &apos;.&apos; is missing</source>
-        <translation>ein &apos;.&apos; fehlt</translation>
-    </message>
-    <message>
-        <source>a word is missing</source>
-        <translation>ein Wort fehlt</translation>
-    </message>
-    <message>
-        <source>a &apos;]&apos; is missing</source>
-        <translation>ein &apos;]&apos; fehlt</translation>
-    </message>
-    <message>
-        <source>only &apos;]&apos; and &apos;\&apos; can stand behind a &apos;\&apos;</source>
-        <translation>nur &apos;]&apos; und &apos;\&apos; können hinter einem &apos;\&apos; stehen</translation>
-    </message>
-    <message>
-        <source>behind a key only a number from 2 on can stand in brackets</source>
-        <translation>hinter einem Schlüssel kann in Klammern nur eine Zahl ab 2 stehen</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no path: %2 at character %3</source>
-        <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
     </message>
 </context>
 <context>
@@ -1401,136 +1349,8 @@
         <translation>&apos;%1&apos; ist kein Pfad.</translation>
     </message>
     <message>
-        <source>option %1</source>
-        <translation>Option %1</translation>
-    </message>
-    <message>
-        <source>parameter file %1</source>
-        <translation>Parameterdatei %1</translation>
-    </message>
-    <message>
-        <source>FPGA image %1</source>
-        <translation>FPGA-Abbild %1</translation>
-    </message>
-    <message>
-        <source>OPC UA file %1</source>
-        <translation>OPC-UA-Datei %1</translation>
-    </message>
-    <message>
-        <source>plug-in %1</source>
-        <translation>Plug-in %1</translation>
-    </message>
-    <message>
-        <source>drive %1</source>
-        <translation>Antrieb %1</translation>
-    </message>
-    <message>
-        <source>file %1</source>
-        <translation>Datei %1</translation>
-    </message>
-    <message>
-        <source>description</source>
-        <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>device</source>
-        <translation>Gerät</translation>
-    </message>
-    <message>
-        <source>object dictionary</source>
-        <translation>Objektverzeichnis</translation>
-    </message>
-    <message>
-        <source>fault texts</source>
-        <translation>Fehlertexte</translation>
-    </message>
-    <message>
-        <source>EtherCAT master file</source>
-        <translation>Datei des EtherCAT-Masters</translation>
-    </message>
-    <message>
-        <source>parameter file</source>
-        <translation>Parameterdatei</translation>
-    </message>
-    <message>
-        <source>KD2 parameter file</source>
-        <translation>KD2-Parameterdatei</translation>
-    </message>
-    <message>
-        <source>KD2 logic</source>
-        <translation>KD2-Logik</translation>
-    </message>
-    <message>
-        <source>KD2 firmware</source>
-        <translation>KD2-Firmware</translation>
-    </message>
-    <message>
         <source>argument</source>
         <translation>Argument</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>comment</source>
-        <translation>Kommentar</translation>
-    </message>
-    <message>
-        <source>version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>creation date</source>
-        <translation>Erstellungsdatum</translation>
-    </message>
-    <message>
-        <source>revision date</source>
-        <translation>Überarbeitungsdatum</translation>
-    </message>
-    <message>
-        <source>class</source>
-        <translation>Klasse</translation>
-    </message>
-    <message>
-        <source>hardware identity</source>
-        <translation>Hardwarekennung</translation>
-    </message>
-    <message>
-        <source>configuration name</source>
-        <translation>Konfigurationsname</translation>
-    </message>
-    <message>
-        <source>execution plug-in</source>
-        <translation>Plug-in der Anwendung</translation>
-    </message>
-    <message>
-        <source>OPC UA enabled</source>
-        <translation>OPC UA eingeschaltet</translation>
-    </message>
-    <message>
-        <source>active FPGA image</source>
-        <translation>aktives FPGA-Abbild</translation>
-    </message>
-    <message>
-        <source>type</source>
-        <translation>Typ</translation>
-    </message>
-    <message>
-        <source>bus identifier</source>
-        <translation>Buskennung</translation>
-    </message>
-    <message>
-        <source>priority</source>
-        <translation>Priorität</translation>
-    </message>
-    <message>
-        <source>device directory</source>
-        <translation>Verzeichnis auf dem Gerät</translation>
-    </message>
-    <message>
-        <source>project directory</source>
-        <translation>Verzeichnis im Projekt</translation>
     </message>
     <message>
         <source>(empty)</source>
@@ -1539,159 +1359,6 @@
 </context>
 <context>
     <name>CConfigurationReport</name>
-    <message>
-        <source>Configuration</source>
-        <translation>Konfiguration</translation>
-    </message>
-    <message>
-        <source>Parameter values</source>
-        <translation>Parameterwerte</translation>
-    </message>
-    <message>
-        <source>Parameter definition</source>
-        <translation>Parameterdefinition</translation>
-    </message>
-    <message>
-        <source>Object dictionary</source>
-        <translation>Objektverzeichnis</translation>
-    </message>
-    <message>
-        <source>Fault texts</source>
-        <translation>Fehlertexte</translation>
-    </message>
-    <message>
-        <source>Additional file</source>
-        <translation>Zusätzliche Datei</translation>
-    </message>
-    <message>
-        <source>Plug-in</source>
-        <translation>Plug-in</translation>
-    </message>
-    <message>
-        <source>FPGA image</source>
-        <translation>FPGA-Abbild</translation>
-    </message>
-    <message>
-        <source>OPC UA model</source>
-        <translation>OPC-UA-Modell</translation>
-    </message>
-    <message>
-        <source>EtherCAT bus configuration</source>
-        <translation>EtherCAT-Buskonfiguration</translation>
-    </message>
-    <message>
-        <source>Parameters</source>
-        <translation>Parameter</translation>
-    </message>
-    <message>
-        <source>Firmware</source>
-        <translation>Firmware</translation>
-    </message>
-    <message>
-        <source>Logic</source>
-        <translation>Logik</translation>
-    </message>
-    <message>
-        <source>Parameters of the drive itself</source>
-        <translation>Parameter des Antriebs selbst</translation>
-    </message>
-    <message>
-        <source>en</source>
-        <extracomment>The code of the language that these texts are translated into, as &quot;de&quot; or &quot;pt-BR&quot;.</extracomment>
-        <translation>de</translation>
-    </message>
-    <message>
-        <source>Made from the configuration alone; nothing is loaded when this page is opened.</source>
-        <translation>Allein aus der Konfiguration erzeugt; beim Öffnen dieser Seite wird nichts geladen.</translation>
-    </message>
-    <message>
-        <source>Configuration without a name</source>
-        <translation>Konfiguration ohne Namen</translation>
-    </message>
-    <message>
-        <source>%1 – configuration report</source>
-        <translation>%1 – Konfigurationsbericht</translation>
-    </message>
-    <message>
-        <source>Configuration report</source>
-        <translation>Konfigurationsbericht</translation>
-    </message>
-    <message>
-        <source>Errors</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>Warnings</source>
-        <translation>Warnungen</translation>
-    </message>
-    <message>
-        <source>Drives</source>
-        <translation>Antriebe</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
-    </message>
-    <message>
-        <source>Plug-ins</source>
-        <translation>Plug-ins</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>Befunde</translation>
-    </message>
-    <message>
-        <source>Device</source>
-        <translation>Gerät</translation>
-    </message>
-    <message>
-        <source>Files of the device</source>
-        <translation>Dateien des Geräts</translation>
-    </message>
-    <message>
-        <source>Start options</source>
-        <translation>Startoptionen</translation>
-    </message>
-    <message>
-        <source>Sections of this page</source>
-        <translation>Abschnitte dieser Seite</translation>
-    </message>
-    <message>
-        <source>line %1, column %2</source>
-        <translation>Zeile %1, Spalte %2</translation>
-    </message>
-    <message>
-        <source>Nothing was found that is wrong or should be looked at.</source>
-        <translation>Es wurde nichts gefunden, was falsch ist oder angesehen werden sollte.</translation>
-    </message>
-    <message>
-        <source>Further findings: %1</source>
-        <translation>Weitere Befunde: %1</translation>
-    </message>
-    <message>
-        <source>The configuration as a whole</source>
-        <translation>Die Konfiguration insgesamt</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>Warning</source>
-        <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>Found:</source>
-        <translation>Gefunden:</translation>
-    </message>
-    <message>
-        <source>Expected:</source>
-        <translation>Erwartet:</translation>
-    </message>
-    <message>
-        <source>Hint:</source>
-        <translation>Hinweis:</translation>
-    </message>
     <message>
         <source>No bus id</source>
         <translation>Keine Buskennung</translation>
@@ -1729,16 +1396,8 @@
         <translation>Das Gerät und seine Antriebe</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Comment</source>
-        <translation>Kommentar</translation>
-    </message>
-    <message>
-        <source>Class</source>
-        <translation>Klasse</translation>
+        <source>Device</source>
+        <translation>Gerät</translation>
     </message>
     <message>
         <source>Product</source>
@@ -1749,26 +1408,6 @@
         <translation>Plattform, Version, Revision</translation>
     </message>
     <message>
-        <source>Hardware identity</source>
-        <translation>Hardwarekennung</translation>
-    </message>
-    <message>
-        <source>Configuration name</source>
-        <translation>Konfigurationsname</translation>
-    </message>
-    <message>
-        <source>Version of the configuration</source>
-        <translation>Version der Konfiguration</translation>
-    </message>
-    <message>
-        <source>Created</source>
-        <translation>Erstellt</translation>
-    </message>
-    <message>
-        <source>Last revision</source>
-        <translation>Letzte Überarbeitung</translation>
-    </message>
-    <message>
         <source>Written by</source>
         <translation>Geschrieben von</translation>
     </message>
@@ -1777,12 +1416,24 @@
         <translation>Geschrieben am</translation>
     </message>
     <message>
+        <source>Drives</source>
+        <translation>Antriebe</translation>
+    </message>
+    <message>
         <source>The device has no drives.</source>
         <translation>Das Gerät hat keine Antriebe.</translation>
     </message>
     <message>
-        <source>Bus id</source>
-        <translation>Buskennung</translation>
+        <source>Configuration</source>
+        <translation>Konfiguration</translation>
+    </message>
+    <message>
+        <source>Parameter values</source>
+        <translation>Parameterwerte</translation>
+    </message>
+    <message>
+        <source>Parameter definition</source>
+        <translation>Parameterdefinition</translation>
     </message>
     <message>
         <source>Object dictionary, fault texts, bus configuration</source>
@@ -1797,16 +1448,8 @@
         <translation>Aktiv</translation>
     </message>
     <message>
-        <source>Parameter files</source>
-        <translation>Parameterdateien</translation>
-    </message>
-    <message>
-        <source>FPGA images</source>
-        <translation>FPGA-Abbilder</translation>
-    </message>
-    <message>
-        <source>OPC UA models</source>
-        <translation>OPC-UA-Modelle</translation>
+        <source>Files of the device</source>
+        <translation>Dateien des Geräts</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -1815,10 +1458,6 @@
     <message>
         <source>Disabled</source>
         <translation>Ausgeschaltet</translation>
-    </message>
-    <message>
-        <source>Additional files</source>
-        <translation>Zusätzliche Dateien</translation>
     </message>
     <message>
         <source>File</source>
@@ -1837,16 +1476,97 @@
         <translation>Im Projekt</translation>
     </message>
     <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Nothing was found that is wrong or should be looked at.</source>
+        <translation>Es wurde nichts gefunden, was falsch ist oder angesehen werden sollte.</translation>
+    </message>
+    <message>
+        <source>Further findings: %1</source>
+        <translation>Weitere Befunde: %1</translation>
+    </message>
+    <message>
+        <source>The configuration as a whole</source>
+        <translation>Die Konfiguration insgesamt</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Found:</source>
+        <translation>Gefunden:</translation>
+    </message>
+    <message>
+        <source>Expected:</source>
+        <translation>Erwartet:</translation>
+    </message>
+    <message>
+        <source>Hint:</source>
+        <translation>Hinweis:</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language that these texts are translated into, as &quot;de&quot; or &quot;pt-BR&quot;.</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Made from the configuration alone; nothing is loaded when this page is opened.</source>
+        <translation>Allein aus der Konfiguration erzeugt; beim Öffnen dieser Seite wird nichts geladen.</translation>
+    </message>
+    <message>
+        <source>Configuration without a name</source>
+        <translation>Konfiguration ohne Namen</translation>
+    </message>
+    <message>
+        <source>%1 – configuration report</source>
+        <translation>%1 – Konfigurationsbericht</translation>
+    </message>
+    <message>
+        <source>Configuration report</source>
+        <translation>Konfigurationsbericht</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Start options</source>
+        <translation>Startoptionen</translation>
+    </message>
+    <message>
+        <source>Sections of this page</source>
+        <translation>Abschnitte dieser Seite</translation>
+    </message>
+    <message>
         <source>The device has no plug-ins.</source>
         <translation>Das Gerät hat keine Plug-ins.</translation>
     </message>
     <message>
-        <source>Version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>Priorität</translation>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
     </message>
     <message>
         <source>Runs the application</source>
@@ -1859,6 +1579,10 @@
 </context>
 <context>
     <name>CDeviceConfigurationFile</name>
+    <message>
+        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
+    </message>
     <message>
         <source>The device configuration file was created with a previous version</source>
         <translation>Die Gerätekonfigurationsdatei wurde mit einer früheren Version erstellt</translation>
@@ -1874,10 +1598,6 @@
     <message>
         <source>The sub-device &apos;%1&apos; has no drive number of its own and gets %2.</source>
         <translation>Das Untergerät &apos;%1&apos; hat keine eigene Antriebsnummer und bekommt %2.</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
@@ -2662,6 +2382,169 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
 </context>
 <context>
+    <name>ConfigurationShape</name>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>hardware identity</source>
+        <translation>Hardwarekennung</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>creation date</source>
+        <translation>Erstellungsdatum</translation>
+    </message>
+    <message>
+        <source>revision date</source>
+        <translation>Überarbeitungsdatum</translation>
+    </message>
+    <message>
+        <source>configuration name</source>
+        <translation>Konfigurationsname</translation>
+    </message>
+    <message>
+        <source>class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>execution plug-in</source>
+        <translation>Plug-in der Anwendung</translation>
+    </message>
+    <message>
+        <source>OPC UA enabled</source>
+        <translation>OPC UA eingeschaltet</translation>
+    </message>
+    <message>
+        <source>object dictionary</source>
+        <translation>Objektverzeichnis</translation>
+    </message>
+    <message>
+        <source>fault texts</source>
+        <translation>Fehlertexte</translation>
+    </message>
+    <message>
+        <source>EtherCAT master file</source>
+        <translation>Datei des EtherCAT-Masters</translation>
+    </message>
+    <message>
+        <source>drive number</source>
+        <translation>Antriebsnummer</translation>
+    </message>
+    <message>
+        <source>bus identifier</source>
+        <translation>Buskennung</translation>
+    </message>
+    <message>
+        <source>parameter file</source>
+        <translation>Parameterdatei</translation>
+    </message>
+    <message>
+        <source>KD2 parameter file</source>
+        <translation>KD2-Parameterdatei</translation>
+    </message>
+    <message>
+        <source>KD2 logic</source>
+        <translation>KD2-Logik</translation>
+    </message>
+    <message>
+        <source>KD2 firmware</source>
+        <translation>KD2-Firmware</translation>
+    </message>
+    <message>
+        <source>device directory</source>
+        <translation>Verzeichnis auf dem Gerät</translation>
+    </message>
+    <message>
+        <source>project directory</source>
+        <translation>Verzeichnis im Projekt</translation>
+    </message>
+    <message>
+        <source>priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>option %1</source>
+        <translation>Option %1</translation>
+    </message>
+    <message>
+        <source>start options</source>
+        <translation>Startoptionen</translation>
+    </message>
+    <message>
+        <source>active FPGA image</source>
+        <translation>aktives FPGA-Abbild</translation>
+    </message>
+    <message>
+        <source>OPC UA file %1</source>
+        <translation>OPC-UA-Datei %1</translation>
+    </message>
+    <message>
+        <source>OPC UA files</source>
+        <translation>OPC-UA-Dateien</translation>
+    </message>
+    <message>
+        <source>parameter file %1</source>
+        <translation>Parameterdatei %1</translation>
+    </message>
+    <message>
+        <source>parameter files</source>
+        <translation>Parameterdateien</translation>
+    </message>
+    <message>
+        <source>FPGA image %1</source>
+        <translation>FPGA-Abbild %1</translation>
+    </message>
+    <message>
+        <source>FPGA images</source>
+        <translation>FPGA-Abbilder</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>Datei %1</translation>
+    </message>
+    <message>
+        <source>additional files</source>
+        <translation>zusätzliche Dateien</translation>
+    </message>
+    <message>
+        <source>plug-in %1</source>
+        <translation>Plug-in %1</translation>
+    </message>
+    <message>
+        <source>plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>drive %1</source>
+        <translation>Antrieb %1</translation>
+    </message>
+    <message>
+        <source>drives</source>
+        <translation>Antriebe</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
     <name>FileStorage</name>
     <message>
         <source>This is no regular file.</source>
@@ -2674,6 +2557,77 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>It is larger than %1 bytes.</source>
         <translation>Sie ist größer als %1 Bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemValue</name>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a date like 2026-11-21</source>
+        <translation>ein Datum wie 2026-11-21</translation>
+    </message>
+    <message>
+        <source>a word that begins with &apos;-&apos;</source>
+        <translation>ein Wort, das mit &apos;-&apos; beginnt</translation>
+    </message>
+    <message>
+        <source>words that do not begin with &apos;-&apos;, with one space between each two</source>
+        <translation>Wörter, die nicht mit &apos;-&apos; beginnen, mit je einem Leerzeichen dazwischen</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid date.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Datum.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid device class.</source>
+        <translation>&apos;%1&apos; ist keine gültige Geräteklasse.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid hardware identity.</source>
+        <translation>&apos;%1&apos; ist keine gültige Hardwarekennung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Zahl.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid type of a parameter file.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Typ einer Parameterdatei.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid type of a drive.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Typ eines Antriebs.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid drive number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Antriebsnummer.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid start option.</source>
+        <translation>&apos;%1&apos; ist keine gültige Startoption.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid argument of a start option.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Argument einer Startoption.</translation>
+    </message>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+    <message>
+        <source>The character U+%1 cannot be stored in a configuration.</source>
+        <translation>Das Zeichen U+%1 kann in einer Konfiguration nicht gespeichert werden.</translation>
     </message>
 </context>
 </TS>

@@ -60,54 +60,6 @@
         <translation>--json geht nicht zusammen mit dem Dokument auf der Standardausgabe.</translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
-    </message>
-    <message>
-        <source>Firmware</source>
-        <translation>Firmware</translation>
-    </message>
-    <message>
-        <source>Logic</source>
-        <translation>Logik</translation>
-    </message>
-    <message>
-        <source>Drive parameters</source>
-        <translation>Antriebsparameter</translation>
-    </message>
-    <message>
-        <source>Parameters</source>
-        <translation>Parameter</translation>
-    </message>
-    <message>
-        <source>Hardware</source>
-        <translation>Hardware</translation>
-    </message>
-    <message>
-        <source>Bus</source>
-        <translation>Bus</translation>
-    </message>
-    <message>
-        <source>Device %1, class %2</source>
-        <translation>Gerät %1, Klasse %2</translation>
-    </message>
-    <message>
-        <source>Configuration</source>
-        <translation>Konfiguration</translation>
-    </message>
-    <message>
-        <source>Parameter files</source>
-        <translation>Parameterdateien</translation>
-    </message>
-    <message>
-        <source>Object dictionary</source>
-        <translation>Objektverzeichnis</translation>
-    </message>
-    <message>
-        <source>Fault texts</source>
-        <translation>Fehlertexte</translation>
-    </message>
-    <message>
         <source>FPGA images, the active one first</source>
         <translation>FPGA-Abbilder, das aktive zuerst</translation>
     </message>
@@ -120,24 +72,8 @@
         <translation>OPC UA, ausgeschaltet</translation>
     </message>
     <message>
-        <source>EtherCAT master</source>
-        <translation>EtherCAT-Master</translation>
-    </message>
-    <message>
-        <source>Additional files</source>
-        <translation>Zusätzliche Dateien</translation>
-    </message>
-    <message>
-        <source>Plug-ins</source>
-        <translation>Plug-ins</translation>
-    </message>
-    <message>
-        <source>Execution plug-in</source>
-        <translation>Plug-in der Anwendung</translation>
-    </message>
-    <message>
-        <source>Sub-devices</source>
-        <translation>Untergeräte</translation>
+        <source>Device %1, class %2</source>
+        <translation>Gerät %1, Klasse %2</translation>
     </message>
     <message>
         <source>Configuration %1</source>
@@ -508,6 +444,10 @@
         <translation>Ergebnisse gehen auf die Standardausgabe, Meldungen auf die Standardfehlerausgabe. Programme sollten --json verlangen: Darin hängen nur Sätze von der Sprache ab.</translation>
     </message>
     <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
         <source>Commands</source>
         <translation>Befehle</translation>
     </message>
@@ -826,6 +766,10 @@
     <message>
         <source>OPC UA model</source>
         <translation>OPC-UA-Modell</translation>
+    </message>
+    <message>
+        <source>EtherCAT master</source>
+        <translation>EtherCAT-Master</translation>
     </message>
     <message>
         <source>drive parameters</source>

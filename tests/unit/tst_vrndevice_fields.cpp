@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 
 using namespace ConfigurationShape;
@@ -153,6 +154,11 @@ void setText(const SItem &item, QDomElement parent, const QString &text)
     element.appendChild(element.ownerDocument().createTextNode(text));
 }
 
+bool isKey(const SItem &item)
+{
+    return item.value == EValue::KEY_NAME || item.value == EValue::KEY_DRIVE_NUMBER;
+}
+
 /** Makes a variant of the sample for each item of the description. */
 class Variants
 {
@@ -207,7 +213,9 @@ private:
         QDomDocument document;
         document.setContent(sample());
         m_list = path;
-        m_key = textOf(list.children.constFirst().item, follow(document, tags));
+        const auto key = std::find_if(list.children.begin(), list.children.end(),
+                                      [](const SNode &child) { return isKey(child.item); });
+        m_key = textOf(key->item, follow(document, tags));
         visit(list, tags, entryPath(m_key), m_key);
         m_list.clear();
     }
@@ -225,11 +233,10 @@ private:
         SVariant variant;
         variant.value = otherValue(item.value, textOf(item, parent));
         setText(item, parent, variant.value);
-        const bool isKey = item.value == EValue::KEY_NAME || item.value == EValue::KEY_DRIVE_NUMBER;
         const QString word = QLatin1Char('.') + item.word;
         variant.samplePath = path + word;
         variant.path =
-            isKey && !key.isEmpty() ? entryPath(variant.value) + word : variant.samplePath;
+            isKey(item) && !key.isEmpty() ? entryPath(variant.value) + word : variant.samplePath;
         variant.document = document.toByteArray(1);
         setText(item, document.documentElement(), variant.value);
         variant.misplaced = document.toByteArray(1);

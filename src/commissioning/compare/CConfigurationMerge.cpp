@@ -46,12 +46,51 @@ bool isKd2Part(const SItemPath &drive, const QString &part)
     return node != nullptr && node->isOfKd2Only;
 }
 
+/** A list while it is merged. */
+struct SList {
+    SList(const QString &listPath, const QVector<SSnapshotEntry> &inOurs,
+          const QVector<SSnapshotEntry> &inTheirs)
+        : path(listPath), ours(inOurs), theirs(inTheirs), whole(ours)
+    {
+        for (const SSnapshotEntry &entry : ours) {
+            keys.insert(entry.path.key);
+        }
+    }
+    Q_DISABLE_COPY(SList)
+
+    const QString path;
+    const QVector<SSnapshotEntry> ours;
+    const QVector<SSnapshotEntry> theirs;
+    /** What happens to the entries of OURS; it refers to them. */
+    ListChanges whole;
+    /** Those that OURS will have. */
+    QSet<QString> keys;
+};
+
+/** The entries but for those with the indexes @p others. */
+QVector<SSnapshotEntry> without(const QVector<SSnapshotEntry> &entries, const QVector<int> &others)
+{
+    QVector<bool> isOther(entries.size(), false);
+    for (const int index : others) {
+        if (index >= 0) {
+            isOther[index] = true;
+        }
+    }
+    QVector<SSnapshotEntry> result;
+    for (int i = 0; i < entries.size(); ++i) {
+        if (!isOther.at(i)) {
+            result << entries.at(i);
+        }
+    }
+    return result;
+}
+
 /** Finds what has to be done to OURS. */
 class Merger
 {
 public:
-    Merger(CDeviceConfigurationFile10 &base, CDeviceConfigurationFile10 &ours,
-           CDeviceConfigurationFile10 &theirs)
+    Merger(const CDeviceConfigurationFile10 &base, const CDeviceConfigurationFile10 &ours,
+           const CDeviceConfigurationFile10 &theirs)
         : m_base(base), m_ours(ours), m_theirs(theirs)
     {
         mergeEntry(m_base.description, m_ours.description, m_theirs.description, IN_BASE);
@@ -75,7 +114,10 @@ private:
                    QList<SChange> &others);
     bool mergeSeries(const QStringList &parts, const SSnapshotEntry &base,
                      const SSnapshotEntry &ours, const SSnapshotEntry &theirs, EOrigin origin);
-    void mergeList(const QString &list);
+    void mergeBaseEntry(const SSnapshotEntry &base, int inOurs, int inTheirs, SList &list);
+    void mergeNewEntries(const QVector<SSnapshotEntry> &inOurs,
+                         const QVector<SSnapshotEntry> &inTheirs, SList &list);
+    void mergeList(const QString &path);
     QString mergeActiveFpgaFile();
 
     void addValueConflict(const SItemPath &path, const QString &item, const SSnapshotEntry &base,
@@ -83,6 +125,8 @@ private:
     void addRemovalConflict(CConfigurationMerge::EConflict kind, const QString &part,
                             const SSnapshotEntry &base, const SSnapshotEntry &changed,
                             const SItemPath &path);
+    void addEntryConflict(CConfigurationMerge::EConflict kind, const SItemPath &path,
+                          const QList<SChange> &changes);
     QList<SChange> changesOf(const QString &list, const SSnapshotEntry &base,
                              const SSnapshotEntry &side, const ConfigurationSnapshot &whole) const;
 
@@ -241,87 +285,75 @@ QList<SChange> Merger::changesOf(const QString &list, const SSnapshotEntry &base
     return changes;
 }
 
-void Merger::mergeList(const QString &list)
+void Merger::addEntryConflict(CConfigurationMerge::EConflict kind, const SItemPath &path,
+                              const QList<SChange> &changes)
 {
-    const QVector<SSnapshotEntry> base = m_base.entries(list);
-    const QVector<SSnapshotEntry> ours = m_ours.entries(list);
-    const QVector<SSnapshotEntry> theirs = m_theirs.entries(list);
-    const QVector<int> inOurs = ConfigurationSnapshot::match(base, ours);
-    const QVector<int> inTheirs = ConfigurationSnapshot::match(base, theirs);
-    QVector<bool> isNewInOurs(ours.size(), true);
-    QVector<bool> isNewInTheirs(theirs.size(), true);
-    ListChanges whole(ours);
-    QSet<QString> keys;
-    for (const SSnapshotEntry &entry : ours) {
-        keys.insert(entry.path.key);
-    }
+    SConflict conflict;
+    conflict.conflict = kind;
+    conflict.path = path.entryPath();
+    conflict.details = described(changes);
+    m_conflicts << conflict;
+}
 
-    const auto addConflict = [&](CConfigurationMerge::EConflict kind, const SSnapshotEntry &entry,
-                                 const QList<SChange> &changes) {
-        SConflict conflict;
-        conflict.conflict = kind;
-        conflict.path = entry.path.entryPath();
-        conflict.details = described(changes);
-        m_conflicts << conflict;
-    };
-    for (int i = 0; i < base.size(); ++i) {
-        const int o = inOurs.at(i);
-        const int t = inTheirs.at(i);
-        if (o >= 0) {
-            isNewInOurs[o] = false;
+/** Where an entry of BASE is in the other two; -1 where it was removed. */
+void Merger::mergeBaseEntry(const SSnapshotEntry &base, int inOurs, int inTheirs, SList &list)
+{
+    if (inOurs >= 0 && inTheirs >= 0) {
+        mergeEntry(base, list.ours.at(inOurs), list.theirs.at(inTheirs), IN_BASE);
+    } else if (inOurs >= 0) {
+        const SSnapshotEntry &ours = list.ours.at(inOurs);
+        const QList<SChange> changes = changesOf(list.path, base, ours, m_ours);
+        if (changes.isEmpty()) {
+            list.whole.remove(inOurs);
+            list.keys.remove(ours.path.key);
+        } else {
+            addEntryConflict(CConfigurationMerge::REMOVED_BY_THEIRS, base.path, changes);
         }
-        if (t >= 0) {
-            isNewInTheirs[t] = false;
-        }
-        if (o >= 0 && t >= 0) {
-            mergeEntry(base.at(i), ours.at(o), theirs.at(t), IN_BASE);
-        } else if (o >= 0) {
-            const QList<SChange> changes = changesOf(list, base.at(i), ours.at(o), m_ours);
-            if (changes.isEmpty()) {
-                whole.remove(o);
-                keys.remove(ours.at(o).path.key);
-            } else {
-                addConflict(CConfigurationMerge::REMOVED_BY_THEIRS, base.at(i), changes);
-            }
-        } else if (t >= 0) {
-            const QList<SChange> changes = changesOf(list, base.at(i), theirs.at(t), m_theirs);
-            if (!changes.isEmpty()) {
-                addConflict(CConfigurationMerge::REMOVED_BY_OURS, base.at(i), changes);
-            }
+    } else if (inTheirs >= 0) {
+        const QList<SChange> changes =
+            changesOf(list.path, base, list.theirs.at(inTheirs), m_theirs);
+        if (!changes.isEmpty()) {
+            addEntryConflict(CConfigurationMerge::REMOVED_BY_OURS, base.path, changes);
         }
     }
+}
 
-    const auto newOnes = [](const QVector<SSnapshotEntry> &entries, const QVector<bool> &isNew) {
-        QVector<SSnapshotEntry> result;
-        for (int i = 0; i < entries.size(); ++i) {
-            if (isNew.at(i)) {
-                result << entries.at(i);
-            }
-        }
-        return result;
-    };
-    const QVector<SSnapshotEntry> newInOurs = newOnes(ours, isNewInOurs);
-    const QVector<SSnapshotEntry> newInTheirs = newOnes(theirs, isNewInTheirs);
-    const QVector<int> counterparts = ConfigurationSnapshot::match(newInTheirs, newInOurs);
-    for (int i = 0; i < newInTheirs.size(); ++i) {
-        const SSnapshotEntry &entry = newInTheirs.at(i);
+/** The entries that BASE does not have. */
+void Merger::mergeNewEntries(const QVector<SSnapshotEntry> &inOurs,
+                             const QVector<SSnapshotEntry> &inTheirs, SList &list)
+{
+    const QVector<int> counterparts = ConfigurationSnapshot::match(inTheirs, inOurs);
+    for (int i = 0; i < inTheirs.size(); ++i) {
+        const SSnapshotEntry &entry = inTheirs.at(i);
         if (counterparts.at(i) < 0) {
-            whole.add(entry);
-            keys.insert(entry.path.key);
+            list.whole.add(entry);
+            list.keys.insert(entry.path.key);
             continue;
         }
         SSnapshotEntry nothing;
         nothing.path = entry.path;
-        mergeEntry(nothing, newInOurs.at(counterparts.at(i)), entry, ADDED_BY_BOTH);
+        mergeEntry(nothing, inOurs.at(counterparts.at(i)), entry, ADDED_BY_BOTH);
     }
+}
+
+void Merger::mergeList(const QString &path)
+{
+    SList list(path, m_ours.entries(path), m_theirs.entries(path));
+    const QVector<SSnapshotEntry> base = m_base.entries(path);
+    const QVector<int> inOurs = ConfigurationSnapshot::match(base, list.ours);
+    const QVector<int> inTheirs = ConfigurationSnapshot::match(base, list.theirs);
+    for (int i = 0; i < base.size(); ++i) {
+        mergeBaseEntry(base.at(i), inOurs.at(i), inTheirs.at(i), list);
+    }
+    mergeNewEntries(without(list.ours, inOurs), without(list.theirs, inTheirs), list);
 
     QString active;
-    if (list == fpgaFileList()) {
+    if (path == fpgaFileList()) {
         active = mergeActiveFpgaFile();
-        // OURS removed it, which is told as a conflict of the image.
-        active = keys.contains(active) ? active : QString();
+        // OURS removed it: that is a conflict of the image.
+        active = list.keys.contains(active) ? active : QString();
     }
-    whole.appendTo(list, m_ours.device, active, m_changes);
+    list.whole.appendTo(path, m_ours.device, active, m_changes);
 }
 
 /** @return the image that THEIRS wants to be active; empty when nothing has to be done */
@@ -377,6 +409,13 @@ void dropImpossible(const CDeviceConfigurationFile10 &ours, QList<SChange> &chan
 CConfigurationMerge::CConfigurationMerge(CDeviceConfigurationFile10 &base,
                                          CDeviceConfigurationFile10 &ours,
                                          CDeviceConfigurationFile10 &theirs)
+    : CConfigurationMerge(qAsConst(base), qAsConst(ours), qAsConst(theirs))
+{
+}
+
+CConfigurationMerge::CConfigurationMerge(const CDeviceConfigurationFile10 &base,
+                                         const CDeviceConfigurationFile10 &ours,
+                                         const CDeviceConfigurationFile10 &theirs)
 {
     const Merger merger(base, ours, theirs);
     QList<SChange> changes = merger.changes();
