@@ -980,6 +980,30 @@
         <translation>Das Verzeichnis &apos;%1&apos; führt nach oben.</translation>
     </message>
     <message>
+        <source>names of at most %1 bytes</source>
+        <translation>Namen von höchstens %1 Bytes</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Choose shorter names.</source>
+        <translation>Wählen Sie kürzere Namen.</translation>
+    </message>
+    <message>
+        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
+        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be read: %2</source>
+        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
+        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
+    </message>
+    <message>
         <source>a directory without &apos;..&apos;</source>
         <translation>ein Verzeichnis ohne &apos;..&apos;</translation>
     </message>
@@ -1032,10 +1056,6 @@
         <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; has the same place on the device as that of %2.</source>
-        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie die von %2.</translation>
-    </message>
-    <message>
         <source>a place of its own</source>
         <translation>ein eigener Platz</translation>
     </message>
@@ -1078,10 +1098,6 @@
     <message>
         <source>a regular file</source>
         <translation>eine reguläre Datei</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be read.</source>
-        <translation>Die Datei &apos;%1&apos; ist nicht lesbar.</translation>
     </message>
     <message>
         <source>a file that may be read</source>
@@ -2212,38 +2228,6 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>The configuration name &quot;%1&quot; cannot be that of a directory.</source>
         <translation>Der Konfigurationsname &quot;%1&quot; kann nicht der eines Verzeichnisses sein.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be the name of a file.</source>
-        <translation>&quot;%1&quot; kann nicht der Name einer Datei sein.</translation>
-    </message>
-    <message>
-        <source>%1 has no directory on the device.</source>
-        <translation>%1 hat kein Verzeichnis auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>%1 lies in none of the device&apos;s directories.</source>
-        <translation>%1 liegt in keinem der Verzeichnisse des Geräts.</translation>
-    </message>
-    <message>
-        <source>%1 is not in the project.</source>
-        <translation>%1 ist nicht im Projekt.</translation>
-    </message>
-    <message>
-        <source>%1 leads out of the project.</source>
-        <translation>%1 führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 ist nicht lesbar: %2</translation>
-    </message>
-    <message>
-        <source>%1 is no regular file.</source>
-        <translation>%1 ist keine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>%1 and another file both go to %2.</source>
-        <translation>%1 und eine andere Datei kommen beide nach %2.</translation>
     </message>
 </context>
 <context>

@@ -16,7 +16,15 @@
  * number, and those in which files lie. The files are the document itself, which goes where
  * CDeviceBaseElement::configurationFile() tells, and all that CDeviceBaseElement::allFiles() names.
  *
- * A file of the project may be reached through symbolic links as long as it is in the project.
+ * Whether a file can be staged is judged as CConfigurationCheck does it, by the same rules. A file
+ * of the project may be reached through symbolic links as long as it is in the project. A project
+ * path with ".." is refused, also where it comes back into the project: behind a symbolic link it
+ * leads elsewhere. So is an empty file. What the check reports beyond that does not concern
+ * staging:
+ * - one file that the configuration names twice, for one place, is staged once;
+ * - a directory that belongs to another configuration, or does not begin with a slash, is made;
+ * - the manifest of the project is not read: staging is what makes it anew.
+ *
  * The project is looked at once, when the plan is made.
  *
  * A value: it may be copied, and distinct ones may be used from different threads.
@@ -46,10 +54,10 @@ public:
 
     struct SProblem {
         /**
-         * Stable name of what is wrong, lower-case words joined by hyphens:
-         * "no-configuration-name", "bad-configuration-name", "no-project", "no-device-directory",
-         * "bad-file-name", "outside-device", "outside-project", "missing", "not-regular",
-         * "unreadable", "place-taken", "file-and-directory".
+         * Stable name of what is wrong: a rule of CConfigurationCheck that begins with
+         * "file-name-", "device-path-", "device-file-", "project-path-" or "project-file-", or one
+         * of staging: "no-configuration-name", "bad-configuration-name", "no-project",
+         * "file-and-directory".
          */
         QString rule;
         /** As in SFile, or as the configuration tells it where that is wrong; may be empty. */

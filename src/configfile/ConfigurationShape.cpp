@@ -49,17 +49,6 @@ Nodes nameNodes(EValue key = EValue::KEY_NAME)
     return listedFileNodes(key).mid(0, 1);
 }
 
-/** Of a drive, whose key is not its first element in the document. */
-Nodes driveNodes()
-{
-    Nodes result = nodes(driveItems());
-    const auto key = std::find_if(result.begin(), result.end(), [](const SNode &candidate) {
-        return candidate.item.value == EValue::KEY_DRIVE_NUMBER;
-    });
-    std::rotate(result.begin(), key, key + 1);
-    return result;
-}
-
 template <typename Element>
 SNode node(const SFileField<Element> &field)
 {
@@ -195,13 +184,16 @@ SNode configNode()
 
 SNode driveNode()
 {
-    Nodes children = driveNodes();
+    Nodes children = nodes(driveItems());
     for (const SFileField<CSubDeviceElement> &file : driveFiles()) {
         children.append(node(file));
     }
-    return atTop(list(QString(), "drive", QT_TRANSLATE_NOOP("ConfigurationShape", "drive %1"),
-                      QT_TRANSLATE_NOOP("ConfigurationShape", "drives"), EEntry::DRIVE,
-                      TAG_SUB_DEVICE, children));
+    SNode result =
+        atTop(list(QString(), "drive", QT_TRANSLATE_NOOP("ConfigurationShape", "drive %1"),
+                   QT_TRANSLATE_NOOP("ConfigurationShape", "drives"), EEntry::DRIVE, TAG_SUB_DEVICE,
+                   children));
+    result.listedFirst = QStringList(result.key().word);
+    return result;
 }
 
 SNode deviceNode()

@@ -101,7 +101,6 @@ const QVector<SFileField<CDeviceElement>> &deviceFiles();
 /** To set the type, which is the first of them, empties the drive. */
 const QVector<SField<CSubDeviceElement>> &driveItems();
 const QVector<SFileField<CSubDeviceElement>> &driveFiles();
-/** The name first, here and in the lists below: it is the key of an entry. */
 const QVector<SField<CFileElement>> &fileItems();
 const QVector<SField<CParamFileElement>> &parameterFileItems();
 const QVector<SField<CPluginElement>> &pluginItems();
@@ -158,13 +157,25 @@ struct SNode {
     bool isBelowDevice = false;
     /** Of a single file and a list of files: where the directory layout puts them. */
     NvrnDeviceCore::EDeviceFile file = NvrnDeviceCore::DEVICE_FILE_NONE;
-    /** In the order in which they are written; of a list what each entry has, its key first. */
+    /** In the order in which they are written; of a list what each entry has. */
     QVector<SNode> children;
     /** The words that come first where items are listed; the others follow in their order. */
     QStringList listedFirst;
 
     bool isList() const { return kind == EKind::LIST || kind == EKind::OPTIONS; }
     bool isItem() const { return kind == EKind::ITEM || kind == EKind::ALIAS; }
+    /** Whether it is the key of an entry. */
+    bool isKey() const
+    {
+        return item.value == EValue::KEY_NAME || item.value == EValue::KEY_DRIVE_NUMBER
+            || item.value == EValue::KEY_OPTION;
+    }
+    /** Of a list: the child that is the key of an entry. */
+    const SNode &key() const
+    {
+        return *std::find_if(children.begin(), children.end(),
+                             [](const SNode &child) { return child.isKey(); });
+    }
 };
 
 /** The root element, and in it all others; its head belongs to the base of all XML files. */

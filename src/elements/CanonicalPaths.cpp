@@ -4,6 +4,13 @@
 
 namespace CanonicalPaths {
 
+namespace {
+
+/** In bytes of UTF-8. */
+const int LongestPath = 4095;
+
+} // namespace
+
 QString of(const QString &path)
 {
     return QDir::cleanPath(path);
@@ -22,6 +29,21 @@ QString inProject(const CFileElement &file)
 QString deviceDirectory(const CFileElement &file)
 {
     return of(file.devicePath()) + QLatin1Char('/');
+}
+
+bool isStorable(const QString &path)
+{
+    const QByteArray bytes = path.toUtf8();
+    // Half of a surrogate pair does not come back.
+    if (bytes.size() > LongestPath || bytes.contains('\0') || QString::fromUtf8(bytes) != path) {
+        return false;
+    }
+    for (const QByteArray &name : bytes.split('/')) {
+        if (name.isEmpty() || name == "." || name == ".." || name.size() > LongestName) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace CanonicalPaths

@@ -8,6 +8,9 @@
  */
 namespace CanonicalPaths {
 
+/** No name of a file or directory can be longer; in bytes of UTF-8. */
+constexpr int LongestName = 255;
+
 /** @p path in that form, without a separator at its end. */
 QString of(const QString &path);
 
@@ -18,5 +21,8 @@ QString inProject(const CFileElement &file);
 
 /** The directory on the device, with a separator at its end. */
 QString deviceDirectory(const CFileElement &file);
+
+/** Whether @p path is relative, has no detours, and can be stored by any file system. */
+bool isStorable(const QString &path);
 
 } // namespace CanonicalPaths

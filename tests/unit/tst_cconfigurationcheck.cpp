@@ -757,23 +757,23 @@ void tst_CConfigurationCheck::texts_data()
         QTest::newRow(name) << message << found << expected << hint;
     };
     row("drive-type-in-lower-case",
-        u"There is no type 'kd2_drive' of drives; the drive is read as 'KD3_drive'."_s,
+        u"'kd2_drive' is not a valid type of a drive. It is read as 'KD3_drive'."_s,
         u"kd2_drive"_s, u"KD2_drive, KD3_drive"_s,
         u"Write 'KD2_drive': capital and small letters matter."_s);
-    row("drive-type-undefined", u"The type of the drive is left open; it is read as 'KD3_drive'."_s,
+    row("drive-type-undefined", u"The type of the drive is left open. It is read as 'KD3_drive'."_s,
         u"UNKNOWN_drive"_s, u"KD2_drive, KD3_drive"_s,
         u"Write 'KD2_drive' or 'KD3_drive'; the drive is read as 'KD3_drive'."_s);
-    row("drive-number-too-high", u"'256' is no number of a drive."_s, u"256"_s,
+    row("drive-number-too-high", u"'256' is not a valid drive number."_s, u"256"_s,
         u"a number from 0 to 254"_s,
         u"The drive is read with the next number that no other drive has."_s);
-    row("drive-number-unassigned", u"'255' is no number of a drive."_s, u"255"_s,
+    row("drive-number-unassigned", u"'255' is not a valid drive number."_s, u"255"_s,
         u"a number from 0 to 254"_s, u"This number means that no number is assigned."_s);
     row("drive-number-twice", u"The number 0 is also that of drive[0]."_s, u"00"_s,
         u"a number of its own"_s,
         u"The drive is read with the next number that no other drive has."_s);
-    row("class-in-capitals", u"There is no device class 'KD3'; it is read as 'Undefined'."_s,
+    row("class-in-capitals", u"'KD3' is not a valid device class. It is read as 'Undefined'."_s,
         u"KD3"_s, u"kc2, kd3"_s, u"Write 'kd3': capital and small letters matter."_s);
-    row("class-unknown", u"There is no device class 'kd4'; it is read as 'Undefined'."_s, u"kd4"_s,
+    row("class-unknown", u"'kd4' is not a valid device class. It is read as 'Undefined'."_s, u"kd4"_s,
         u"kc2, kd3"_s,
         u"Write 'kc2' or 'kd3', in small letters; anything else is read as 'Undefined'."_s);
     row("version-later", u"The document was created with a later version."_s, u"1.10"_s, u"1.0"_s,
@@ -795,7 +795,7 @@ void tst_CConfigurationCheck::texts_data()
         u"Remove the text, or put it into the element for which it is meant."_s);
     row("attribute-unknown", u"The element 'Config' has no attribute 'mode'; nobody reads it."_s,
         u"mode=\"fast\""_s, u""_s, u"Remove the attribute."_s);
-    row("opc-ua-flag-in-capitals", u"'TRUE' is neither true nor false; it is read as false."_s,
+    row("opc-ua-flag-in-capitals", u"'TRUE' is neither true nor false. It is read as 'false'."_s,
         u"TRUE"_s, u"true, false"_s, u"Write 'true': capital and small letters matter."_s);
     row("plugin-without-version", u"The plug-in 'motion' has no version."_s, u""_s,
         u"numbers with dots between them, like 1.3"_s, u"Its file would be 'pi_motion.so.'."_s);
@@ -808,7 +808,7 @@ void tst_CConfigurationCheck::texts_data()
         u"/velkor/configurations/production/conf/"_s, u"a directory of 'production(2)'"_s,
         u"Was the configuration renamed? Then the directory has to follow."_s);
     row("two-files-in-one-place",
-        u"The file 'recipes.csv' has the same place on the device as that of files[recipes.csv]."_s,
+        u"The file 'recipes.csv' has the same place on the device as files[recipes.csv]."_s,
         u"/velkor/recipes/recipes.csv"_s, u"a place of its own"_s,
         u"The one that is transferred last overwrites the other one."_s);
     row("hardware-id-other-platform",

@@ -186,7 +186,7 @@ class tst_CStagedTree : public QObject
     QString archive() const { return at(u"work/out.tar.gz"_s); }
     QStringList beside() const { return Files::names(at(u"work"_s)); }
 
-    CStagingPlan plan(const QStringList &names = {u"a.xml"_s, u"large"_s, u"empty"_s,
+    CStagingPlan plan(const QStringList &names = {u"a.xml"_s, u"large"_s, u"tiny"_s,
                                                   u"Ünit-Ж.xml"_s}) const
     {
         CDeviceElement device;
@@ -227,7 +227,7 @@ private slots:
         QVERIFY(QDir().mkpath(at(u"work"_s)));
         QVERIFY(writeProject(u"a.xml"_s, "content of a"));
         QVERIFY(writeProject(u"large"_s, Large));
-        QVERIFY(writeProject(u"empty"_s, ""));
+        QVERIFY(writeProject(u"tiny"_s, "x"));
         // The file's own name is UTF-8 in every locale.
         const QByteArray name = system(at(u"project/Line"_s)) + "/" + u"Ünit-Ж.xml"_s.toUtf8();
         const int fd = open(name.constData(), O_WRONLY | O_CREAT, 0600);
@@ -244,7 +244,7 @@ private slots:
         QCOMPARE(beside(), QStringList{u"root"_s});
         QCOMPARE(Files::read(root() + u'/' + Conf + u"a.xml"_s), QByteArray("content of a"));
         QCOMPARE(Files::read(root() + u'/' + Conf + u"large"_s), Large);
-        QCOMPARE(Files::read(root() + u'/' + Conf + u"empty"_s), QByteArray());
+        QCOMPARE(Files::read(root() + u'/' + Conf + u"tiny"_s), QByteArray("x"));
         QCOMPARE(Files::read(root() + u'/' + Conf + u"DeviceConfiguration.3deco"_s),
                  QByteArray("<document/>"));
         for (const QString &directory : plan().directories()) {
@@ -254,6 +254,20 @@ private slots:
         QCOMPARE(tree.manifest().entries().size(), 5);
         QCOMPARE(tree.manifest().entries().at(1).projectPath, u"Line/a.xml"_s);
         QCOMPARE(verified(root()), QStringList());
+    }
+
+    void stagesEmptyDocument()
+    {
+        CDeviceElement device;
+        device.setConfigurationName(u"STD"_s);
+        const CStagingPlan empty(device, {QByteArray(), QString()}, at(u"project"_s));
+        QVERIFY(empty.problems().isEmpty());
+        CStagedTree tree;
+        QVERIFY2(tree.write(empty, {root(), false, archive()}), qPrintable(tree.errorText()));
+        QCOMPARE(QFileInfo(root() + u'/' + Conf + u"DeviceConfiguration.3deco"_s).size(), 0);
+        QCOMPARE(tree.manifest().entries().at(0).size, 0);
+        QCOMPARE(verified(root()), QStringList());
+        QCOMPARE(verified(archive()), QStringList());
     }
 
     void treeHasFixedModesAndTimes()
@@ -294,7 +308,7 @@ private slots:
         const QByteArray locale = std::setlocale(LC_ALL, nullptr);
         std::setlocale(LC_ALL, "C");
         const QString other = at(u"work/other"_s);
-        const bool isMade = tree.write(plan({u"Ünit-Ж.xml"_s, u"empty"_s, u"large"_s, u"a.xml"_s}),
+        const bool isMade = tree.write(plan({u"Ünit-Ж.xml"_s, u"tiny"_s, u"large"_s, u"a.xml"_s}),
                                        {other, false, other + u".tar.gz"_s});
         std::setlocale(LC_ALL, locale.constData());
         umask(mask);

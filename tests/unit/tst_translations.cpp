@@ -123,7 +123,8 @@ QStringList sources(const QStringList &folders, const QStringList &names)
 /** The content of a source file without its comments and single characters; line feeds stay. */
 QString code(const QString &file)
 {
-    const QString text = QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
+    const QString text =
+        QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
     // A text is matched first, so that what looks like a comment within one stays.
     static const QRegularExpression commentOrText(
         u"R\"\\((?:.|\n)*?\\)\"|\"(?:[^\"\\\\\n]|\\\\.)*\"|'(?:[^'\\\\\n]|\\\\.)'|//[^\n]*|/\\*(?:.|\n)*?\\*/"_s);
@@ -202,6 +203,26 @@ QStringList textsOutside(const QString &text)
         }
     }
     return result;
+}
+
+/**
+ * The context that a header declares for @p file: the one beside it, or a "Texts.h" for several
+ * sources.
+ */
+QString contextOfHeaders(const QString &file, const QString &otherwise)
+{
+    static const QRegularExpression shared(u"#include \"(\\S+/Texts\\.h)\""_s);
+    static const QRegularExpression declaration(u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s);
+    const QString source = code(file);
+    QStringList headers = {QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s)};
+    headers.append(shared.match(source).captured(1));
+    for (const QString &header : qAsConst(headers)) {
+        const QRegularExpressionMatch declared = declaration.match(code(header));
+        if (declared.hasMatch()) {
+            return declared.captured(1);
+        }
+    }
+    return otherwise;
 }
 
 } // namespace
@@ -318,11 +339,7 @@ void tst_translations::contexts()
             readCatalogue(QStringLiteral(VRN_SOURCE_DIR "/translations/%1_de.ts").arg(*name));
         QSet<QString> seen;
         for (const QString &file : sources(Folders.value(*name), {u"*.h"_s, u"*.cpp"_s})) {
-            // A class that declares its context in its header uses it in the source beside.
-            const QString header = QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s);
-            const QRegularExpressionMatch declared =
-                QRegularExpression(u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s).match(code(header));
-            const QString otherwise = declared.hasMatch() ? declared.captured(1) : QString(*name);
+            const QString otherwise = contextOfHeaders(file, *name);
             for (const QString &text : translatedTexts(code(file), otherwise)) {
                 QVERIFY2(present.contains(text), qPrintable(file + u": "_s + text));
                 seen.insert(text);

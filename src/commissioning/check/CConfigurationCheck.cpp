@@ -1,10 +1,10 @@
 #include "commissioning/CConfigurationCheck.h"
 
-#include "commissioning/check/ConfigurationRules.h"
 #include "commissioning/check/DocumentCheck.h"
+#include "commissioning/rules/ConfigurationRules.h"
+#include "commissioning/rules/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -12,12 +12,6 @@
 #include <tuple>
 
 namespace {
-
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationCheck)
-};
 
 /** A document that is to be checked: its version is a finding, and no message to the user. */
 class CheckedFile : public CDeviceConfigurationFile10
@@ -69,11 +63,7 @@ public:
         if (!file.read(source, errorText)) {
             return false;
         }
-        std::unique_ptr<ProjectFiles> project;
-        if (!projectDirectory.isEmpty()) {
-            project = std::make_unique<ProjectFiles>(projectDirectory);
-        }
-        findings = DocumentCheck(file, file.version(), project.get()).run();
+        findings = DocumentCheck(file, file.version(), projectDirectory).run();
         std::stable_sort(findings.begin(), findings.end(), isBefore);
         return true;
     }

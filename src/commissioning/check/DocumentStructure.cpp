@@ -1,183 +1,171 @@
 #include "commissioning/check/DocumentStructure.h"
 
+#include "configfile/ConfigurationShape.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QHash>
 
+#include <deque>
+
+using namespace ConfigurationShape;
 using namespace NVornXmlTags;
 
 namespace DocumentStructure {
 
 namespace {
 
-SElement text(const QString &tag)
+/** The elements of the description, with the head, which belongs to the base of all XML files. */
+class Structure
 {
-    SElement element;
-    element.tag = tag;
-    element.hasText = true;
-    return element;
-}
+public:
+    Structure()
+    {
+        const SNode &shape = ConfigurationShape::root();
+        SElement root = parent(shape.tag, MEANING_ROOT);
+        root.attributes.append(ATTR_VERSION);
+        root.children.append({head(), QString()});
+        for (const SNode &child : shape.children) {
+            root.children.append({group(child), child.word});
+        }
+        m_root = kept(root);
+    }
+    Q_DISABLE_COPY(Structure)
 
-SElement parent(const QString &tag, const QVector<SChild> &children,
-                EMeaning meaning = MEANING_NONE)
-{
-    SElement element;
-    element.tag = tag;
-    element.meaning = meaning;
-    element.children = children;
-    return element;
-}
-
-SElement entry(const QString &tag, const QVector<SChild> &children, EMeaning meaning)
-{
-    SElement element = parent(tag, children, meaning);
-    element.keyTag = TAG_NAME;
-    return element;
-}
-
-SElement list(const QString &tag, const SElement &entryElement)
-{
-    return parent(tag, {{&entryElement, QString(), true}});
-}
-
-SElement deepList(const QString &tag, const SElement &entryElement)
-{
-    SElement element = list(tag, entryElement);
-    element.isReadDeep = true;
-    return element;
-}
-
-SElement holder(const QString &tag, const SElement &file, EMeaning meaning = MEANING_NONE)
-{
-    return parent(tag, {{&file, QString(), false}}, meaning);
-}
-
-SElement withAttribute(SElement element, const QString &attribute)
-{
-    element.attributes.append(attribute);
-    return element;
-}
-
-/** The elements from the bottom up; the later ones point at the earlier ones. */
-struct SStructure {
-    SStructure() = default;
-    Q_DISABLE_COPY(SStructure)
-
-    const SElement name = text(TAG_NAME);
-    const SElement comment = text(TAG_COMMENT);
-    const SElement version = text(TAG_VERSION);
-    const SElement hardwareId = text(TAG_HARDWAREID);
-
-    const SElement author = text(TAG_AUTHOR);
-    const SElement date = text(TAG_DATE);
-    const SElement head =
-        parent(TAG_HEAD, {{&author, {}}, {&date, {}}, {&comment, {}}}, MEANING_HEAD);
-
-    const SElement creationDate = text(TAG_CREATIONDATE);
-    const SElement revisionDate = text(TAG_REVISIONDATE);
-    const SElement description = parent(TAG_DESCRIPTION,
-                                        {{&name, QStringLiteral(".name")},
-                                         {&comment, QStringLiteral(".comment")},
-                                         {&version, QStringLiteral(".version")},
-                                         {&creationDate, QStringLiteral(".creationDate")},
-                                         {&revisionDate, QStringLiteral(".revisionDate")}},
-                                        MEANING_DESCRIPTION);
-
-    const SElement deviceDir = text(TAG_DEVICE_DIR);
-    const SElement projectDir = text(TAG_PROJECT_DIR);
-    const QVector<SChild> fileChildren = {{&name, QStringLiteral(".name")},
-                                          {&comment, QStringLiteral(".comment")},
-                                          {&deviceDir, QStringLiteral(".deviceDir")},
-                                          {&projectDir, QStringLiteral(".projectDir")}};
-    const SElement file = parent(TAG_FILE, fileChildren, MEANING_FILE);
-    const SElement fileOfDevice = parent(TAG_FILE, fileChildren, MEANING_FILE_OF_DEVICE);
-    const SElement listedFile = entry(TAG_FILE, fileChildren, MEANING_FILE);
-    const SElement parameterFile = withAttribute(
-        entry(TAG_FILE, {{&name, QStringLiteral(".name")}, {&comment, QStringLiteral(".comment")}},
-              MEANING_PARAMETER_FILE),
-        ATTR_TYPE);
-    const SElement fpgaFile =
-        entry(TAG_FILE, {{&name, QStringLiteral(".name")}}, MEANING_FPGA_FILE);
-
-    const SElement priority = text(TAG_PRIORITY);
-    const SElement plugin = entry(TAG_PLUGIN,
-                                  {{&name, QStringLiteral(".name")},
-                                   {&version, QStringLiteral(".version")},
-                                   {&priority, QStringLiteral(".priority")}},
-                                  MEANING_PLUGIN);
-
-    const SElement options = text(TAG_OPTIONS);
-    const SElement parameterFiles = deepList(TAG_PARAMETERFILES, parameterFile);
-    const SElement dictionary = holder(TAG_DICTIONARY, fileOfDevice);
-    const SElement faultTextFile = holder(TAG_FAULTTEXT_FILE, fileOfDevice);
-    const SElement fpgaFiles = list(TAG_FPGA_FILES, fpgaFile);
-    const SElement opcUaEnabled = text(TAG_OPCUA_ENABLED);
-    const SElement opcUaFiles = list(TAG_OPCUA_FILES, listedFile);
-    const SElement opcUa = parent(TAG_OPCUA,
-                                  {{&opcUaEnabled, QStringLiteral(".opcUaEnabled")},
-                                   {&opcUaFiles, QStringLiteral(".opcUaFiles")}},
-                                  MEANING_OPC_UA);
-    const SElement etherCatMaster = holder(TAG_ETHERCATMASTER, file, MEANING_ETHERCAT_MASTER);
-    const SElement files = list(TAG_FILES, listedFile);
-    const SElement plugins = deepList(TAG_PLUGINS, plugin);
-    const SElement executionPlugin = text(TAG_EXECUTIONPLUGIN);
-    const SElement config = parent(TAG_CONFIG,
-                                   {{&options, QStringLiteral(".options")},
-                                    {&parameterFiles, QStringLiteral(".parameterFiles")},
-                                    {&dictionary, QStringLiteral(".dictionary")},
-                                    {&faultTextFile, QStringLiteral(".faultTextFile")},
-                                    {&fpgaFiles, QStringLiteral(".fpgaFiles")},
-                                    {&opcUa, {}},
-                                    {&etherCatMaster, QStringLiteral(".etherCatMasterFile")},
-                                    {&files, QStringLiteral("files")},
-                                    {&plugins, QStringLiteral(".plugins")},
-                                    {&executionPlugin, QStringLiteral(".executionPlugin")}},
-                                   MEANING_CONFIG);
-
-    const SElement driveNumber = text(TAG_DRIVE_NO);
-    const SElement busId = text(TAG_BUS_ID);
-    const SElement param = holder(TAG_PARAM, file);
-    const SElement kd2Param = holder(TAG_KD2_PARAM, file);
-    const SElement kd2Logic = holder(TAG_KD2_LOGIC, file);
-    const SElement kd2Firmware = holder(TAG_KD2_FIRMWARE, file);
-    const SElement subDevice = withAttribute(drive(), ATTR_TYPE);
-
-    const SElement deviceClass = text(TAG_CLASS);
-    const SElement configurationName = text(TAG_CONFIGNAME);
-    const SElement device = parent(TAG_DEVICE,
-                                   {{&hardwareId, QStringLiteral(".hardwareId")},
-                                    {&deviceClass, QStringLiteral(".class")},
-                                    {&name, QStringLiteral(".name")},
-                                    {&comment, QStringLiteral(".comment")},
-                                    {&configurationName, QStringLiteral(".configurationName")},
-                                    {&config, {}},
-                                    {&subDevice, QStringLiteral("drive"), true}},
-                                   MEANING_DEVICE);
-
-    const SElement root = withAttribute(parent(TAG_ROOT_DEVICECONFIG,
-                                               {{&head, {}},
-                                                {&description, QStringLiteral("description")},
-                                                {&device, QStringLiteral("device")}},
-                                               MEANING_ROOT),
-                                        ATTR_VERSION);
+    const SElement &root() const { return *m_root; }
 
 private:
-    SElement drive() const
+    static SElement parent(const QString &tag, EMeaning meaning = MEANING_NONE)
     {
-        SElement element = parent(TAG_SUB_DEVICE,
-                                  {{&hardwareId, QStringLiteral(".hardwareId")},
-                                   {&name, QStringLiteral(".name")},
-                                   {&comment, QStringLiteral(".comment")},
-                                   {&driveNumber, QStringLiteral(".driveNo")},
-                                   {&busId, QStringLiteral(".busId")},
-                                   {&param, QStringLiteral(".param")},
-                                   {&kd2Param, QStringLiteral(".kd2Param")},
-                                   {&kd2Logic, QStringLiteral(".kd2Logic")},
-                                   {&kd2Firmware, QStringLiteral(".kd2Firmware")}},
-                                  MEANING_DRIVE);
-        element.keyTag = TAG_DRIVE_NO;
+        SElement element;
+        element.tag = tag;
+        element.meaning = meaning;
         return element;
     }
+
+    const SElement *kept(const SElement &element)
+    {
+        m_elements.push_back(element);
+        return &m_elements.back();
+    }
+
+    const SElement *text(const QString &tag)
+    {
+        SElement element = parent(tag);
+        element.hasText = true;
+        return kept(element);
+    }
+
+    const SElement *head()
+    {
+        SElement element = parent(TAG_HEAD, MEANING_HEAD);
+        for (const QString &tag : {TAG_AUTHOR, TAG_DATE, TAG_COMMENT}) {
+            element.children.append({text(tag), QString()});
+        }
+        return kept(element);
+    }
+
+    static EMeaning meaningOfGroup(const SNode &node)
+    {
+        if (&node == &ConfigurationShape::device()) {
+            return MEANING_DEVICE;
+        }
+        if (&node == &ConfigurationShape::config()) {
+            return MEANING_CONFIG;
+        }
+        return node.word.isEmpty() ? MEANING_OPC_UA : MEANING_DESCRIPTION;
+    }
+
+    static EMeaning meaningOfEntry(EEntry entry)
+    {
+        switch (entry) {
+        case EEntry::DRIVE:
+            return MEANING_DRIVE;
+        case EEntry::PARAMETER_FILE:
+            return MEANING_PARAMETER_FILE;
+        case EEntry::FPGA_FILE:
+            return MEANING_FPGA_FILE;
+        case EEntry::PLUGIN:
+            return MEANING_PLUGIN;
+        case EEntry::FILE:
+        case EEntry::OPC_UA_FILE:
+            return MEANING_FILE;
+        case EEntry::OPTION:
+        case EEntry::NONE:
+            break;
+        }
+        return MEANING_NONE;
+    }
+
+    const SElement *group(const SNode &node)
+    {
+        SElement element = parent(node.tag, meaningOfGroup(node));
+        appendChildren(node, element);
+        return kept(element);
+    }
+
+    const SElement *singleFile(const SNode &node)
+    {
+        SElement file =
+            parent(node.entryTag, node.isBelowDevice ? MEANING_FILE_OF_DEVICE : MEANING_FILE);
+        appendChildren(node, file);
+        const bool isOfMaster = node.file == NvrnDeviceCore::DEVICE_FILE_ETHERCAT_MASTER;
+        SElement holder = parent(node.tag, isOfMaster ? MEANING_ETHERCAT_MASTER : MEANING_NONE);
+        holder.children.append({kept(file), QString()});
+        return kept(holder);
+    }
+
+    const SElement *entry(const SNode &list)
+    {
+        SElement element = parent(list.entryTag, meaningOfEntry(list.entry));
+        element.keyTag = list.key().tag;
+        appendChildren(list, element);
+        return kept(element);
+    }
+
+    const SElement *list(const SNode &node)
+    {
+        SElement holder = parent(node.tag);
+        holder.isReadDeep = node.isReadDeep;
+        holder.children.append({entry(node), QString(), true});
+        return kept(holder);
+    }
+
+    void appendChildren(const SNode &node, SElement &element)
+    {
+        for (const SNode &child : node.children) {
+            const QString item =
+                child.word.isEmpty() || child.isAtTop ? child.word : QLatin1Char('.') + child.word;
+            switch (child.kind) {
+            case EKind::GROUP:
+                element.children.append({group(child), item});
+                break;
+            case EKind::ITEM:
+                if (child.item.isAttribute) {
+                    element.attributes.append(child.tag);
+                } else {
+                    element.children.append({text(child.tag), item});
+                }
+                break;
+            case EKind::SINGLE_FILE:
+                element.children.append({singleFile(child), item});
+                break;
+            case EKind::LIST:
+                // Without an element of its own its entries stand among the others.
+                element.children.append(child.tag.isEmpty() ? SChild{entry(child), item, true}
+                                                            : SChild{list(child), item});
+                break;
+            case EKind::OPTIONS:
+                element.children.append({text(child.tag), item});
+                break;
+            case EKind::ALIAS:
+                break;
+            }
+        }
+    }
+
+    /** Elements point at each other, so that they stay where they are. */
+    std::deque<SElement> m_elements;
+    const SElement *m_root = nullptr;
 };
 
 using Parents = QHash<QString, QStringList>;
@@ -214,8 +202,8 @@ QHash<QString, QString> tagsByFoldedTag()
 
 const SElement &root()
 {
-    static const SStructure structure;
-    return structure.root;
+    static const Structure structure;
+    return structure.root();
 }
 
 QStringList parents(const QString &tag)

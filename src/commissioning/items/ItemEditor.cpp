@@ -41,7 +41,7 @@ bool ItemEditor::accepts(const SItemPlace &place, const QString &value)
     if (!acceptsValue(place.node->value(), place.path, value)) {
         return false;
     }
-    return !place.node->isKey || value == place.entry.key || isKeyFree(place, value);
+    return !place.node->isKey() || value == place.entry.key || isKeyFree(place, value);
 }
 
 bool ItemEditor::acceptsValue(EValue kind, const QString &path, const QString &value)
@@ -82,7 +82,7 @@ bool ItemEditor::add(const QString &path)
         return fail(
             ItemTexts::tr("%1: a second entry of the same key cannot be added").arg(place.path));
     }
-    const EValue key = place.node->children.constFirst().value();
+    const EValue key = place.node->key().value();
     if (!acceptsValue(key, place.path, place.entry.key)) {
         return false;
     }
@@ -100,7 +100,7 @@ bool ItemEditor::remove(const QString &path)
         return fail(ItemTexts::tr("%1: only single items, entries and files can be removed")
                         .arg(place.path));
     }
-    if (place.node->isKey) {
+    if (place.node->isKey()) {
         return fail(ItemTexts::tr("%1: the entry cannot be without it").arg(place.path));
     }
     if (!place.isThere()) {

@@ -180,7 +180,7 @@ QVector<QDomElement> ItemFinder::entries(const SItemNode &list, const QDomElemen
 
 QString ItemFinder::key(const SItemNode &list, const QDomElement &entry) const
 {
-    const QString text = m_file.getNodeValue(followed(entry, list.children.first().tags));
+    const QString text = m_file.getNodeValue(followed(entry, list.key().tags));
     return list.shape->entry == EEntry::DRIVE ? DriveNumbers::key(text) : text;
 }
 

@@ -164,7 +164,7 @@ void ItemReader::listChildren(const SItemNode &node, const QDomElement &element,
                               const QString &path, const SLists &lists) const
 {
     for (const SItemNode &child : node.children) {
-        if (!child.isKey && ItemFinder::canHave(element, child)) {
+        if (!child.isKey() && ItemFinder::canHave(element, child)) {
             QDomElement childElement = element;
             for (const QString &tag : child.tags) {
                 childElement = childElement.firstChildElement(tag);

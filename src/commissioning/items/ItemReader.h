@@ -4,7 +4,8 @@
 #include "commissioning/items/ItemFinder.h"
 
 /**
- * The items of a document that is not changed; functions and paths are those of CConfigurationItems.
+ * The items of a document that is not changed; functions and paths are those of
+ * CConfigurationItems.
  */
 class ItemReader
 {

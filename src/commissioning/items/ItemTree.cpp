@@ -17,7 +17,7 @@ QStringList ownTags(const SNode &parent, const SNode &node)
                                        [&node](const SNode &candidate) {
                                            return candidate.isList() && candidate.tag == node.tag;
                                        });
-        return {list->tag, list->entryTag, list->children.constFirst().tag};
+        return {list->tag, list->entryTag, list->key().tag};
     }
     if (node.kind == EKind::SINGLE_FILE) {
         return {node.tag, node.entryTag};
@@ -49,7 +49,6 @@ SItemNode made(const SNode &shape, const SNode &around)
     findTags(around, &shape, node.tags);
     for (const SNode *const child : ShapePaths::below(shape)) {
         node.children.append(made(*child, shape));
-        node.children.last().isKey = shape.isList() && child == &shape.children.constFirst();
     }
     return node;
 }

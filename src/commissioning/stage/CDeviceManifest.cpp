@@ -1,5 +1,6 @@
 #include "commissioning/CDeviceManifest.h"
 
+#include "elements/CanonicalPaths.h"
 #include "storage/Descriptor.h"
 #include "storage/FileStorage.h"
 
@@ -28,8 +29,6 @@ class Texts
 const int Version = 1;
 /** From the next number on, several numbers in JSON are read as one. */
 const double LargestSize = 9007199254740991.0;
-const int LongestName = 255;
-const int LongestPath = 4095;
 const int SumDigits = 64;
 const int BlockSize = 64 * 1024;
 /** Its JSON takes up to thirty times as much while it is read. */
@@ -50,22 +49,6 @@ const QLatin1String PROJECT_PATH("projectPath");
 const QLatin1String SHA256("sha256");
 const QLatin1String SIZE("size");
 } // namespace Key
-
-/** Relative, without detours, and such that any file system can hold it. */
-bool isCleanPath(const QString &path)
-{
-    const QByteArray bytes = path.toUtf8();
-    // Half of a surrogate pair does not come back.
-    if (bytes.size() > LongestPath || bytes.contains('\0') || QString::fromUtf8(bytes) != path) {
-        return false;
-    }
-    for (const QByteArray &name : bytes.split('/')) {
-        if (name.isEmpty() || name == "." || name == ".." || name.size() > LongestName) {
-            return false;
-        }
-    }
-    return true;
-}
 
 /** A text as it stands in JSON, in quotes. */
 QByteArray quoted(const QString &text)
@@ -159,7 +142,7 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
         return false;
     }
     if (!object.value(Key::PROJECT_PATH).isString()
-        || !(entry.projectPath.isEmpty() || isCleanPath(entry.projectPath))) {
+        || !(entry.projectPath.isEmpty() || CanonicalPaths::isStorable(entry.projectPath))) {
         errorText = Texts::tr("\"%1\" has no path in a project, but \"%2\".")
                         .arg(entry.devicePath, entry.projectPath);
         return false;
@@ -348,7 +331,7 @@ qint64 CDeviceManifest::maximumSize()
 
 bool CDeviceManifest::isDevicePath(const QString &path)
 {
-    return isCleanPath(path) && path.section(QLatin1Char('/'), 0, 0) != fileName();
+    return CanonicalPaths::isStorable(path) && path.section(QLatin1Char('/'), 0, 0) != fileName();
 }
 
 bool CDeviceManifest::measure(const QString &path, qint64 &size, QByteArray &sha256,

@@ -1,19 +1,14 @@
 #include "commissioning/CStagingPlan.h"
 
-#include "commissioning/CDeviceManifest.h"
+#include "commissioning/rules/FileRules.h"
 #include "devicefiles/CDeviceFileSystem.h"
-#include "storage/Descriptor.h"
+#include "elements/CanonicalPaths.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QMap>
 
-#include <cerrno>
-#include <cstdlib>
 #include <set>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -30,33 +25,6 @@ QString relative(const QString &path)
     return path.split(Separator, Qt::SkipEmptyParts).join(Separator);
 }
 
-bool leadsUp(const QString &path)
-{
-    return path.split(Separator).contains(QStringLiteral(".."));
-}
-
-bool isBelow(const QByteArray &name, const QByteArray &directory)
-{
-    return name.startsWith(directory.endsWith('/') ? directory : directory + '/');
-}
-
-/** The name of what @p name leads to, without links; empty, with errno, when that is nothing. */
-QByteArray canonical(const QByteArray &name)
-{
-    char *const resolved = realpath(name.constData(), nullptr);
-    const int error = errno;
-    QByteArray result(resolved);
-    std::free(resolved);
-    errno = error;
-    return result;
-}
-
-/** A name that can stand between two separators. */
-bool isName(const QString &name)
-{
-    return !name.contains(Separator) && CDeviceManifest::isDevicePath(QStringLiteral("x/") + name);
-}
-
 } // namespace
 
 /** Makes a plan and collects what is wrong with it. */
@@ -65,13 +33,12 @@ class StagingPlanner
 public:
     StagingPlanner(const CDeviceElement &device, const QString &projectDirectory,
                    CStagingPlan &plan)
-        : m_device(device), m_plan(plan), m_project(canonical(QFile::encodeName(projectDirectory)))
+        : m_device(device), m_plan(plan), m_project(projectDirectory)
     {
-        if (m_project.isEmpty()) {
-            const QString reason = qt_error_string(errno);
+        if (!m_project.errorText().isEmpty()) {
             addProblem(QStringLiteral("no-project"), {},
                        Texts::tr("The project directory %1 cannot be found: %2")
-                           .arg(projectDirectory, reason));
+                           .arg(projectDirectory, m_project.errorText()));
         }
     }
 
@@ -114,8 +81,10 @@ private:
                                  "the device are named after."));
             return false;
         }
-        // A file's directory takes a back-slash for a separator, so that files would lie elsewhere.
-        if (!isName(name) || name.contains(QLatin1Char('\\'))) {
+        // A file's directory takes a backslash for a separator, so that files would lie elsewhere.
+        const bool isName = !name.contains(Separator) && !name.contains(QLatin1Char('\\'))
+            && CanonicalPaths::isStorable(name);
+        if (!isName) {
             addProblem(QStringLiteral("bad-configuration-name"), {},
                        Texts::tr("The configuration name \"%1\" cannot be that of a directory.")
                            .arg(name));
@@ -155,13 +124,10 @@ private:
         file.content = document.content.isNull() ? QByteArray("") : document.content;
         file.size = document.content.size();
         if (!document.path.isEmpty()) {
-            file.source = canonical(QFile::encodeName(document.path));
+            file.source = ProjectFiles::canonical(QFile::encodeName(document.path));
         }
-        if (!m_project.isEmpty() && isBelow(file.source, m_project)) {
-            const QByteArray name = file.source.mid(m_project.size());
-            file.projectPath = relative(QString::fromUtf8(name));
-        }
-        place(file);
+        file.projectPath = m_project.relativePath(file.source);
+        place(file, element);
     }
 
     void addFile(const CFileElement &element)
@@ -169,103 +135,45 @@ private:
         CStagingPlan::SFile file;
         file.devicePath = element.deviceFilePath();
         file.projectPath = element.projectFilePath();
-        if (!isName(element.fileName())) {
-            addProblem(QStringLiteral("bad-file-name"), file,
-                       Texts::tr("\"%1\" cannot be the name of a file.").arg(element.fileName()));
+        if (!accepts(FileRules::ofName(element.fileName()), file)) {
             return;
         }
-        const bool hasPlace = m_hasPlaces && findPlace(element, file);
-        if (!m_project.isEmpty()) {
-            findSource(file);
+        const bool hasPlace = m_hasPlaces
+            && accepts(FileRules::ofDeviceDirectory(element, element.devicePath()), file);
+        if (hasPlace) {
+            file.devicePath = relative(CanonicalPaths::onDevice(element));
+        }
+        if (m_project.errorText().isEmpty()) {
+            findSource(element, file);
         }
         if (hasPlace) {
-            place(file);
+            place(file, element);
         }
     }
 
-    bool findPlace(const CFileElement &element, CStagingPlan::SFile &file)
+    /** Whether there is no fault. */
+    bool accepts(const std::optional<SFault> &fault, const CStagingPlan::SFile &file)
     {
-        if (element.devicePath().isEmpty()) {
-            addProblem(QStringLiteral("no-device-directory"), file,
-                       Texts::tr("%1 has no directory on the device.").arg(element.fileName()));
-            return false;
+        if (fault) {
+            addProblem(ConfigurationRules::id(fault->rule), file, fault->text.message);
         }
-        const QString path = relative(file.devicePath);
-        const bool isInTree = isBelowRoot(path, CDeviceFileSystem::smPath())
-            || isBelowRoot(path, CDeviceFileSystem::optSMPath());
-        if (!isInTree || !CDeviceManifest::isDevicePath(path)) {
-            addProblem(
-                QStringLiteral("outside-device"), file,
-                Texts::tr("%1 lies in none of the device's directories.").arg(file.devicePath));
-            return false;
-        }
-        file.devicePath = path;
-        return true;
+        return !fault;
     }
 
-    static bool isBelowRoot(const QString &path, const QString &root)
+    void findSource(const CFileElement &element, CStagingPlan::SFile &file)
     {
-        return path.startsWith(relative(root) + Separator);
-    }
-
-    /** Also when it cannot be read, the source tells this file from others. */
-    void findSource(CStagingPlan::SFile &file)
-    {
-        file.source = file.projectPath.toUtf8();
-        if (file.projectPath.startsWith(Separator) || leadsUp(file.projectPath)) {
-            addOutsideProject(file);
+        if (!accepts(FileRules::ofProjectDirectory(element), file)) {
             return;
         }
-        QStringList names = file.projectPath.split(Separator, Qt::SkipEmptyParts);
-        names.removeAll(QStringLiteral("."));
-        file.projectPath = names.join(Separator);
-        file.source = m_project + '/' + file.projectPath.toUtf8();
-        const QByteArray source = canonical(file.source);
-        if (source.isEmpty()) {
-            const int error = errno;
-            const bool isMissing = error == ENOENT || error == ENOTDIR;
-            addProblem(isMissing ? QStringLiteral("missing") : QStringLiteral("unreadable"), file,
-                       isMissing ? Texts::tr("%1 is not in the project.").arg(file.projectPath)
-                                 : unreadable(file, error));
-            return;
-        }
-        file.source = source;
-        if (isBelow(source, m_project)) {
-            look(file);
-        } else {
-            addOutsideProject(file);
-        }
-    }
-
-    void addOutsideProject(const CStagingPlan::SFile &file)
-    {
-        addProblem(QStringLiteral("outside-project"), file,
-                   Texts::tr("%1 leads out of the project.").arg(file.projectPath));
-    }
-
-    static QString unreadable(const CStagingPlan::SFile &file, int error)
-    {
-        return Texts::tr("%1 cannot be read: %2").arg(file.projectPath, qt_error_string(error));
-    }
-
-    void look(CStagingPlan::SFile &file)
-    {
-        const int mode = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW;
-        const Descriptor opened(open(file.source.constData(), mode));
-        struct stat status = {};
-        // What cannot be opened for want of somebody at the other end is no regular file.
-        const bool isUnconnected = !opened.isOpen() && errno == ENXIO;
-        if (!isUnconnected && (!opened.isOpen() || fstat(opened.get(), &status) != 0)) {
-            addProblem(QStringLiteral("unreadable"), file, unreadable(file, errno));
-        } else if (!S_ISREG(status.st_mode)) {
-            addProblem(QStringLiteral("not-regular"), file,
-                       Texts::tr("%1 is no regular file.").arg(file.projectPath));
-        }
-        file.size = status.st_size;
+        file.projectPath = CanonicalPaths::inProject(element);
+        const ProjectFiles::SFile inProject = m_project.find(element);
+        accepts(FileRules::ofProjectFile(element, inProject), file);
+        file.source = inProject.source;
+        file.size = inProject.size;
     }
 
     /** Two entries may mean one file, but two files cannot lie in one place. */
-    void place(const CStagingPlan::SFile &file)
+    void place(const CStagingPlan::SFile &file, const CFileElement &element)
     {
         const auto other = m_files.constFind(file.devicePath);
         if (other == m_files.constEnd()) {
@@ -274,17 +182,24 @@ private:
             addDirectory(file.devicePath.left(end));
             return;
         }
-        if (other->source != file.source) {
-            addProblem(QStringLiteral("place-taken"), file,
-                       Texts::tr("%1 and another file both go to %2.")
-                           .arg(file.projectPath, file.devicePath));
+        // The document may be named by another path than that by which it was read.
+        const bool isDocument = !other->content.isNull() && !file.source.isEmpty();
+        const bool isSame =
+            isDocument ? other->source == file.source : other->projectPath == file.projectPath;
+        if (!isSame) {
+            accepts(FileRules::samePlace(element, nameOf(*other)), file);
         }
+    }
+
+    /** For users: where the file comes from. */
+    static QString nameOf(const CStagingPlan::SFile &file)
+    {
+        return FaultTexts::shown(file.projectPath.isEmpty() ? file.devicePath : file.projectPath);
     }
 
     const CDeviceElement &m_device;
     CStagingPlan &m_plan;
-    /** Canonical; empty when there is none. */
-    const QByteArray m_project;
+    ProjectFiles m_project;
     bool m_hasPlaces = false;
     std::set<QString> m_directories;
     QMap<QString, CStagingPlan::SFile> m_files;

@@ -1,4 +1,4 @@
-#include "commissioning/check/ConfigurationRules.h"
+#include "commissioning/rules/ConfigurationRules.h"
 
 #include <QCoreApplication>
 

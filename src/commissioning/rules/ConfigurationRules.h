@@ -1,8 +1,9 @@
 #pragma once
 
-#include "commissioning/CConfigurationCheck.h"
+#include "commissioning/SConfigurationFinding.h"
 
-/** The rules of CConfigurationCheck. */
+/** The rules of CConfigurationCheck, of which those for files are also the rules of CStagingPlan.
+ */
 namespace ConfigurationRules {
 
 enum ERule {
