@@ -1039,6 +1039,818 @@
         <source>The file that is transferred last overwrites the other one.</source>
         <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
+    <message>
+        <source>%1: There is no such directory.</source>
+        <translation>%1: Dieses Verzeichnis gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The document does not tell its version.</source>
+        <translation>Das Dokument nennt seine Version nicht.</translation>
+    </message>
+    <message>
+        <source>The document is read as one of version 1.0; write &apos;version=&quot;1.0&quot;&apos;, or save it with a tool.</source>
+        <translation>Das Dokument wird als eines der Version 1.0 gelesen; schreiben Sie &apos;version=&quot;1.0&quot;&apos;, oder sichern Sie es mit einem Werkzeug.</translation>
+    </message>
+    <message>
+        <source>The version of the document is no version.</source>
+        <translation>Die Version des Dokuments ist keine.</translation>
+    </message>
+    <message>
+        <source>A version is one to three numbers with dots between them; the document is read as one of version 1.0.</source>
+        <translation>Eine Version besteht aus einer bis drei Zahlen mit Punkten dazwischen; das Dokument wird als eines der Version 1.0 gelesen.</translation>
+    </message>
+    <message>
+        <source>The document is read as one of version 1.0: look whether everything in it is known here, then save it anew.</source>
+        <translation>Das Dokument wird als eines der Version 1.0 gelesen: Sehen Sie nach, ob alles darin hier bekannt ist, und sichern Sie es dann neu.</translation>
+    </message>
+    <message>
+        <source>Nobody knows an element of that name.</source>
+        <translation>Ein Element dieses Namens kennt niemand.</translation>
+    </message>
+    <message>
+        <source>Mend the name, or remove the element. Capital and small letters matter.</source>
+        <translation>Berichtigen Sie den Namen, oder entfernen Sie das Element. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>An element stands where it is not looked for, and is passed over.</source>
+        <translation>Ein Element steht, wo es nicht gesucht wird, und wird übergangen.</translation>
+    </message>
+    <message>
+        <source>Move the element to where it is looked for; the finding tells where that is.</source>
+        <translation>Verschieben Sie das Element dorthin, wo es gesucht wird; der Befund nennt die Stelle.</translation>
+    </message>
+    <message>
+        <source>An element stands more than once, but only the first one counts.</source>
+        <translation>Ein Element steht mehrmals, aber nur das erste zählt.</translation>
+    </message>
+    <message>
+        <source>Remove all but the one that is meant: it is the first one that is read.</source>
+        <translation>Entfernen Sie alle bis auf das gemeinte: Gelesen wird das erste.</translation>
+    </message>
+    <message>
+        <source>An element has an attribute that nobody reads.</source>
+        <translation>Ein Element hat ein Attribut, das niemand liest.</translation>
+    </message>
+    <message>
+        <source>Remove the attribute, or mend its name. Names that belong to XML itself, like &apos;xmlns&apos; and &apos;xml:lang&apos;, are no findings.</source>
+        <translation>Entfernen Sie das Attribut, oder berichtigen Sie seinen Namen. Namen, die zu XML selbst gehören, wie &apos;xmlns&apos; und &apos;xml:lang&apos;, sind keine Befunde.</translation>
+    </message>
+    <message>
+        <source>Text stands between elements, where nobody reads it.</source>
+        <translation>Text steht zwischen Elementen, wo ihn niemand liest.</translation>
+    </message>
+    <message>
+        <source>Remove the text, or put it into the element for which it is meant.</source>
+        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
+    </message>
+    <message>
+        <source>A date is none.</source>
+        <translation>Ein Datum ist keines.</translation>
+    </message>
+    <message>
+        <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is none, and allowed.</source>
+        <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist keines und erlaubt.</translation>
+    </message>
+    <message>
+        <source>The configuration was revised before it was created.</source>
+        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
+    </message>
+    <message>
+        <source>One of the two dates is wrong, or they are interchanged.</source>
+        <translation>Eines der beiden Daten ist falsch, oder sie sind vertauscht.</translation>
+    </message>
+    <message>
+        <source>So much was found that the rest is left out.</source>
+        <translation>Es wurde so viel gefunden, dass der Rest weggelassen wird.</translation>
+    </message>
+    <message>
+        <source>Mend what is told, then check again: of one document 100,000 findings are told at most.</source>
+        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde genannt.</translation>
+    </message>
+    <message>
+        <source>Without a device there is nothing to be commissioned; add the element &apos;Device&apos;.</source>
+        <translation>Ohne Gerät gibt es nichts in Betrieb zu nehmen; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
+    </message>
+    <message>
+        <source>The device has no class.</source>
+        <translation>Das Gerät hat keine Klasse.</translation>
+    </message>
+    <message>
+        <source>The class of the device is left open.</source>
+        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>There is no such class of devices.</source>
+        <translation>Diese Geräteklasse gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Write &apos;kc2&apos; or &apos;kd3&apos;, in small letters; anything else is read as &apos;Undefined&apos;.</source>
+        <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>Give the device a name. It is also that of the device&apos;s directory in the project.</source>
+        <translation>Geben Sie dem Gerät einen Namen. So heißt auch das Verzeichnis des Geräts im Projekt.</translation>
+    </message>
+    <message>
+        <source>Add the element &apos;Config&apos;; without it the device has no options, files and plug-ins.</source>
+        <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
+    </message>
+    <message>
+        <source>The device does not tell the name of its configuration.</source>
+        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
+    </message>
+    <message>
+        <source>The name is read as &apos;STD&apos;; write it down.</source>
+        <translation>Der Name wird als &apos;STD&apos; gelesen; schreiben Sie ihn hin.</translation>
+    </message>
+    <message>
+        <source>The name of the configuration is empty.</source>
+        <translation>Der Name der Konfiguration ist leer.</translation>
+    </message>
+    <message>
+        <source>Give the configuration a name: without one it has no directories on the device.</source>
+        <translation>Geben Sie der Konfiguration einen Namen: Ohne einen hat sie keine Verzeichnisse auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>The name of the configuration is one that the device keeps for itself.</source>
+        <translation>Der Name der Konfiguration ist einer, den sich das Gerät selbst vorbehält.</translation>
+    </message>
+    <message>
+        <source>The name of the configuration is not one that can be entered.</source>
+        <translation>Der Name der Konfiguration ist keiner, der eingegeben werden kann.</translation>
+    </message>
+    <message>
+        <source>A hardware identity is none.</source>
+        <translation>Eine Hardwarekennung ist keine.</translation>
+    </message>
+    <message>
+        <source>Write &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; the last three are numbers from 0 to 65535. What is none is read as empty.</source>
+        <translation>Schreiben Sie &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; die letzten drei sind Zahlen von 0 bis 65535. Was keine Hardwarekennung ist, wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>The hardware identity of a drive does not fit that of the device.</source>
+        <translation>Die Hardwarekennung eines Antriebs passt nicht zu der des Geräts.</translation>
+    </message>
+    <message>
+        <source>Prefix, name and platform of a drive are those of its device; version and revision may differ. Was the drive copied from another device?</source>
+        <translation>Präfix, Name und Plattform eines Antriebs sind die seines Geräts; Version und Revision dürfen abweichen. Wurde der Antrieb von einem anderen Gerät kopiert?</translation>
+    </message>
+    <message>
+        <source>A start option is none, or not separated by a blank.</source>
+        <translation>Eine Startoption ist keine oder nicht durch ein Leerzeichen getrennt.</translation>
+    </message>
+    <message>
+        <source>An option begins with a hyphen, and what follows it is its argument. Options are separated by blanks; a line break is none.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich, und was ihr folgt, ist ihr Argument. Optionen sind durch Leerzeichen getrennt; ein Zeilenumbruch ist keines.</translation>
+    </message>
+    <message>
+        <source>A start option stands more than once.</source>
+        <translation>Eine Startoption steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>Remove all but one. The same option with different arguments is no finding.</source>
+        <translation>Entfernen Sie alle bis auf eine. Dieselbe Option mit verschiedenen Argumenten ist kein Befund.</translation>
+    </message>
+    <message>
+        <source>The flag of the OPC UA server is neither true nor false.</source>
+        <translation>Der Schalter des OPC-UA-Servers ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>Write &apos;true&apos; or &apos;false&apos;, in small letters; anything else is read as &apos;false&apos;.</source>
+        <translation>Schreiben Sie &apos;true&apos; oder &apos;false&apos; in Kleinbuchstaben; alles andere wird als &apos;false&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>A parameter file has no type.</source>
+        <translation>Eine Parameterdatei hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>Tell the type with the attribute &apos;type&apos;; it decides where the file lies.</source>
+        <translation>Nennen Sie den Typ mit dem Attribut &apos;type&apos;; er entscheidet, wo die Datei liegt.</translation>
+    </message>
+    <message>
+        <source>The type of a parameter file is left open.</source>
+        <translation>Der Typ einer Parameterdatei ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>Tell the type; it decides where the file lies.</source>
+        <translation>Nennen Sie den Typ; er entscheidet, wo die Datei liegt.</translation>
+    </message>
+    <message>
+        <source>There is no such type of parameter files.</source>
+        <translation>Diesen Typ von Parameterdateien gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Mend the type; it is read as &apos;Undefined&apos;. Capital and small letters matter.</source>
+        <translation>Berichtigen Sie den Typ; er wird als &apos;Undefined&apos; gelesen. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>A parameter file stands more than once.</source>
+        <translation>Eine Parameterdatei steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>Remove all but one. Files of one name, but different types, may stand side by side.</source>
+        <translation>Entfernen Sie alle bis auf eine. Dateien gleichen Namens, aber verschiedenen Typs dürfen nebeneinander stehen.</translation>
+    </message>
+    <message>
+        <source>An FPGA image stands more than once.</source>
+        <translation>Ein FPGA-Abbild steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>A plug-in has no name.</source>
+        <translation>Ein Plug-in hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>A plug-in has no version.</source>
+        <translation>Ein Plug-in hat keine Version.</translation>
+    </message>
+    <message>
+        <source>Tell the version: it is the end of the file&apos;s name.</source>
+        <translation>Nennen Sie die Version: Sie ist das Ende des Dateinamens.</translation>
+    </message>
+    <message>
+        <source>The version of a plug-in is not made of numbers and dots.</source>
+        <translation>Die Version eines Plug-ins besteht nicht aus Zahlen und Punkten.</translation>
+    </message>
+    <message>
+        <source>Write numbers with dots between them, like &apos;1.3&apos;: the version is the end of the file&apos;s name.</source>
+        <translation>Schreiben Sie Zahlen mit Punkten dazwischen, wie &apos;1.3&apos;: Die Version ist das Ende des Dateinamens.</translation>
+    </message>
+    <message>
+        <source>A plug-in stands more than once.</source>
+        <translation>Ein Plug-in steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The priority of a plug-in is no number, or out of range.</source>
+        <translation>Die Priorität eines Plug-ins ist keine Zahl oder außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Write a number from -2147483648 to 2147483647; otherwise the plug-in has no priority.</source>
+        <translation>Schreiben Sie eine Zahl von -2147483648 bis 2147483647; sonst hat das Plug-in keine Priorität.</translation>
+    </message>
+    <message>
+        <source>The plug-in that runs the application is not among the plug-ins.</source>
+        <translation>Das Plug-in, das die Anwendung ausführt, ist nicht unter den Plug-ins.</translation>
+    </message>
+    <message>
+        <source>Add the plug-in, or name one of those that are there.</source>
+        <translation>Fügen Sie das Plug-in hinzu, oder nennen Sie eines von denen, die da sind.</translation>
+    </message>
+    <message>
+        <source>There is the plug-in of the EtherCAT master, but no file for it.</source>
+        <translation>Das Plug-in des EtherCAT-Masters ist da, aber keine Datei dafür.</translation>
+    </message>
+    <message>
+        <source>There is a file for the EtherCAT master, but not its plug-in.</source>
+        <translation>Eine Datei für den EtherCAT-Master ist da, aber nicht sein Plug-in.</translation>
+    </message>
+    <message>
+        <source>A drive has no type.</source>
+        <translation>Ein Antrieb hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of a drive is left open.</source>
+        <translation>Der Typ eines Antriebs ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>There is no such type of drives.</source>
+        <translation>Diesen Antriebstyp gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; anything else, also in small letters, is read as &apos;KD3_drive&apos;.</source>
+        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; alles andere, auch in Kleinbuchstaben, wird als &apos;KD3_drive&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>A drive that is not read as KD2 has a file of KD2 drives.</source>
+        <translation>Ein Antrieb, der nicht als KD2 gelesen wird, hat eine Datei von KD2-Antrieben.</translation>
+    </message>
+    <message>
+        <source>Remove the file, or make the drive a &apos;KD2_drive&apos;.</source>
+        <translation>Entfernen Sie die Datei, oder machen Sie den Antrieb zu einem &apos;KD2_drive&apos;.</translation>
+    </message>
+    <message>
+        <source>A drive has no number.</source>
+        <translation>Ein Antrieb hat keine Nummer.</translation>
+    </message>
+    <message>
+        <source>Write a number from 0 to 254; otherwise the drive gets the next one that no other drive has.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste, die kein anderer Antrieb hat.</translation>
+    </message>
+    <message>
+        <source>The number of a drive is no number, or out of range.</source>
+        <translation>Die Nummer eines Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Write a number from 0 to 254; otherwise the drive gets the next one that no other drive has. 255 means that no number is assigned.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste, die kein anderer Antrieb hat. 255 bedeutet, dass keine Nummer vergeben ist.</translation>
+    </message>
+    <message>
+        <source>Two drives have the same number.</source>
+        <translation>Zwei Antriebe haben dieselbe Nummer.</translation>
+    </message>
+    <message>
+        <source>Give each drive a number of its own; otherwise all but the first get the next ones that no other drive has.</source>
+        <translation>Geben Sie jedem Antrieb eine eigene Nummer; sonst bekommen alle bis auf den ersten die nächsten, die kein anderer Antrieb hat.</translation>
+    </message>
+    <message>
+        <source>A drive has no name.</source>
+        <translation>Ein Antrieb hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>Give each drive a name of its own.</source>
+        <translation>Geben Sie jedem Antrieb einen eigenen Namen.</translation>
+    </message>
+    <message>
+        <source>The bus identifier of a drive is no number, or out of range.</source>
+        <translation>Die Buskennung eines Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
+    </message>
+    <message>
+        <source>Write a number from 0 to 4294967295; anything else is read as 0, which means that none is assigned.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 4294967295; alles andere wird als 0 gelesen, was bedeutet, dass keine vergeben ist.</translation>
+    </message>
+    <message>
+        <source>Look whether both drives are on the same bus; there each has an identifier of its own.</source>
+        <translation>Sehen Sie nach, ob beide Antriebe am selben Bus sind; dort hat jeder seine eigene Kennung.</translation>
+    </message>
+    <message>
+        <source>A file has no name.</source>
+        <translation>Eine Datei hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The name of a file is a path, or has characters that no name has.</source>
+        <translation>Der Name einer Datei ist ein Pfad oder hat Zeichen, die kein Name hat.</translation>
+    </message>
+    <message>
+        <source>Write the name alone; directories have elements of their own. A line break in the element belongs to the name, too.</source>
+        <translation>Schreiben Sie nur den Namen; Verzeichnisse haben eigene Elemente. Auch ein Zeilenumbruch im Element gehört zum Namen.</translation>
+    </message>
+    <message>
+        <source>A file stands more than once.</source>
+        <translation>Eine Datei steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>Give one of the two another name or another directory on the device. Parameter files, FPGA images, plug-ins and the configuration itself have their places, too.</source>
+        <translation>Geben Sie einer der beiden einen anderen Namen oder ein anderes Verzeichnis auf dem Gerät. Auch Parameterdateien, FPGA-Abbilder, Plug-ins und die Konfiguration selbst haben ihre Plätze.</translation>
+    </message>
+    <message>
+        <source>A file has no directory on the device.</source>
+        <translation>Eine Datei hat kein Verzeichnis auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>Tell where on the device the file belongs.</source>
+        <translation>Nennen Sie den Platz auf dem Gerät, an den die Datei gehört.</translation>
+    </message>
+    <message>
+        <source>A directory on the device does not begin with a slash.</source>
+        <translation>Ein Verzeichnis auf dem Gerät beginnt nicht mit einem Schrägstrich.</translation>
+    </message>
+    <message>
+        <source>Begin with a slash; the directory is read as if there were one.</source>
+        <translation>Beginnen Sie mit einem Schrägstrich; das Verzeichnis wird gelesen, als stünde dort einer.</translation>
+    </message>
+    <message>
+        <source>A directory on the device leads upwards with &quot;..&quot;.</source>
+        <translation>Ein Verzeichnis auf dem Gerät führt nach oben mit &quot;..&quot;.</translation>
+    </message>
+    <message>
+        <source>Write the directory that is meant, without &apos;..&apos;.</source>
+        <translation>Schreiben Sie das gemeinte Verzeichnis, ohne &apos;..&apos;.</translation>
+    </message>
+    <message>
+        <source>A directory on the device lies outside the device&apos;s trees.</source>
+        <translation>Ein Verzeichnis auf dem Gerät liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
+    </message>
+    <message>
+        <source>A directory on the device belongs to another configuration.</source>
+        <translation>Ein Verzeichnis auf dem Gerät gehört zu einer anderen Konfiguration.</translation>
+    </message>
+    <message>
+        <source>Was the configuration renamed? Then the directory has to follow.</source>
+        <translation>Wurde die Konfiguration umbenannt? Dann muss das Verzeichnis folgen.</translation>
+    </message>
+    <message>
+        <source>A directory in the project is absolute, and holds on one computer only.</source>
+        <translation>Ein Verzeichnis im Projekt ist absolut und gilt nur auf einem Rechner.</translation>
+    </message>
+    <message>
+        <source>A directory in the project leads out of the project.</source>
+        <translation>Ein Verzeichnis im Projekt führt aus dem Projekt hinaus.</translation>
+    </message>
+    <message>
+        <source>A directory in the project is not below that of the device, and is removed when the device is read.</source>
+        <translation>Ein Verzeichnis im Projekt liegt nicht unter dem des Geräts und wird beim Lesen des Geräts entfernt.</translation>
+    </message>
+    <message>
+        <source>Object dictionary and fault texts lie below the directory that is called as the device.</source>
+        <translation>Objektverzeichnis und Fehlertexte liegen unter dem Verzeichnis, das wie das Gerät heißt.</translation>
+    </message>
+    <message>
+        <source>A file is not in the project.</source>
+        <translation>Eine Datei ist nicht im Projekt.</translation>
+    </message>
+    <message>
+        <source>Put the file into the project, or mend its name or directory. For a parameter file, an FPGA image and a plug-in the directory follows from its kind; &apos;vrndevice place&apos; shows it.</source>
+        <translation>Legen Sie die Datei in das Projekt, oder berichtigen Sie ihren Namen oder ihr Verzeichnis. Bei einer Parameterdatei, einem FPGA-Abbild und einem Plug-in folgt das Verzeichnis aus der Art; &apos;vrndevice place&apos; zeigt es.</translation>
+    </message>
+    <message>
+        <source>A file is in the project with capital and small letters interchanged.</source>
+        <translation>Eine Datei ist im Projekt mit vertauschter Groß- und Kleinschreibung.</translation>
+    </message>
+    <message>
+        <source>Call the file in the project and in the configuration the same: on the device capital and small letters matter.</source>
+        <translation>Nennen Sie die Datei im Projekt und in der Konfiguration gleich: Auf dem Gerät zählt die Groß- und Kleinschreibung.</translation>
+    </message>
+    <message>
+        <source>Replace the symbolic link by the file: whoever gets the project does not get what lies outside.</source>
+        <translation>Ersetzen Sie den symbolischen Link durch die Datei: Wer das Projekt bekommt, bekommt nicht, was außerhalb liegt.</translation>
+    </message>
+    <message>
+        <source>What is in the project is no regular file.</source>
+        <translation>Was im Projekt steht, ist keine reguläre Datei.</translation>
+    </message>
+    <message>
+        <source>Replace the directory, pipe or device of that name by the file.</source>
+        <translation>Ersetzen Sie das Verzeichnis, die Pipe oder die Gerätedatei dieses Namens durch die Datei.</translation>
+    </message>
+    <message>
+        <source>A file in the project cannot be read.</source>
+        <translation>Eine Datei im Projekt ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Look at the permissions of the file.</source>
+        <translation>Sehen Sie sich die Rechte der Datei an.</translation>
+    </message>
+    <message>
+        <source>A file in the project is empty.</source>
+        <translation>Eine Datei im Projekt ist leer.</translation>
+    </message>
+    <message>
+        <source>Fill the file, or remove the entry.</source>
+        <translation>Füllen Sie die Datei, oder entfernen Sie den Eintrag.</translation>
+    </message>
+    <message>
+        <source>A file in the project is not the one that the manifest tells.</source>
+        <translation>Eine Datei im Projekt ist nicht die, die das Manifest nennt.</translation>
+    </message>
+    <message>
+        <source>Put back the file with the size and the SHA-256 sum that &apos;manifest.json&apos; tells, or make the manifest anew.</source>
+        <translation>Legen Sie die Datei mit der Größe und der SHA-256-Summe zurück, die &apos;manifest.json&apos; nennt, oder erstellen Sie das Manifest neu.</translation>
+    </message>
+    <message>
+        <source>Make the manifest anew. Until then the files are not compared with it.</source>
+        <translation>Erstellen Sie das Manifest neu. Bis dahin werden die Dateien nicht mit ihm verglichen.</translation>
+    </message>
+    <message>
+        <source>Write &apos;%1&apos;: capital and small letters matter.</source>
+        <translation>Schreiben Sie &apos;%1&apos;: Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>The project&apos;s manifest cannot be read: %1</source>
+        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>a manifest as it is made by staging</source>
+        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
+    </message>
+    <message>
+        <source>Make the manifest anew; files are not compared with this one.</source>
+        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
+    </message>
+    <message>
+        <source>There is more to be found; from here on it is left out.</source>
+        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
+    </message>
+    <message>
+        <source>Mend what is told, then check again.</source>
+        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
+        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
+        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
+        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
+    </message>
+    <message>
+        <source>nothing but elements</source>
+        <translation>nichts als Elemente</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
+        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
+    </message>
+    <message>
+        <source>nothing but text</source>
+        <translation>nichts als Text</translation>
+    </message>
+    <message>
+        <source>Remove the element, or mend its name.</source>
+        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
+    </message>
+    <message>
+        <source>The document is read as one of version %1; save it anew with this version.</source>
+        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no version.</source>
+        <translation>&apos;%1&apos; ist keine Version.</translation>
+    </message>
+    <message>
+        <source>Without a device there is nothing to be commissioned.</source>
+        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no date.</source>
+        <translation>&apos;%1&apos; ist kein Datum.</translation>
+    </message>
+    <message>
+        <source>a date like 2026-11-21</source>
+        <translation>ein Datum wie 2026-11-21</translation>
+    </message>
+    <message>
+        <source>The name is also that of the device&apos;s directory in the project.</source>
+        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
+    </message>
+    <message>
+        <source>The device is read without options, files and plug-ins.</source>
+        <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
+    </message>
+    <message>
+        <source>There is no device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
+        <translation>Es gibt keine Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>Without a name it has no directories on the device.</source>
+        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
+        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
+        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no hardware identity.</source>
+        <translation>&apos;%1&apos; ist keine Hardwarekennung.</translation>
+    </message>
+    <message>
+        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
+        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>options like -trace with one blank between each two</source>
+        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
+    </message>
+    <message>
+        <source>Options are separated by something other than a blank.</source>
+        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
+    </message>
+    <message>
+        <source>The device takes this for one word.</source>
+        <translation>Das Gerät hält dies für ein Wort.</translation>
+    </message>
+    <message>
+        <source>An option has a hyphen, but no name.</source>
+        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option, and follows none.</source>
+        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
+    </message>
+    <message>
+        <source>An option begins with a hyphen; what follows it is its argument.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
+    </message>
+    <message>
+        <source>The option &apos;%1&apos; stands more than once.</source>
+        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
+        <translation>&apos;%1&apos; ist weder true noch false; es wird als false gelesen.</translation>
+    </message>
+    <message>
+        <source>There is the option %1, but the OPC UA server is not enabled.</source>
+        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
+        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
+    </message>
+    <message>
+        <source>Add the plug-in, or name another one.</source>
+        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
+        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>The parameter file &apos;%1&apos; stands more than once.</source>
+        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The type of the parameter file is left open.</source>
+        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>There is no type &apos;%1&apos; of parameter files; it is read as &apos;%2&apos;.</source>
+        <translation>Es gibt keinen Typ &apos;%1&apos; von Parameterdateien; er wird als &apos;%2&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
+        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; stands more than once.</source>
+        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>numbers with dots between them, like 1.3</source>
+        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
+    </message>
+    <message>
+        <source>Its file would be &apos;%1&apos;.</source>
+        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no version of a plug-in.</source>
+        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no priority.</source>
+        <translation>&apos;%1&apos; ist keine Priorität.</translation>
+    </message>
+    <message>
+        <source>a number from -2147483648 to 2147483647</source>
+        <translation>eine Zahl von -2147483648 bis 2147483647</translation>
+    </message>
+    <message>
+        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Remove the file, or mend the drive&apos;s type.</source>
+        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
+    </message>
+    <message>
+        <source>The drive has no type; it is read as &apos;%1&apos;.</source>
+        <translation>Der Antrieb hat keinen Typ; er wird als &apos;%1&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>The type of the drive is left open; it is read as &apos;%1&apos;.</source>
+        <translation>Der Typ des Antriebs ist offen gelassen; er wird als &apos;%1&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>There is no type &apos;%1&apos; of drives; the drive is read as &apos;%2&apos;.</source>
+        <translation>Es gibt keinen Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
+    </message>
+    <message>
+        <source>a number from 0 to %1</source>
+        <translation>eine Zahl von 0 bis %1</translation>
+    </message>
+    <message>
+        <source>The drive is read with the next number that no other drive has.</source>
+        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
+    </message>
+    <message>
+        <source>The drive has no number.</source>
+        <translation>Der Antrieb hat keine Nummer.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no number of a drive.</source>
+        <translation>&apos;%1&apos; ist keine Antriebsnummer.</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2.</source>
+        <translation>Die Nummer %1 ist auch die von %2.</translation>
+    </message>
+    <message>
+        <source>a number of its own</source>
+        <translation>eine eigene Nummer</translation>
+    </message>
+    <message>
+        <source>When the drive is read it is named after its number.</source>
+        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; is also that of %2.</source>
+        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
+    </message>
+    <message>
+        <source>a name of its own</source>
+        <translation>ein eigener Name</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no bus identifier; it is read as 0.</source>
+        <translation>&apos;%1&apos; ist keine Buskennung; sie wird als 0 gelesen.</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 4294967295</source>
+        <translation>eine Zahl von 0 bis 4294967295</translation>
+    </message>
+    <message>
+        <source>The bus identifier %1 is also that of %2.</source>
+        <translation>Die Buskennung %1 ist auch die von %2.</translation>
+    </message>
+    <message>
+        <source>an identifier of its own</source>
+        <translation>eine eigene Kennung</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no name of a file.</source>
+        <translation>&apos;%1&apos; ist kein Dateiname.</translation>
+    </message>
+    <message>
+        <source>a name without directory, slashes and line breaks</source>
+        <translation>ein Name ohne Verzeichnis, Schrägstriche und Zeilenumbrüche</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; leads upwards.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; führt nach oben.</translation>
+    </message>
+    <message>
+        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
+        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; lies outside the device&apos;s trees.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is absolute.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; ist absolut.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; leads out of the project.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; führt aus dem Projekt hinaus.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is not below that of the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
+        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
+    </message>
+    <message>
+        <source>a place of its own</source>
+        <translation>ein eigener Platz</translation>
+    </message>
+    <message>
+        <source>The one that is transferred last overwrites the other one.</source>
+        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
+    </message>
+    <message>
+        <source>A symbolic link of that name leads to nothing.</source>
+        <translation>Eine symbolische Verknüpfung dieses Namens führt ins Leere.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is called &apos;%2&apos; in the project.</source>
+        <translation>Die Datei &apos;%1&apos; heißt im Projekt &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Capital and small letters matter on the device.</source>
+        <translation>Auf dem Gerät zählt die Groß- und Kleinschreibung.</translation>
+    </message>
+    <message>
+        <source>A symbolic link leads from &apos;%1&apos; out of the project.</source>
+        <translation>Eine symbolische Verknüpfung führt von &apos;%1&apos; aus dem Projekt hinaus.</translation>
+    </message>
+    <message>
+        <source>Whoever gets the project does not get the file.</source>
+        <translation>Wer das Projekt bekommt, bekommt die Datei nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no regular file.</source>
+        <translation>&apos;%1&apos; ist keine reguläre Datei.</translation>
+    </message>
+    <message>
+        <source>a file that may be read</source>
+        <translation>eine Datei, die gelesen werden darf</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
+        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
+    </message>
+    <message>
+        <source>Put back the file, or make the manifest anew.</source>
+        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+    </message>
 </context>
 <context>
     <name>CConfigurationItems</name>
@@ -2245,6 +3057,14 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <source>The configuration name &quot;%1&quot; cannot be used as the name of a directory.</source>
         <translation>Der Konfigurationsname &quot;%1&quot; kann nicht als Name eines Verzeichnisses dienen.</translation>
     </message>
+    <message>
+        <source>The device has no configuration name, which the directories on the device are named after.</source>
+        <translation>Das Gerät hat keinen Konfigurationsnamen, nach dem die Verzeichnisse auf dem Gerät benannt sind.</translation>
+    </message>
+    <message>
+        <source>The configuration name &quot;%1&quot; cannot be that of a directory.</source>
+        <translation>Der Konfigurationsname &quot;%1&quot; kann nicht der eines Verzeichnisses sein.</translation>
+    </message>
 </context>
 <context>
     <name>CXmlAbstractVornFile</name>
@@ -2627,7 +3447,7 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
     <message>
         <source>The character U+%1 cannot be stored in a configuration.</source>
-        <translation>Das Zeichen U+%1 kann nicht in einer Konfiguration gespeichert werden.</translation>
+        <translation>Das Zeichen U+%1 kann in einer Konfiguration nicht gespeichert werden.</translation>
     </message>
 </context>
 </TS>

@@ -21,9 +21,11 @@ class VRNCOMMISSIONING_EXPORT CConfigurationComparison
 public:
     /**
      * The changes that make a configuration that compares equal to @p after out of @p before; none
-     * when they are equal. In the order of CConfigurationItems' paths. Both files only lend their
-     * documents, which stay as they are.
+     * when they are equal. In the order of CConfigurationItems' paths.
      */
+    static CConfigurationPatch compare(const CDeviceConfigurationFile10 &before,
+                                       const CDeviceConfigurationFile10 &after);
+    /** The same, for programs that were compiled when there was no other. */
     static CConfigurationPatch compare(CDeviceConfigurationFile10 &before,
                                        CDeviceConfigurationFile10 &after);
 };

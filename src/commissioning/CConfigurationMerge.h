@@ -42,10 +42,11 @@ public:
         QStringList details;
     };
 
-    /**
-     * Compares the three documents, which stay as they are.
-     * @param base the configuration that both sides started from
-     */
+    /** @param base the configuration that both sides started from */
+    CConfigurationMerge(const CDeviceConfigurationFile10 &base,
+                        const CDeviceConfigurationFile10 &ours,
+                        const CDeviceConfigurationFile10 &theirs);
+    /** The same, for programs that were compiled when there was no other. */
     CConfigurationMerge(CDeviceConfigurationFile10 &base, CDeviceConfigurationFile10 &ours,
                         CDeviceConfigurationFile10 &theirs);
 

@@ -34,8 +34,8 @@ void compareList(const QString &list, const ConfigurationSnapshot &before,
 
 } // namespace
 
-CConfigurationPatch CConfigurationComparison::compare(CDeviceConfigurationFile10 &before,
-                                                      CDeviceConfigurationFile10 &after)
+CConfigurationPatch CConfigurationComparison::compare(const CDeviceConfigurationFile10 &before,
+                                                      const CDeviceConfigurationFile10 &after)
 {
     const ConfigurationSnapshot left(before);
     const ConfigurationSnapshot right(after);
@@ -48,4 +48,10 @@ CConfigurationPatch CConfigurationComparison::compare(CDeviceConfigurationFile10
     CConfigurationPatch patch;
     patch.setChanges(changes);
     return patch;
+}
+
+CConfigurationPatch CConfigurationComparison::compare(CDeviceConfigurationFile10 &before,
+                                                      CDeviceConfigurationFile10 &after)
+{
+    return compare(qAsConst(before), qAsConst(after));
 }

@@ -46,38 +46,39 @@ bool isKd2Part(const SItemPath &drive, const QString &part)
     return node != nullptr && node->isOfKd2Only;
 }
 
-/** One list while it is merged. */
-struct SMergedList {
-    SMergedList(const QString &name, const QVector<SSnapshotEntry> &entries)
-        : list(name), ours(entries), changes(ours)
+/** A list while it is merged. */
+struct SList {
+    SList(const QString &listPath, const QVector<SSnapshotEntry> &inOurs,
+          const QVector<SSnapshotEntry> &inTheirs)
+        : path(listPath), ours(inOurs), theirs(inTheirs), whole(ours)
     {
         for (const SSnapshotEntry &entry : ours) {
             keys.insert(entry.path.key);
         }
     }
+    Q_DISABLE_COPY(SList)
 
-    const QString list;
+    const QString path;
     const QVector<SSnapshotEntry> ours;
-    QVector<SSnapshotEntry> newInOurs;
-    QVector<SSnapshotEntry> newInTheirs;
-    ListChanges changes;
-    /** Those of OURS once the changes are made. */
+    const QVector<SSnapshotEntry> theirs;
+    /** What happens to the entries of OURS; it refers to them. */
+    ListChanges whole;
+    /** Those that OURS will have. */
     QSet<QString> keys;
 };
 
-/** The entries whose index is not among @p matches. */
-QVector<SSnapshotEntry> withoutMatches(const QVector<SSnapshotEntry> &entries,
-                                       const QVector<int> &matches)
+/** The entries but for those with the indexes @p others. */
+QVector<SSnapshotEntry> without(const QVector<SSnapshotEntry> &entries, const QVector<int> &others)
 {
-    QVector<bool> isMatched(entries.size(), false);
-    for (const int index : matches) {
+    QVector<bool> isOther(entries.size(), false);
+    for (const int index : others) {
         if (index >= 0) {
-            isMatched[index] = true;
+            isOther[index] = true;
         }
     }
     QVector<SSnapshotEntry> result;
     for (int i = 0; i < entries.size(); ++i) {
-        if (!isMatched.at(i)) {
+        if (!isOther.at(i)) {
             result << entries.at(i);
         }
     }
@@ -88,8 +89,8 @@ QVector<SSnapshotEntry> withoutMatches(const QVector<SSnapshotEntry> &entries,
 class Merger
 {
 public:
-    Merger(CDeviceConfigurationFile10 &base, CDeviceConfigurationFile10 &ours,
-           CDeviceConfigurationFile10 &theirs)
+    Merger(const CDeviceConfigurationFile10 &base, const CDeviceConfigurationFile10 &ours,
+           const CDeviceConfigurationFile10 &theirs)
         : m_base(base), m_ours(ours), m_theirs(theirs)
     {
         mergeEntry(m_base.description, m_ours.description, m_theirs.description, IN_BASE);
@@ -113,10 +114,10 @@ private:
                    QList<SChange> &others);
     bool mergeSeries(const QStringList &parts, const SSnapshotEntry &base,
                      const SSnapshotEntry &ours, const SSnapshotEntry &theirs, EOrigin origin);
-    void mergeList(const QString &list);
-    void mergeKnownEntries(SMergedList &merged);
-    void mergeRemoval(const SSnapshotEntry &base, int index, SMergedList &merged);
-    void mergeNewEntries(SMergedList &merged);
+    void mergeBaseEntry(const SSnapshotEntry &base, int inOurs, int inTheirs, SList &list);
+    void mergeNewEntries(const QVector<SSnapshotEntry> &inOurs,
+                         const QVector<SSnapshotEntry> &inTheirs, SList &list);
+    void mergeList(const QString &path);
     QString mergeActiveFpgaFile();
 
     void addValueConflict(const SItemPath &path, const QString &item, const SSnapshotEntry &base,
@@ -124,7 +125,7 @@ private:
     void addRemovalConflict(CConfigurationMerge::EConflict kind, const QString &part,
                             const SSnapshotEntry &base, const SSnapshotEntry &changed,
                             const SItemPath &path);
-    void addEntryConflict(CConfigurationMerge::EConflict kind, const SSnapshotEntry &entry,
+    void addEntryConflict(CConfigurationMerge::EConflict kind, const SItemPath &path,
                           const QList<SChange> &changes);
     QList<SChange> changesOf(const QString &list, const SSnapshotEntry &base,
                              const SSnapshotEntry &side, const ConfigurationSnapshot &whole) const;
@@ -268,17 +269,6 @@ void Merger::mergeEntry(const SSnapshotEntry &base, const SSnapshotEntry &ours,
     m_changes << removals << own << others;
 }
 
-/** One side removed an entry that the other one changed. */
-void Merger::addEntryConflict(CConfigurationMerge::EConflict kind, const SSnapshotEntry &entry,
-                              const QList<SChange> &changes)
-{
-    SConflict conflict;
-    conflict.conflict = kind;
-    conflict.path = entry.path.entryPath();
-    conflict.details = described(changes);
-    m_conflicts << conflict;
-}
-
 /** What one side did to an entry, whether it is active among the FPGA images included. */
 QList<SChange> Merger::changesOf(const QString &list, const SSnapshotEntry &base,
                                  const SSnapshotEntry &side,
@@ -295,76 +285,75 @@ QList<SChange> Merger::changesOf(const QString &list, const SSnapshotEntry &base
     return changes;
 }
 
-void Merger::mergeList(const QString &list)
+void Merger::addEntryConflict(CConfigurationMerge::EConflict kind, const SItemPath &path,
+                              const QList<SChange> &changes)
 {
-    SMergedList merged(list, m_ours.entries(list));
-    mergeKnownEntries(merged);
-    mergeNewEntries(merged);
-    QString active;
-    if (list == fpgaFileList()) {
-        active = mergeActiveFpgaFile();
-        // OURS removed it, which is told as a conflict of the image.
-        active = merged.keys.contains(active) ? active : QString();
-    }
-    merged.changes.appendTo(list, m_ours.device, active, m_changes);
+    SConflict conflict;
+    conflict.conflict = kind;
+    conflict.path = path.entryPath();
+    conflict.details = described(changes);
+    m_conflicts << conflict;
 }
 
-/** The entries that BASE has; what is new on each side is left for mergeNewEntries(). */
-void Merger::mergeKnownEntries(SMergedList &merged)
+/** Where an entry of BASE is in the other two; -1 where it was removed. */
+void Merger::mergeBaseEntry(const SSnapshotEntry &base, int inOurs, int inTheirs, SList &list)
 {
-    const QVector<SSnapshotEntry> base = m_base.entries(merged.list);
-    const QVector<SSnapshotEntry> theirs = m_theirs.entries(merged.list);
-    const QVector<int> inOurs = ConfigurationSnapshot::match(base, merged.ours);
-    const QVector<int> inTheirs = ConfigurationSnapshot::match(base, theirs);
-    merged.newInOurs = withoutMatches(merged.ours, inOurs);
-    merged.newInTheirs = withoutMatches(theirs, inTheirs);
-    for (int i = 0; i < base.size(); ++i) {
-        const int o = inOurs.at(i);
-        const int t = inTheirs.at(i);
-        if (o >= 0 && t >= 0) {
-            mergeEntry(base.at(i), merged.ours.at(o), theirs.at(t), IN_BASE);
-        } else if (o >= 0) {
-            mergeRemoval(base.at(i), o, merged);
-        } else if (t >= 0) {
-            const QList<SChange> changes =
-                changesOf(merged.list, base.at(i), theirs.at(t), m_theirs);
-            if (!changes.isEmpty()) {
-                addEntryConflict(CConfigurationMerge::REMOVED_BY_OURS, base.at(i), changes);
-            }
-        }
-    }
-}
-
-/** THEIRS removed the entry that OURS has at @p index. */
-void Merger::mergeRemoval(const SSnapshotEntry &base, int index, SMergedList &merged)
-{
-    const SSnapshotEntry &ours = merged.ours.at(index);
-    const QList<SChange> changes = changesOf(merged.list, base, ours, m_ours);
-    if (changes.isEmpty()) {
-        merged.changes.remove(index);
-        merged.keys.remove(ours.path.key);
-    } else {
-        addEntryConflict(CConfigurationMerge::REMOVED_BY_THEIRS, base, changes);
-    }
-}
-
-/** The entries that BASE does not have: those of THEIRS come, unless OURS has the same ones. */
-void Merger::mergeNewEntries(SMergedList &merged)
-{
-    const QVector<int> counterparts =
-        ConfigurationSnapshot::match(merged.newInTheirs, merged.newInOurs);
-    for (int i = 0; i < merged.newInTheirs.size(); ++i) {
-        const SSnapshotEntry &entry = merged.newInTheirs.at(i);
-        const int counterpart = counterparts.at(i);
-        if (counterpart < 0) {
-            merged.changes.add(entry);
-            merged.keys.insert(entry.path.key);
+    if (inOurs >= 0 && inTheirs >= 0) {
+        mergeEntry(base, list.ours.at(inOurs), list.theirs.at(inTheirs), IN_BASE);
+    } else if (inOurs >= 0) {
+        const SSnapshotEntry &ours = list.ours.at(inOurs);
+        const QList<SChange> changes = changesOf(list.path, base, ours, m_ours);
+        if (changes.isEmpty()) {
+            list.whole.remove(inOurs);
+            list.keys.remove(ours.path.key);
         } else {
-            SSnapshotEntry nothing;
-            nothing.path = entry.path;
-            mergeEntry(nothing, merged.newInOurs.at(counterpart), entry, ADDED_BY_BOTH);
+            addEntryConflict(CConfigurationMerge::REMOVED_BY_THEIRS, base.path, changes);
+        }
+    } else if (inTheirs >= 0) {
+        const QList<SChange> changes =
+            changesOf(list.path, base, list.theirs.at(inTheirs), m_theirs);
+        if (!changes.isEmpty()) {
+            addEntryConflict(CConfigurationMerge::REMOVED_BY_OURS, base.path, changes);
         }
     }
+}
+
+/** The entries that BASE does not have. */
+void Merger::mergeNewEntries(const QVector<SSnapshotEntry> &inOurs,
+                             const QVector<SSnapshotEntry> &inTheirs, SList &list)
+{
+    const QVector<int> counterparts = ConfigurationSnapshot::match(inTheirs, inOurs);
+    for (int i = 0; i < inTheirs.size(); ++i) {
+        const SSnapshotEntry &entry = inTheirs.at(i);
+        if (counterparts.at(i) < 0) {
+            list.whole.add(entry);
+            list.keys.insert(entry.path.key);
+            continue;
+        }
+        SSnapshotEntry nothing;
+        nothing.path = entry.path;
+        mergeEntry(nothing, inOurs.at(counterparts.at(i)), entry, ADDED_BY_BOTH);
+    }
+}
+
+void Merger::mergeList(const QString &path)
+{
+    SList list(path, m_ours.entries(path), m_theirs.entries(path));
+    const QVector<SSnapshotEntry> base = m_base.entries(path);
+    const QVector<int> inOurs = ConfigurationSnapshot::match(base, list.ours);
+    const QVector<int> inTheirs = ConfigurationSnapshot::match(base, list.theirs);
+    for (int i = 0; i < base.size(); ++i) {
+        mergeBaseEntry(base.at(i), inOurs.at(i), inTheirs.at(i), list);
+    }
+    mergeNewEntries(without(list.ours, inOurs), without(list.theirs, inTheirs), list);
+
+    QString active;
+    if (path == fpgaFileList()) {
+        active = mergeActiveFpgaFile();
+        // OURS removed it: that is a conflict of the image.
+        active = list.keys.contains(active) ? active : QString();
+    }
+    list.whole.appendTo(path, m_ours.device, active, m_changes);
 }
 
 /** @return the image that THEIRS wants to be active; empty when nothing has to be done */
@@ -420,6 +409,13 @@ void dropImpossible(const CDeviceConfigurationFile10 &ours, QList<SChange> &chan
 CConfigurationMerge::CConfigurationMerge(CDeviceConfigurationFile10 &base,
                                          CDeviceConfigurationFile10 &ours,
                                          CDeviceConfigurationFile10 &theirs)
+    : CConfigurationMerge(qAsConst(base), qAsConst(ours), qAsConst(theirs))
+{
+}
+
+CConfigurationMerge::CConfigurationMerge(const CDeviceConfigurationFile10 &base,
+                                         const CDeviceConfigurationFile10 &ours,
+                                         const CDeviceConfigurationFile10 &theirs)
 {
     const Merger merger(base, ours, theirs);
     QList<SChange> changes = merger.changes();

@@ -1,6 +1,7 @@
 #include "commissioning/compare/ConfigurationSnapshot.h"
 
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/items/ItemReader.h"
 #include "configfile/ItemValue.h"
 #include "configfile/ShapePaths.h"
 
@@ -230,11 +231,11 @@ QList<CConfigurationItems::SItem> SSnapshotEntry::content(const QString &part) c
     return result;
 }
 
-ConfigurationSnapshot::ConfigurationSnapshot(CDeviceConfigurationFile10 &file)
+ConfigurationSnapshot::ConfigurationSnapshot(const CDeviceConfigurationFile10 &file)
 {
     description.path.list = QStringLiteral("description");
     device.path.list = QStringLiteral("device");
-    const CConfigurationItems reader(file);
+    ItemReader reader(file);
     QHash<QString, int> indexes;
     const QStringList entryPaths = reader.entries();
     for (const QString &path : entryPaths) {

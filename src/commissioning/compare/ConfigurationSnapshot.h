@@ -64,8 +64,7 @@ struct SSnapshotEntry {
 class ConfigurationSnapshot
 {
 public:
-    /** @p file only lends its document. */
-    explicit ConfigurationSnapshot(CDeviceConfigurationFile10 &file);
+    explicit ConfigurationSnapshot(const CDeviceConfigurationFile10 &file);
 
     SSnapshotEntry description;
     SSnapshotEntry device;
