@@ -1,0 +1,18 @@
+#pragma once
+
+#include "support/Tool.h"
+
+#include <QString>
+
+/** Files with a configuration, as the commands on items need them. */
+namespace ItemCommands {
+
+using Tool::SResult;
+const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
+
+inline QString toJson(const QString &path, const QString &value)
+{
+    return path + u'=' + value;
+}
+
+} // namespace ItemCommands
