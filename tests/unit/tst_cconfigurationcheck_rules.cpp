@@ -28,7 +28,7 @@ QStringList rulesIn(const QList<const char *> &findings)
 } // namespace
 
 /** The rules: their texts, severities and pages. */
-class tst_CConfigurationCheck_rules : public QObject
+class tst_cconfigurationcheck_rules : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void texts();
 };
 
-void tst_CConfigurationCheck_rules::everyRuleHasAnExample()
+void tst_cconfigurationcheck_rules::everyRuleHasAnExample()
 {
     // The two that need more than a table.
     QSet<QString> shown = {u"project-file-unreadable"_s, u"findings-left-out"_s};
@@ -68,7 +68,7 @@ void tst_CConfigurationCheck_rules::everyRuleHasAnExample()
     QCOMPARE(sortedShown, listed);
 }
 
-void tst_CConfigurationCheck_rules::rulesAreWellFormed()
+void tst_cconfigurationcheck_rules::rulesAreWellFormed()
 {
     static const QRegularExpression words(u"\\A[a-z0-9]+(-[a-z0-9]+)+\\z"_s);
     const QList<CConfigurationCheck::SRule> rules = CConfigurationCheck::rules();
@@ -86,7 +86,7 @@ void tst_CConfigurationCheck_rules::rulesAreWellFormed()
     QCOMPARE(descriptions.size(), rules.size());
 }
 
-void tst_CConfigurationCheck_rules::severities_data()
+void tst_cconfigurationcheck_rules::severities_data()
 {
     QTest::addColumn<QString>("rule");
     const QSet<QString> warnings = {
@@ -107,7 +107,7 @@ void tst_CConfigurationCheck_rules::severities_data()
     }
 }
 
-void tst_CConfigurationCheck_rules::severities()
+void tst_cconfigurationcheck_rules::severities()
 {
     QFETCH(QString, rule);
     QFETCH(bool, isWarning);
@@ -129,7 +129,7 @@ void tst_CConfigurationCheck_rules::severities()
     }
 }
 
-void tst_CConfigurationCheck_rules::documentsOfTheRules()
+void tst_cconfigurationcheck_rules::documentsOfTheRules()
 {
     const QString page =
         QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/docs/rules.md")));
@@ -156,7 +156,7 @@ void tst_CConfigurationCheck_rules::documentsOfTheRules()
     QCOMPARE(page.count(u"\n### "_s), expected.size());
 }
 
-void tst_CConfigurationCheck_rules::itemsAreThoseOfTheDocument()
+void tst_cconfigurationcheck_rules::itemsAreThoseOfTheDocument()
 {
     for (const SInvalid &invalid : InvalidFiles) {
         CDeviceConfigurationFile10 file(nullptr);
@@ -177,7 +177,7 @@ void tst_CConfigurationCheck_rules::itemsAreThoseOfTheDocument()
     }
 }
 
-void tst_CConfigurationCheck_rules::entriesAreCountedAsTheItems()
+void tst_cconfigurationcheck_rules::entriesAreCountedAsTheItems()
 {
     // Readers pass over the first one, and take the others for files without a name.
     const QByteArray bytes =
@@ -197,7 +197,7 @@ void tst_CConfigurationCheck_rules::entriesAreCountedAsTheItems()
     QCOMPARE(CConfigurationItems(file).entries(), found.mid(1));
 }
 
-void tst_CConfigurationCheck_rules::texts_data()
+void tst_cconfigurationcheck_rules::texts_data()
 {
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("found");
@@ -271,7 +271,7 @@ void tst_CConfigurationCheck_rules::texts_data()
         u"The device reads this as one word."_s);
 }
 
-void tst_CConfigurationCheck_rules::texts()
+void tst_cconfigurationcheck_rules::texts()
 {
     CConfigurationCheck check;
     QVERIFY(check.open(BrokenDocuments::path(QString::fromUtf8(QTest::currentDataTag()))));
@@ -283,6 +283,6 @@ void tst_CConfigurationCheck_rules::texts()
     QTEST(finding.hint, "hint");
 }
 
-REGISTER_GUILESS_TEST(tst_CConfigurationCheck_rules)
+REGISTER_GUILESS_TEST(tst_cconfigurationcheck_rules)
 
 #include "tst_cconfigurationcheck_rules.moc"

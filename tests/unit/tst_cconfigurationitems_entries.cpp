@@ -10,7 +10,7 @@
 using namespace ItemDocuments;
 
 /** How entries are renamed, added and removed. */
-class tst_CConfigurationItems_entries : public QObject
+class tst_cconfigurationitems_entries : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private:
     QByteArray m_sample;
 };
 
-void tst_CConfigurationItems_entries::initTestCase()
+void tst_cconfigurationitems_entries::initTestCase()
 {
     m_sample = sampleDocument();
     SOpened opened(m_sample);
@@ -48,7 +48,7 @@ void tst_CConfigurationItems_entries::initTestCase()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_entries::rename_data()
+void tst_cconfigurationitems_entries::rename_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("value");
@@ -94,7 +94,7 @@ void tst_CConfigurationItems_entries::rename_data()
     }
 }
 
-void tst_CConfigurationItems_entries::rename()
+void tst_cconfigurationitems_entries::rename()
 {
     QFETCH(QString, path);
     QFETCH(QString, value);
@@ -120,7 +120,7 @@ void tst_CConfigurationItems_entries::rename()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_entries::renamedEntryIsFoundUnderItsNewName()
+void tst_cconfigurationitems_entries::renamedEntryIsFoundUnderItsNewName()
 {
     SOpened opened(m_sample);
     QVERIFY(opened.items.setValue(u"drive[0].driveNo"_s, u"9"_s));
@@ -134,7 +134,7 @@ void tst_CConfigurationItems_entries::renamedEntryIsFoundUnderItsNewName()
     QCOMPARE(twice.file.options(), QStringList({u"-a"_s, u"1"_s, u"-b"_s, u"2"_s}));
 }
 
-void tst_CConfigurationItems_entries::add_data()
+void tst_cconfigurationitems_entries::add_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArrayList>("added");
@@ -170,7 +170,7 @@ void tst_CConfigurationItems_entries::add_data()
                                   "  </SubDevice>"};
 }
 
-void tst_CConfigurationItems_entries::add()
+void tst_cconfigurationitems_entries::add()
 {
     QFETCH(QString, path);
     QFETCH(QByteArrayList, added);
@@ -190,7 +190,7 @@ void tst_CConfigurationItems_entries::add()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_entries::addToNothing_data()
+void tst_cconfigurationitems_entries::addToNothing_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("after");
@@ -215,7 +215,7 @@ void tst_CConfigurationItems_entries::addToNothing_data()
                                          "   <BusId>0</BusId>\n  </SubDevice>\n </Device>\n");
 }
 
-void tst_CConfigurationItems_entries::addToNothing()
+void tst_cconfigurationitems_entries::addToNothing()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, after);
@@ -224,7 +224,7 @@ void tst_CConfigurationItems_entries::addToNothing()
     QCOMPARE(opened.bytes(), after);
 }
 
-void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne_data()
+void tst_cconfigurationitems_entries::addedDriveIsAsAnInsertedOne_data()
 {
     QTest::addColumn<QString>("deviceClass");
     QTest::newRow("KC2 controller") << u"kc2"_s;
@@ -232,7 +232,7 @@ void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne_data()
     QTest::newRow("other") << u"Undefined"_s;
 }
 
-void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne()
+void tst_cconfigurationitems_entries::addedDriveIsAsAnInsertedOne()
 {
     QFETCH(QString, deviceClass);
     SOpened opened(m_sample);
@@ -250,7 +250,7 @@ void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne()
     QVERIFY(!inserted.name().isEmpty());
 }
 
-void tst_CConfigurationItems_entries::remove_data()
+void tst_cconfigurationitems_entries::remove_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArrayList>("removed");
@@ -292,7 +292,7 @@ void tst_CConfigurationItems_entries::remove_data()
     row(u"drive[1].param.name"_s, {"     <Name>Folder.3param</Name>"});
 }
 
-void tst_CConfigurationItems_entries::remove()
+void tst_cconfigurationitems_entries::remove()
 {
     QFETCH(QString, path);
     QFETCH(QByteArrayList, removed);
@@ -309,7 +309,7 @@ void tst_CConfigurationItems_entries::remove()
     QCOMPARE(opened.bytes(), expected);
 }
 
-void tst_CConfigurationItems_entries::removeASingleFileOfSeveral()
+void tst_cconfigurationitems_entries::removeASingleFileOfSeveral()
 {
     // Only the first one counts, and none of them may step into its place.
     SOpened opened(configurationOf("<Dictionary><!--kept--><File><Name>a</Name></File>"
@@ -320,7 +320,7 @@ void tst_CConfigurationItems_entries::removeASingleFileOfSeveral()
     QVERIFY(opened.bytes().contains("   <Dictionary>\n    <!--kept-->\n    <Extra/>\n"));
 }
 
-void tst_CConfigurationItems_entries::optionsKeepTheirBlanks_data()
+void tst_cconfigurationitems_entries::optionsKeepTheirBlanks_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("option");
@@ -341,7 +341,7 @@ void tst_CConfigurationItems_entries::optionsKeepTheirBlanks_data()
     row("text before", u"free -a"_s, u"-a"_s, u"free -a x y"_s, u"free"_s);
 }
 
-void tst_CConfigurationItems_entries::optionsKeepTheirBlanks()
+void tst_cconfigurationitems_entries::optionsKeepTheirBlanks()
 {
     QFETCH(QString, text);
     QFETCH(QString, option);
@@ -376,7 +376,7 @@ void tst_CConfigurationItems_entries::optionsKeepTheirBlanks()
     QCOMPARE(stored(other), removed.isEmpty() ? u"-z"_s : removed + u" -z"_s);
 }
 
-void tst_CConfigurationItems_entries::failuresChangeNothing_data()
+void tst_cconfigurationitems_entries::failuresChangeNothing_data()
 {
     QTest::addColumn<bool>("isAdding");
     QTest::addColumn<QString>("path");
@@ -415,7 +415,7 @@ void tst_CConfigurationItems_entries::failuresChangeNothing_data()
     row(false, u"device.options[-opc].name"_s, u"the entry cannot be without it"_s);
 }
 
-void tst_CConfigurationItems_entries::failuresChangeNothing()
+void tst_cconfigurationitems_entries::failuresChangeNothing()
 {
     QFETCH(bool, isAdding);
     QFETCH(QString, path);
@@ -426,5 +426,5 @@ void tst_CConfigurationItems_entries::failuresChangeNothing()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-REGISTER_GUILESS_TEST(tst_CConfigurationItems_entries)
+REGISTER_GUILESS_TEST(tst_cconfigurationitems_entries)
 #include "tst_cconfigurationitems_entries.moc"

@@ -74,7 +74,7 @@ const QByteArray Format = "\"format\":\"vrn-configuration-patch\"";
 } // namespace
 
 /** Patches: how they read, how they are kept, and what they do to a document. */
-class tst_CConfigurationPatch : public QObject
+class tst_cconfigurationpatch : public QObject
 {
     Q_OBJECT
 
@@ -102,7 +102,7 @@ private Q_SLOTS:
     void positionsAndHandlesStay();
 };
 
-void tst_CConfigurationPatch::describe_data()
+void tst_cconfigurationpatch::describe_data()
 {
     QTest::addColumn<SChange>("change");
     QTest::addColumn<QString>("expected");
@@ -174,7 +174,7 @@ void tst_CConfigurationPatch::describe_data()
         << set(u"spare[x].part.word"_s, u"a"_s, u"b"_s) << u"spare x: part: word a -> b"_s;
 }
 
-void tst_CConfigurationPatch::describe()
+void tst_cconfigurationpatch::describe()
 {
     QFETCH(SChange, change);
     QFETCH(QString, expected);
@@ -182,7 +182,7 @@ void tst_CConfigurationPatch::describe()
     QCOMPARE(CConfigurationPatch::describe(change), expected.section(QLatin1Char('\n'), 0, 0));
 }
 
-void tst_CConfigurationPatch::jsonIsFixed()
+void tst_cconfigurationpatch::jsonIsFixed()
 {
     const CConfigurationPatch patch = patchOf(
         {set(u"drive[2].name"_s, u"DRIVE-2"_s, u"GRIPPER"_s), cleared(u"device.comment"_s, u"ß"_s),
@@ -232,12 +232,12 @@ void tst_CConfigurationPatch::jsonIsFixed()
 )"));
 }
 
-void tst_CConfigurationPatch::jsonRoundTrip_data()
+void tst_cconfigurationpatch::jsonRoundTrip_data()
 {
     describe_data();
 }
 
-void tst_CConfigurationPatch::jsonRoundTrip()
+void tst_cconfigurationpatch::jsonRoundTrip()
 {
     QFETCH(SChange, change);
     const CConfigurationPatch patch = patchOf({change});
@@ -248,7 +248,7 @@ void tst_CConfigurationPatch::jsonRoundTrip()
     QVERIFY(isSame(read.changes(), patch.changes()));
 }
 
-void tst_CConfigurationPatch::jsonRoundTripOfRandomPatches()
+void tst_cconfigurationpatch::jsonRoundTripOfRandomPatches()
 {
     for (quint32 seed = 0; seed < 50; ++seed) {
         RandomConfiguration random(seed);
@@ -263,7 +263,7 @@ void tst_CConfigurationPatch::jsonRoundTripOfRandomPatches()
     }
 }
 
-void tst_CConfigurationPatch::refused_data()
+void tst_cconfigurationpatch::refused_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("reason");
@@ -354,7 +354,7 @@ void tst_CConfigurationPatch::refused_data()
     }
 }
 
-void tst_CConfigurationPatch::refused()
+void tst_cconfigurationpatch::refused()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, reason);
@@ -366,7 +366,7 @@ void tst_CConfigurationPatch::refused()
     QVERIFY(patch.isEmpty());
 }
 
-void tst_CConfigurationPatch::refusedKeepsThePatch()
+void tst_cconfigurationpatch::refusedKeepsThePatch()
 {
     CConfigurationPatch patch = patchOf({removed(u"files[a]"_s)});
     QString error;
@@ -376,7 +376,7 @@ void tst_CConfigurationPatch::refusedKeepsThePatch()
     QVERIFY(error.isEmpty());
 }
 
-void tst_CConfigurationPatch::apply_data()
+void tst_cconfigurationpatch::apply_data()
 {
     QTest::addColumn<SChange>("change");
     QTest::addColumn<QByteArray>("replacement");
@@ -426,7 +426,7 @@ void tst_CConfigurationPatch::apply_data()
     row("same value", set(u"device.name"_s, u"PackagingLine"_s, u"PackagingLine"_s), "<|<");
 }
 
-void tst_CConfigurationPatch::apply()
+void tst_cconfigurationpatch::apply()
 {
     QFETCH(SChange, change);
     QFETCH(QByteArray, replacement);
@@ -442,7 +442,7 @@ void tst_CConfigurationPatch::apply()
     QCOMPARE(QString::fromUtf8(saved(*file)), QString::fromUtf8(expected));
 }
 
-void tst_CConfigurationPatch::applyKeepsTheRest()
+void tst_cconfigurationpatch::applyKeepsTheRest()
 {
     const QByteArray marked =
         changed(example(),
@@ -459,7 +459,7 @@ void tst_CConfigurationPatch::applyKeepsTheRest()
     QCOMPARE(saved(*file), changed(before, {"<Priority>20|<Priority>30", ">Gluer<|>GRIPPER<"}));
 }
 
-void tst_CConfigurationPatch::mismatch_data()
+void tst_cconfigurationpatch::mismatch_data()
 {
     QTest::addColumn<SChange>("change");
     QTest::addColumn<QString>("expected");
@@ -516,7 +516,7 @@ void tst_CConfigurationPatch::mismatch_data()
     row("list to add to", added(u"spare[a]"_s), u"there is no such item"_s);
 }
 
-void tst_CConfigurationPatch::mismatch()
+void tst_cconfigurationpatch::mismatch()
 {
     QFETCH(SChange, change);
     QFETCH(QString, expected);
@@ -533,7 +533,7 @@ void tst_CConfigurationPatch::mismatch()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CConfigurationPatch::everyMismatchIsTold()
+void tst_cconfigurationpatch::everyMismatchIsTold()
 {
     const File file = load(example());
     QStringList mismatches;
@@ -548,7 +548,7 @@ void tst_CConfigurationPatch::everyMismatchIsTold()
                      u"plug-in motion: version is 2, but (empty) is expected."_s}));
 }
 
-void tst_CConfigurationPatch::checkChangesNothing()
+void tst_cconfigurationpatch::checkChangesNothing()
 {
     const File file = load(example());
     const QDomDocument document = file->domDocument();
@@ -558,7 +558,7 @@ void tst_CConfigurationPatch::checkChangesNothing()
     QVERIFY(file->domDocument() == document);
 }
 
-void tst_CConfigurationPatch::withoutDocument()
+void tst_cconfigurationpatch::withoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QStringList mismatches;
@@ -566,7 +566,7 @@ void tst_CConfigurationPatch::withoutDocument()
     QCOMPARE(mismatches, QStringList{u"There is no configuration."_s});
 }
 
-void tst_CConfigurationPatch::emptyPatch()
+void tst_cconfigurationpatch::emptyPatch()
 {
     const File file = load(example());
     QStringList mismatches = {u"old"_s};
@@ -578,7 +578,7 @@ void tst_CConfigurationPatch::emptyPatch()
     QCOMPARE(saved(*file), example());
 }
 
-void tst_CConfigurationPatch::hiddenFilesOfADriveStayHidden()
+void tst_cconfigurationpatch::hiddenFilesOfADriveStayHidden()
 {
     // The drive has the elements of a KD2 drive, which do not count for a KD3 drive.
     const File before = load(changed(example(), {"type=\"KD2_drive\"|type=\"KD3_drive\""}));
@@ -597,7 +597,7 @@ void tst_CConfigurationPatch::hiddenFilesOfADriveStayHidden()
     QCOMPARE(name, u"Gluer.3param"_s);
 }
 
-void tst_CConfigurationPatch::imagesOfOneFileName()
+void tst_cconfigurationpatch::imagesOfOneFileName()
 {
     const File file = load(example());
     QVERIFY(file->setFpgaFiles({u"a/x.bit"_s, u"x.bit"_s, u"b/x.bit"_s}));
@@ -607,7 +607,7 @@ void tst_CConfigurationPatch::imagesOfOneFileName()
     QCOMPARE(file->fpgaFiles(), QStringList({u"b/x.bit"_s, u"a/x.bit"_s, u"x.bit"_s}));
 }
 
-void tst_CConfigurationPatch::positionsAndHandlesStay()
+void tst_cconfigurationpatch::positionsAndHandlesStay()
 {
     CDeviceConfigurationFile10 file(nullptr);
     file.keepPositions(true);
@@ -622,5 +622,5 @@ void tst_CConfigurationPatch::positionsAndHandlesStay()
     QVERIFY(device.firstChildElement(u"ConfigurationName"_s).isNull());
 }
 
-REGISTER_GUILESS_TEST(tst_CConfigurationPatch)
+REGISTER_GUILESS_TEST(tst_cconfigurationpatch)
 #include "tst_cconfigurationpatch.moc"

@@ -17,7 +17,7 @@ const QChar Ellipsis(0x2026);
 } // namespace
 
 /** The drawing of the device. */
-class tst_CConfigurationReport_drawing : public QObject
+class tst_cconfigurationreport_drawing : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void textsInTheDrawingAreShortened();
 };
 
-void tst_CConfigurationReport_drawing::drawing_data()
+void tst_cconfigurationreport_drawing::drawing_data()
 {
     QTest::addColumn<int>("driveCount");
     for (const int count : {0, 1, 3, 4, 5, 12, 16, 17, 255, 256}) {
@@ -37,7 +37,7 @@ void tst_CConfigurationReport_drawing::drawing_data()
 }
 
 /** Nothing reaches out of the drawing, and no module lies on another one. */
-void tst_CConfigurationReport_drawing::drawing()
+void tst_cconfigurationreport_drawing::drawing()
 {
     QFETCH(int, driveCount);
     CDeviceConfigurationFile10 file(nullptr);
@@ -87,7 +87,7 @@ void tst_CConfigurationReport_drawing::drawing()
     }
 }
 
-void tst_CConfigurationReport_drawing::marksInTheDrawing()
+void tst_cconfigurationreport_drawing::marksInTheDrawing()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setDevice(file, LargeConfiguration::device(0, 4)));
@@ -122,7 +122,7 @@ void tst_CConfigurationReport_drawing::marksInTheDrawing()
     QCOMPARE(device.html().count("href=\"#mark-error\""), 2);
 }
 
-void tst_CConfigurationReport_drawing::textsInTheDrawingAreShortened()
+void tst_cconfigurationreport_drawing::textsInTheDrawingAreShortened()
 {
     const QString accented = QString(u"e\u0301"_s).repeated(60);
     CDeviceElement device;
@@ -163,5 +163,5 @@ void tst_CConfigurationReport_drawing::textsInTheDrawingAreShortened()
     }
 }
 
-REGISTER_GUILESS_TEST(tst_CConfigurationReport_drawing)
+REGISTER_GUILESS_TEST(tst_cconfigurationreport_drawing)
 #include "tst_cconfigurationreport_drawing.moc"

@@ -10,7 +10,7 @@
 using namespace ReportPages;
 
 /** Where the page shows what the check found. */
-class tst_CConfigurationReport_findings : public QObject
+class tst_cconfigurationreport_findings : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private Q_SLOTS:
     void nothingFound();
 };
 
-void tst_CConfigurationReport_findings::findingsStandBesideTheirItems_data()
+void tst_cconfigurationreport_findings::findingsStandBesideTheirItems_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QString>("heading");
@@ -70,7 +70,7 @@ void tst_CConfigurationReport_findings::findingsStandBesideTheirItems_data()
     row("files[Größe <&>.txt]", "Additional files", "Größe <&>.txt");
 }
 
-void tst_CConfigurationReport_findings::findingsStandBesideTheirItems()
+void tst_cconfigurationreport_findings::findingsStandBesideTheirItems()
 {
     QFETCH(QString, item);
     CDeviceConfigurationFile10 file(nullptr);
@@ -85,7 +85,7 @@ void tst_CConfigurationReport_findings::findingsStandBesideTheirItems()
     }
 }
 
-void tst_CConfigurationReport_findings::findingsOfTheCheck_data()
+void tst_cconfigurationreport_findings::findingsOfTheCheck_data()
 {
     QTest::addColumn<QString>("path");
     int count = 0;
@@ -101,7 +101,7 @@ void tst_CConfigurationReport_findings::findingsOfTheCheck_data()
 }
 
 /** Whatever the check finds has its place, and none but that of the whole document at the top. */
-void tst_CConfigurationReport_findings::findingsOfTheCheck()
+void tst_cconfigurationreport_findings::findingsOfTheCheck()
 {
     QFETCH(QString, path);
     const MessageCatcher catcher;
@@ -131,7 +131,7 @@ void tst_CConfigurationReport_findings::findingsOfTheCheck()
     }
 }
 
-void tst_CConfigurationReport_findings::findingIsTold()
+void tst_cconfigurationreport_findings::findingIsTold()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -157,7 +157,7 @@ void tst_CConfigurationReport_findings::findingIsTold()
              u"ErrorWhat is wrong with 'device.name'.device.nameline 12, column 34"_s);
 }
 
-void tst_CConfigurationReport_findings::severities()
+void tst_cconfigurationreport_findings::severities()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -174,7 +174,7 @@ void tst_CConfigurationReport_findings::severities()
     QCOMPARE(tiles.at(1).text(), u"2Warnings"_s);
 }
 
-void tst_CConfigurationReport_findings::longSummaryIsFolded()
+void tst_cconfigurationreport_findings::longSummaryIsFolded()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -193,7 +193,7 @@ void tst_CConfigurationReport_findings::longSummaryIsFolded()
     QCOMPARE(Page::all(page.all(u"div"_s, u"summary"_s).first(), u"a"_s).size(), 13);
 }
 
-void tst_CConfigurationReport_findings::nothingFound()
+void tst_cconfigurationreport_findings::nothingFound()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -204,5 +204,5 @@ void tst_CConfigurationReport_findings::nothingFound()
     QVERIFY(!found.root().text().contains(u"Nothing was found"_s));
 }
 
-REGISTER_GUILESS_TEST(tst_CConfigurationReport_findings)
+REGISTER_GUILESS_TEST(tst_cconfigurationreport_findings)
 #include "tst_cconfigurationreport_findings.moc"

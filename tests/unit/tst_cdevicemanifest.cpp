@@ -55,7 +55,7 @@ bool isEqual(const CDeviceManifest &a, const CDeviceManifest &b)
 
 } // namespace
 
-class tst_CDeviceManifest : public QObject
+class tst_cdevicemanifest : public QObject
 {
     Q_OBJECT
 
@@ -358,5 +358,5 @@ private slots:
     }
 };
 
-REGISTER_GUILESS_TEST(tst_CDeviceManifest)
+REGISTER_GUILESS_TEST(tst_cdevicemanifest)
 #include "tst_cdevicemanifest.moc"

@@ -19,7 +19,7 @@ finding(const QString &item,
 
 } // namespace
 
-class tst_CItemFindings : public QObject
+class tst_citemfindings : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void absentPositions();
 };
 
-void tst_CItemFindings::above_data()
+void tst_citemfindings::above_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
@@ -52,13 +52,13 @@ void tst_CItemFindings::above_data()
     QTest::newRow("back-slash at the end") << u"files[a\\"_s << u"files"_s;
 }
 
-void tst_CItemFindings::above()
+void tst_citemfindings::above()
 {
     QFETCH(QString, path);
     QTEST(CItemFindings::above(path), "expected");
 }
 
-void tst_CItemFindings::nearestShownItem_data()
+void tst_citemfindings::nearestShownItem_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QString>("expected");
@@ -75,7 +75,7 @@ void tst_CItemFindings::nearestShownItem_data()
     QTest::newRow("no path") << u"...[["_s << QString();
 }
 
-void tst_CItemFindings::nearestShownItem()
+void tst_citemfindings::nearestShownItem()
 {
     QFETCH(QString, item);
     QFETCH(QString, expected);
@@ -86,7 +86,7 @@ void tst_CItemFindings::nearestShownItem()
     QCOMPARE(findings.at(expected), QList<int>{0});
 }
 
-void tst_CItemFindings::orderIsKept()
+void tst_citemfindings::orderIsKept()
 {
     const CItemFindings findings({finding(u"drive[2].name"_s), finding(u"device"_s),
                                   finding(u"drive[2]"_s), finding(u"drive[2].busId"_s)},
@@ -97,7 +97,7 @@ void tst_CItemFindings::orderIsKept()
     QCOMPARE(findings.at(3).item, u"drive[2].busId"_s);
 }
 
-void tst_CItemFindings::severitiesAreCounted()
+void tst_citemfindings::severitiesAreCounted()
 {
     const CItemFindings findings({finding(u"a"_s, SConfigurationFinding::WARNING),
                                   finding(u"b"_s, SConfigurationFinding::ERROR),
@@ -107,7 +107,7 @@ void tst_CItemFindings::severitiesAreCounted()
     QCOMPARE(findings.count(SConfigurationFinding::WARNING), 2);
 }
 
-void tst_CItemFindings::absentPositions()
+void tst_citemfindings::absentPositions()
 {
     const CItemFindings findings({finding(u"a"_s)}, {});
     QVERIFY(findings.at(1).rule.isEmpty());
@@ -116,5 +116,5 @@ void tst_CItemFindings::absentPositions()
     QVERIFY(findings.at(u"a"_s).isEmpty());
 }
 
-REGISTER_APPLESS_TEST(tst_CItemFindings)
+REGISTER_APPLESS_TEST(tst_citemfindings)
 #include "tst_citemfindings.moc"

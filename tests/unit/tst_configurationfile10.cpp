@@ -27,7 +27,7 @@ const QString PathRemoved =
 
 } // namespace
 
-class tst_ConfigurationFile10 : public QObject
+class tst_configurationfile10 : public QObject
 {
     Q_OBJECT
 
@@ -72,13 +72,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_ConfigurationFile10::init()
+void tst_configurationfile10::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_ConfigurationFile10::fresh()
+void tst_configurationfile10::fresh()
 {
     RecordingLog log;
     CDeviceConfigurationFile10 file(&log);
@@ -88,7 +88,7 @@ void tst_ConfigurationFile10::fresh()
     QVERIFY(isWithoutDocument(file));
 }
 
-void tst_ConfigurationFile10::createNewDocument_data()
+void tst_configurationfile10::createNewDocument_data()
 {
     QTest::addColumn<bool>("withLog");
     QTest::addColumn<QString>("author");
@@ -98,7 +98,7 @@ void tst_ConfigurationFile10::createNewDocument_data()
     QTest::newRow("log without author") << true << QString();
 }
 
-void tst_ConfigurationFile10::createNewDocument()
+void tst_configurationfile10::createNewDocument()
 {
     QFETCH(bool, withLog);
     QFETCH(QString, author);
@@ -129,7 +129,7 @@ void tst_ConfigurationFile10::createNewDocument()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::createNewDocumentReplaces()
+void tst_configurationfile10::createNewDocumentReplaces()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(fullDocument()));
@@ -139,7 +139,7 @@ void tst_ConfigurationFile10::createNewDocumentReplaces()
     QCOMPARE(file.metaData().author(), QString());
 }
 
-void tst_ConfigurationFile10::open()
+void tst_configurationfile10::open()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -150,7 +150,7 @@ void tst_ConfigurationFile10::open()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::load()
+void tst_configurationfile10::load()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -161,7 +161,7 @@ void tst_ConfigurationFile10::load()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::openThroughInterface()
+void tst_configurationfile10::openThroughInterface()
 {
     const std::unique_ptr<ICDeviceConfigurationFile> file(
         ICDeviceConfigurationFile::instance(nullptr));
@@ -179,7 +179,7 @@ void tst_ConfigurationFile10::openThroughInterface()
     QCOMPARE(other->currentFileVersion(), u"1.0"_s);
 }
 
-void tst_ConfigurationFile10::openFails_data()
+void tst_configurationfile10::openFails_data()
 {
     QTest::addColumn<QString>("fileName");
 
@@ -194,7 +194,7 @@ void tst_ConfigurationFile10::openFails_data()
     }
 }
 
-void tst_ConfigurationFile10::openFails()
+void tst_configurationfile10::openFails()
 {
     QFETCH(QString, fileName);
 
@@ -218,7 +218,7 @@ void tst_ConfigurationFile10::openFails()
     }
 }
 
-void tst_ConfigurationFile10::loadFails_data()
+void tst_configurationfile10::loadFails_data()
 {
     QTest::addColumn<QByteArray>("buffer");
 
@@ -230,7 +230,7 @@ void tst_ConfigurationFile10::loadFails_data()
     QTest::newRow("zero bytes behind") << emptyDocument() + QByteArray(2, '\0');
 }
 
-void tst_ConfigurationFile10::loadFails()
+void tst_configurationfile10::loadFails()
 {
     QFETCH(QByteArray, buffer);
 
@@ -253,7 +253,7 @@ void tst_ConfigurationFile10::loadFails()
     }
 }
 
-void tst_ConfigurationFile10::failureLeavesNullHandle()
+void tst_configurationfile10::failureLeavesNullHandle()
 {
     // Whatever the reason, the handle on the document is null when there is none.
     const MessageCatcher catcher;
@@ -269,7 +269,7 @@ void tst_ConfigurationFile10::failureLeavesNullHandle()
     QVERIFY(file.domDocument().isNull());
 }
 
-void tst_ConfigurationFile10::failureLeavesHandlesOfCallers()
+void tst_configurationfile10::failureLeavesHandlesOfCallers()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -279,7 +279,7 @@ void tst_ConfigurationFile10::failureLeavesHandlesOfCallers()
     QVERIFY(!document.documentElement().firstChildElement(u"Device"_s).isNull());
 }
 
-void tst_ConfigurationFile10::failureDoesNotStick()
+void tst_configurationfile10::failureDoesNotStick()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -295,7 +295,7 @@ void tst_ConfigurationFile10::failureDoesNotStick()
     QCOMPARE(file.currentFileVersion(), u"1.0"_s);
 }
 
-void tst_ConfigurationFile10::save()
+void tst_configurationfile10::save()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -311,7 +311,7 @@ void tst_ConfigurationFile10::save()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::saveFails_data()
+void tst_configurationfile10::saveFails_data()
 {
     QTest::addColumn<QString>("relativePath");
     QTest::addColumn<bool>("hasDocument");
@@ -321,7 +321,7 @@ void tst_ConfigurationFile10::saveFails_data()
     QTest::newRow("directory") << u"."_s << true;
 }
 
-void tst_ConfigurationFile10::saveFails()
+void tst_configurationfile10::saveFails()
 {
     QFETCH(QString, relativePath);
     QFETCH(bool, hasDocument);
@@ -342,7 +342,7 @@ void tst_ConfigurationFile10::saveFails()
     QCOMPARE(bytesOf(file), hasDocument ? fullDocument() : QByteArray());
 }
 
-void tst_ConfigurationFile10::saveKeepsOldFile()
+void tst_configurationfile10::saveKeepsOldFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), fullDocument()));
@@ -355,7 +355,7 @@ void tst_ConfigurationFile10::saveKeepsOldFile()
     QCOMPARE(Files::names(m_directory->path()), QStringList{u"a.3deco"_s});
 }
 
-void tst_ConfigurationFile10::translations_data()
+void tst_configurationfile10::translations_data()
 {
     QTest::addColumn<QString>("occasion");
     QTest::addColumn<QString>("message");
@@ -367,7 +367,7 @@ void tst_ConfigurationFile10::translations_data()
     QTest::newRow("project path") << u"path"_s << PathRemoved.arg(u"odict.xml"_s);
 }
 
-void tst_ConfigurationFile10::translations()
+void tst_configurationfile10::translations()
 {
     QFETCH(QString, occasion);
     QFETCH(QString, message);
@@ -393,7 +393,7 @@ void tst_ConfigurationFile10::translations()
     QCOMPARE(catcher.messages().last().text, QStringLiteral("<%1>").arg(message));
 }
 
-void tst_ConfigurationFile10::translationOfBase()
+void tst_configurationfile10::translationOfBase()
 {
     const MarkingTranslator translator("CDeviceConfigurationFile");
     const MessageCatcher catcher;
@@ -407,7 +407,7 @@ void tst_ConfigurationFile10::translationOfBase()
                           Later}));
 }
 
-void tst_ConfigurationFile10::projectPaths_data()
+void tst_configurationfile10::projectPaths_data()
 {
     QTest::addColumn<QString>("deviceName");
     QTest::addColumn<QString>("projectPath");
@@ -432,7 +432,7 @@ void tst_ConfigurationFile10::projectPaths_data()
     QTest::newRow("name as a pattern") << u"P.*"_s << u"Press/"_s << false;
 }
 
-void tst_ConfigurationFile10::projectPaths()
+void tst_configurationfile10::projectPaths()
 {
     QFETCH(QString, deviceName);
     QFETCH(QString, projectPath);
@@ -480,7 +480,7 @@ void tst_ConfigurationFile10::projectPaths()
     QVERIFY(file.faultTextFile() == faultText);
 }
 
-void tst_ConfigurationFile10::projectPathMessages()
+void tst_configurationfile10::projectPathMessages()
 {
     RecordingLog log;
     const MessageCatcher catcher;
@@ -496,5 +496,5 @@ void tst_ConfigurationFile10::projectPathMessages()
     QCOMPARE(log.entries().constFirst().second, PathRemoved.arg(u"f.xml"_s));
 }
 
-REGISTER_GUILESS_TEST(tst_ConfigurationFile10)
+REGISTER_GUILESS_TEST(tst_configurationfile10)
 #include "tst_configurationfile10.moc"

@@ -25,7 +25,7 @@ const char *const FileContent = "<Name>n</Name><Comment>c</Comment>"
 
 } // namespace
 
-class tst_ConfigurationHelpers : public QObject
+class tst_configurationhelpers : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ private slots:
     void buildersIntoNull();
 };
 
-void tst_ConfigurationHelpers::factory()
+void tst_configurationhelpers::factory()
 {
     const std::unique_ptr<ICDeviceConfigurationFile> file(
         ICDeviceConfigurationFile::instance(nullptr));
@@ -76,7 +76,7 @@ void tst_ConfigurationHelpers::factory()
     QCOMPARE(ICDeviceConfigurationFile::defaultFileName(), u"DeviceConfiguration.3deco"_s);
 }
 
-void tst_ConfigurationHelpers::find_data()
+void tst_configurationhelpers::find_data()
 {
     QTest::addColumn<QString>("finder");
     QTest::addColumn<QString>("in");
@@ -124,7 +124,7 @@ void tst_ConfigurationHelpers::find_data()
         << u"ethercat"_s << u"second config"_s << QString();
 }
 
-void tst_ConfigurationHelpers::find()
+void tst_configurationhelpers::find()
 {
     QFETCH(QString, finder);
     QFETCH(QString, in);
@@ -146,7 +146,7 @@ void tst_ConfigurationHelpers::find()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::findInConfig_data()
+void tst_configurationhelpers::findInConfig_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("found");
@@ -159,7 +159,7 @@ void tst_ConfigurationHelpers::findInConfig_data()
     QTest::newRow("no tag") << QString() << QString();
 }
 
-void tst_ConfigurationHelpers::findInConfig()
+void tst_configurationhelpers::findInConfig()
 {
     QFETCH(QString, tag);
     QFETCH(QString, found);
@@ -173,7 +173,7 @@ void tst_ConfigurationHelpers::findInConfig()
     QVERIFY(file.findElementInConfigElement(tag, file.byId(u"group"_s)).isNull());
 }
 
-void tst_ConfigurationHelpers::findWithoutDocument()
+void tst_configurationhelpers::findWithoutDocument()
 {
     const CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.findDeviceElement().isNull());
@@ -187,7 +187,7 @@ void tst_ConfigurationHelpers::findWithoutDocument()
     QVERIFY(file.findEtherCatMasterElement().isNull());
 }
 
-void tst_ConfigurationHelpers::create()
+void tst_configurationhelpers::create()
 {
     HelperFile file;
     const QByteArray before = file.bytes();
@@ -205,7 +205,7 @@ void tst_ConfigurationHelpers::create()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::createFromNothing()
+void tst_configurationhelpers::createFromNothing()
 {
     const struct {
         Creator creator;
@@ -234,7 +234,7 @@ void tst_ConfigurationHelpers::createFromNothing()
     QCOMPARE(text(file.findDeviceElement()), u"<Device/>"_s);
 }
 
-void tst_ConfigurationHelpers::createBelowGivenElement()
+void tst_configurationhelpers::createBelowGivenElement()
 {
     HelperFile file;
     const QDomElement group = file.byId(u"device of group"_s);
@@ -245,7 +245,7 @@ void tst_ConfigurationHelpers::createBelowGivenElement()
     QCOMPARE(config.childNodes().size(), 2);
 }
 
-void tst_ConfigurationHelpers::createWithoutDocument()
+void tst_configurationhelpers::createWithoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.deviceDomElement().isNull());
@@ -254,7 +254,7 @@ void tst_ConfigurationHelpers::createWithoutDocument()
     QVERIFY(file.pluginsDomElement(QDomElement()).isNull());
 }
 
-void tst_ConfigurationHelpers::appendFile()
+void tst_configurationhelpers::appendFile()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"files"_s);
@@ -267,7 +267,7 @@ void tst_ConfigurationHelpers::appendFile()
                  + u"<File><Name/><Comment/><DeviceDir/><ProjectDir/></File></Files>"_s);
 }
 
-void tst_ConfigurationHelpers::appendParamFile_data()
+void tst_configurationhelpers::appendParamFile_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("type");
@@ -281,7 +281,7 @@ void tst_ConfigurationHelpers::appendParamFile_data()
     QTest::newRow("below undefined") << u"a"_s << -2 << QString();
 }
 
-void tst_ConfigurationHelpers::appendParamFile()
+void tst_configurationhelpers::appendParamFile()
 {
     QFETCH(QString, name);
     QFETCH(int, type);
@@ -306,7 +306,7 @@ void tst_ConfigurationHelpers::appendParamFile()
     }
 }
 
-void tst_ConfigurationHelpers::appendPlugin()
+void tst_configurationhelpers::appendPlugin()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"plugins"_s);
@@ -319,7 +319,7 @@ void tst_ConfigurationHelpers::appendPlugin()
              u"</Plugins>"_s);
 }
 
-void tst_ConfigurationHelpers::appendFileString()
+void tst_configurationhelpers::appendFileString()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"files"_s);
@@ -330,7 +330,7 @@ void tst_ConfigurationHelpers::appendFileString()
              u"<File><Name>a.bit</Name></File></Files>"_s);
 }
 
-void tst_ConfigurationHelpers::writersFillInPlace()
+void tst_configurationhelpers::writersFillInPlace()
 {
     HelperFile file;
     const QByteArray old = "<File x=\"1\"><!--c--><Name>old</Name><Other/></File>";
@@ -364,7 +364,7 @@ void tst_ConfigurationHelpers::writersFillInPlace()
     QCOMPARE(text(untouched), QString::fromLatin1(old));
 }
 
-void tst_ConfigurationHelpers::writersIntoNull()
+void tst_configurationhelpers::writersIntoNull()
 {
     HelperFile file;
     const QByteArray before = file.bytes();
@@ -381,7 +381,7 @@ void tst_ConfigurationHelpers::writersIntoNull()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::insertFile()
+void tst_configurationhelpers::insertFile()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"files"_s);
@@ -403,7 +403,7 @@ void tst_ConfigurationHelpers::insertFile()
     QVERIFY(files == (QList<CFileElement>{sampleFile(), other}));
 }
 
-void tst_ConfigurationHelpers::insertParamFile()
+void tst_configurationhelpers::insertParamFile()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"params"_s);
@@ -425,7 +425,7 @@ void tst_ConfigurationHelpers::insertParamFile()
     QCOMPARE(list.childNodes().size(), 3);
 }
 
-void tst_ConfigurationHelpers::insertParamFileInvalid()
+void tst_configurationhelpers::insertParamFileInvalid()
 {
     HelperFile file;
     QDomElement list = file.byId(u"params"_s);
@@ -436,7 +436,7 @@ void tst_ConfigurationHelpers::insertParamFileInvalid()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::insertPlugin()
+void tst_configurationhelpers::insertPlugin()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"plugins"_s);
@@ -450,7 +450,7 @@ void tst_ConfigurationHelpers::insertPlugin()
             == (QList<CPluginElement>{plugin(u"a"_s, u"3"_s, 3), plugin(u"b"_s, u"2"_s, 2)}));
 }
 
-void tst_ConfigurationHelpers::setLists()
+void tst_configurationhelpers::setLists()
 {
     HelperFile file;
     const QDomElement parent = file.append("<P><A/><Files x=\"1\"><File/></Files><B/></P>");
@@ -469,7 +469,7 @@ void tst_ConfigurationHelpers::setLists()
     QCOMPARE(parent.lastChildElement().tagName(), u"Names"_s);
 }
 
-void tst_ConfigurationHelpers::descriptionElement()
+void tst_configurationhelpers::descriptionElement()
 {
     HelperFile file;
     const QDomElement element = file.append("<Description x=\"1\"><Other/></Description>");
@@ -488,7 +488,7 @@ void tst_ConfigurationHelpers::descriptionElement()
     QVERIFY(read == CDescriptionElement());
 }
 
-void tst_ConfigurationHelpers::deviceElementOfOtherTag()
+void tst_configurationhelpers::deviceElementOfOtherTag()
 {
     HelperFile file;
     CDeviceElement device = SampleConfiguration::device();
@@ -503,7 +503,7 @@ void tst_ConfigurationHelpers::deviceElementOfOtherTag()
     QVERIFY(device == SampleConfiguration::device());
 }
 
-void tst_ConfigurationHelpers::buildersIntoNull_data()
+void tst_configurationhelpers::buildersIntoNull_data()
 {
     QTest::addColumn<QString>("builder");
 
@@ -514,7 +514,7 @@ void tst_ConfigurationHelpers::buildersIntoNull_data()
     }
 }
 
-void tst_ConfigurationHelpers::buildersIntoNull()
+void tst_configurationhelpers::buildersIntoNull()
 {
     QFETCH(QString, builder);
 
@@ -542,5 +542,5 @@ void tst_ConfigurationHelpers::buildersIntoNull()
     QCOMPARE(file.bytes(), before);
 }
 
-REGISTER_GUILESS_TEST(tst_ConfigurationHelpers)
+REGISTER_GUILESS_TEST(tst_configurationhelpers)
 #include "tst_configurationhelpers.moc"

@@ -48,7 +48,7 @@ QStringList portrait(const QString &root)
 
 } // namespace
 
-class tst_CStagedTree : public QObject
+class tst_cstagedtree : public QObject
 {
     Q_OBJECT
 
@@ -486,5 +486,5 @@ private slots:
     }
 };
 
-REGISTER_GUILESS_TEST(tst_CStagedTree)
+REGISTER_GUILESS_TEST(tst_cstagedtree)
 #include "tst_cstagedtree.moc"

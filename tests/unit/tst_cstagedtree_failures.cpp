@@ -17,7 +17,7 @@
 using namespace StagedTrees;
 
 /** What is left when a tree cannot be made: sources that change, full disks, other runs. */
-class tst_CStagedTree_failures : public QObject
+class tst_cstagedtree_failures : public QObject
 {
     Q_OBJECT
 
@@ -312,5 +312,5 @@ private slots:
     }
 };
 
-REGISTER_GUILESS_TEST(tst_CStagedTree_failures)
+REGISTER_GUILESS_TEST(tst_cstagedtree_failures)
 #include "tst_cstagedtree_failures.moc"

@@ -63,7 +63,7 @@ using Change = std::function<void(const QDir &root)>;
 Q_DECLARE_METATYPE(Change)
 
 /** What is missing, surplus or changed in a tree or an archive. */
-class tst_CStagedTree_verify : public QObject
+class tst_cstagedtree_verify : public QObject
 {
     Q_OBJECT
 
@@ -390,5 +390,5 @@ private slots:
     }
 };
 
-REGISTER_GUILESS_TEST(tst_CStagedTree_verify)
+REGISTER_GUILESS_TEST(tst_cstagedtree_verify)
 #include "tst_cstagedtree_verify.moc"

@@ -95,7 +95,7 @@ QByteArray documentWith(const QList<SEntry> &entries)
 
 Q_DECLARE_METATYPE(SEntry)
 
-class tst_CStagingPlan : public QObject
+class tst_cstagingplan : public QObject
 {
     Q_OBJECT
 
@@ -611,5 +611,5 @@ private slots:
     }
 };
 
-REGISTER_GUILESS_TEST(tst_CStagingPlan)
+REGISTER_GUILESS_TEST(tst_cstagingplan)
 #include "tst_cstagingplan.moc"

@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-class tst_CStr : public QObject
+class tst_cstr : public QObject
 {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ private slots:
     void withoutOk();
 };
 
-void tst_CStr::revision_data()
+void tst_cstr::revision_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<quint32>("number");
@@ -35,7 +35,7 @@ void tst_CStr::revision_data()
     QTest::newRow("largest") << QStringLiteral("4293.999.999") << 4293999999u;
 }
 
-void tst_CStr::revision()
+void tst_cstr::revision()
 {
     QFETCH(QString, text);
     bool ok = false;
@@ -43,7 +43,7 @@ void tst_CStr::revision()
     QVERIFY(ok);
 }
 
-void tst_CStr::order_data()
+void tst_cstr::order_data()
 {
     QTest::addColumn<QString>("lower");
     QTest::addColumn<QString>("higher");
@@ -62,7 +62,7 @@ void tst_CStr::order_data()
     }
 }
 
-void tst_CStr::order()
+void tst_cstr::order()
 {
     QFETCH(QString, lower);
     QFETCH(QString, higher);
@@ -73,7 +73,7 @@ void tst_CStr::order()
     QVERIFY(higherOk);
 }
 
-void tst_CStr::reject_data()
+void tst_cstr::reject_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -113,7 +113,7 @@ void tst_CStr::reject_data()
     QTest::newRow("null character behind") << QStringLiteral("1.0") + QChar(QChar::Null);
 }
 
-void tst_CStr::reject()
+void tst_cstr::reject()
 {
     QFETCH(QString, text);
     bool ok = true;
@@ -121,11 +121,11 @@ void tst_CStr::reject()
     QVERIFY(!ok);
 }
 
-void tst_CStr::withoutOk()
+void tst_cstr::withoutOk()
 {
     QCOMPARE(CStr::stringToRevision(QStringLiteral("2.3")), 2003000u);
     QCOMPARE(CStr::stringToRevision(QStringLiteral("2.3x")), 0u);
 }
 
-REGISTER_GUILESS_TEST(tst_CStr)
+REGISTER_GUILESS_TEST(tst_cstr)
 #include "tst_cstr.moc"

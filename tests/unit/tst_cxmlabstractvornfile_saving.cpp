@@ -16,7 +16,7 @@
 using namespace SampleXmlFile;
 
 /** What is written, and what stays when it cannot be. */
-class tst_CXmlAbstractVornFile_saving : public QObject
+class tst_cxmlabstractvornfile_saving : public QObject
 {
     Q_OBJECT
 
@@ -61,13 +61,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_CXmlAbstractVornFile_saving::init()
+void tst_cxmlabstractvornfile_saving::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_CXmlAbstractVornFile_saving::layout()
+void tst_cxmlabstractvornfile_saving::layout()
 {
     TestFile file;
     QVERIFY(file.createNewDocument(Type, Version));
@@ -91,7 +91,7 @@ void tst_CXmlAbstractVornFile_saving::layout()
                       " </Device>\n"));
 }
 
-void tst_CXmlAbstractVornFile_saving::markupSetByHandle_data()
+void tst_cxmlabstractvornfile_saving::markupSetByHandle_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("value");
@@ -119,7 +119,7 @@ void tst_CXmlAbstractVornFile_saving::markupSetByHandle_data()
     row("attribute name with a quote", "attribute", "a\"", false);
 }
 
-void tst_CXmlAbstractVornFile_saving::markupSetByHandle()
+void tst_cxmlabstractvornfile_saving::markupSetByHandle()
 {
     QFETCH(QString, kind);
     QFETCH(QString, value);
@@ -157,7 +157,7 @@ void tst_CXmlAbstractVornFile_saving::markupSetByHandle()
     }
 }
 
-void tst_CXmlAbstractVornFile_saving::unwritableText_data()
+void tst_cxmlabstractvornfile_saving::unwritableText_data()
 {
     QTest::addColumn<QString>("value");
 
@@ -178,7 +178,7 @@ void tst_CXmlAbstractVornFile_saving::unwritableText_data()
     QTest::newRow("U+FFFF") << QString(QChar(0xffff));
 }
 
-void tst_CXmlAbstractVornFile_saving::unwritableText()
+void tst_cxmlabstractvornfile_saving::unwritableText()
 {
     QFETCH(QString, value);
 
@@ -214,7 +214,7 @@ void tst_CXmlAbstractVornFile_saving::unwritableText()
 }
 
 /** Searched from the beginning of the text for each of them, this would not end. */
-void tst_CXmlAbstractVornFile_saving::manyUnwritableCharacters()
+void tst_cxmlabstractvornfile_saving::manyUnwritableCharacters()
 {
     const int half = 500000;
     TestFile file;
@@ -230,7 +230,7 @@ void tst_CXmlAbstractVornFile_saving::manyUnwritableCharacters()
     QVERIFY(buffer.isEmpty());
 }
 
-void tst_CXmlAbstractVornFile_saving::limitsOfSaving_data()
+void tst_cxmlabstractvornfile_saving::limitsOfSaving_data()
 {
     QTest::addColumn<int>("fileSize");
     QTest::addColumn<int>("depth");
@@ -249,7 +249,7 @@ void tst_CXmlAbstractVornFile_saving::limitsOfSaving_data()
 }
 
 /** What could not be read again is not written. */
-void tst_CXmlAbstractVornFile_saving::limitsOfSaving()
+void tst_cxmlabstractvornfile_saving::limitsOfSaving()
 {
     QFETCH(int, fileSize);
     QFETCH(int, depth);
@@ -282,7 +282,7 @@ void tst_CXmlAbstractVornFile_saving::limitsOfSaving()
     }
 }
 
-void tst_CXmlAbstractVornFile_saving::saveTwice()
+void tst_cxmlabstractvornfile_saving::saveTwice()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <A b=\"2\" a=\"1\">x</A>\n")));
@@ -299,7 +299,7 @@ void tst_CXmlAbstractVornFile_saving::saveTwice()
     QCOMPARE(reopened.bytes(), file.bytes());
 }
 
-void tst_CXmlAbstractVornFile_saving::saveAfterChange_data()
+void tst_cxmlabstractvornfile_saving::saveAfterChange_data()
 {
     QTest::addColumn<QByteArray>("content");
 
@@ -311,7 +311,7 @@ void tst_CXmlAbstractVornFile_saving::saveAfterChange_data()
     QTest::newRow("device with an element") << QByteArray(" <Device>\n  <A/>\n </Device>\n");
 }
 
-void tst_CXmlAbstractVornFile_saving::saveAfterChange()
+void tst_cxmlabstractvornfile_saving::saveAfterChange()
 {
     QFETCH(QByteArray, content);
 
@@ -325,7 +325,7 @@ void tst_CXmlAbstractVornFile_saving::saveAfterChange()
     QCOMPARE(reopened.bytes(), saved);
 }
 
-void tst_CXmlAbstractVornFile_saving::saveReplacesFile()
+void tst_cxmlabstractvornfile_saving::saveReplacesFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), QByteArray(100000, 'x')));
@@ -338,7 +338,7 @@ void tst_CXmlAbstractVornFile_saving::saveReplacesFile()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithOtherName()
+void tst_cxmlabstractvornfile_saving::saveWithOtherName()
 {
     TestFile file;
     QVERIFY(file.openBytes(Declaration
@@ -359,7 +359,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithOtherName()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails_data()
+void tst_cxmlabstractvornfile_saving::saveWithOtherNameFails_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -369,7 +369,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails_data()
     QTest::newRow("mark") << text("a><b");
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails()
+void tst_cxmlabstractvornfile_saving::saveWithOtherNameFails()
 {
     QFETCH(QString, name);
 
@@ -383,7 +383,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails()
     QCOMPARE(Files::read(path()), QByteArray("old"));
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithoutDocument()
+void tst_cxmlabstractvornfile_saving::saveWithoutDocument()
 {
     RecordingLog log;
     const MessageCatcher catcher;
@@ -409,7 +409,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithoutDocument()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveFails_data()
+void tst_cxmlabstractvornfile_saving::saveFails_data()
 {
     QTest::addColumn<QString>("relativePath");
 
@@ -418,7 +418,7 @@ void tst_CXmlAbstractVornFile_saving::saveFails_data()
     QTest::newRow("file in place of directory") << text("file/a.3deco");
 }
 
-void tst_CXmlAbstractVornFile_saving::saveFails()
+void tst_cxmlabstractvornfile_saving::saveFails()
 {
     QFETCH(QString, relativePath);
 
@@ -441,7 +441,7 @@ void tst_CXmlAbstractVornFile_saving::saveFails()
     QCOMPARE(Files::read(path(text("elsewhere"))), document(" <Device/>\n"));
 }
 
-void tst_CXmlAbstractVornFile_saving::saveOnFullDisk()
+void tst_cxmlabstractvornfile_saving::saveOnFullDisk()
 {
     const MessageCatcher catcher;
     const QByteArray old = document(" <Old/>\n");
@@ -464,7 +464,7 @@ void tst_CXmlAbstractVornFile_saving::saveOnFullDisk()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveThroughLink()
+void tst_cxmlabstractvornfile_saving::saveThroughLink()
 {
     QVERIFY(QDir(m_directory->path()).mkdir(text("directory")));
     const QString target = path(text("directory/target.3deco"));
@@ -479,7 +479,7 @@ void tst_CXmlAbstractVornFile_saving::saveThroughLink()
     QCOMPARE(Files::names(path(text("directory"))), QStringList{text("target.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveIntoReadOnlyDirectory()
+void tst_cxmlabstractvornfile_saving::saveIntoReadOnlyDirectory()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), QByteArray(1000, 'x')));
@@ -502,7 +502,7 @@ void tst_CXmlAbstractVornFile_saving::saveIntoReadOnlyDirectory()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveReadOnlyFile()
+void tst_cxmlabstractvornfile_saving::saveReadOnlyFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), "old"));
@@ -518,7 +518,7 @@ void tst_CXmlAbstractVornFile_saving::saveReadOnlyFile()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveThatFailsAtTheLastStep()
+void tst_cxmlabstractvornfile_saving::saveThatFailsAtTheLastStep()
 {
     // In a sticky directory everybody may add files, but replace only their own: the new content is
     // complete beside the old, and cannot take its name.
@@ -546,7 +546,7 @@ void tst_CXmlAbstractVornFile_saving::saveThatFailsAtTheLastStep()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::permissions_data()
+void tst_cxmlabstractvornfile_saving::permissions_data()
 {
     QTest::addColumn<int>("mode");
 
@@ -556,7 +556,7 @@ void tst_CXmlAbstractVornFile_saving::permissions_data()
     QTest::newRow("everybody writes") << 0x6066;
 }
 
-void tst_CXmlAbstractVornFile_saving::permissions()
+void tst_cxmlabstractvornfile_saving::permissions()
 {
     QFETCH(int, mode);
     const QFileDevice::Permissions wanted(mode);
@@ -579,7 +579,7 @@ void tst_CXmlAbstractVornFile_saving::permissions()
     QCOMPARE(QFile::permissions(path(text("old"))) & mask, wanted);
 }
 
-void tst_CXmlAbstractVornFile_saving::permissionsOfOldFileStay()
+void tst_cxmlabstractvornfile_saving::permissionsOfOldFileStay()
 {
     const QFileDevice::Permissions mask(0x7077);
     const QFileDevice::Permissions old(0x6020);
@@ -592,5 +592,5 @@ void tst_CXmlAbstractVornFile_saving::permissionsOfOldFileStay()
     QCOMPARE(QFile::permissions(path()) & mask, old);
 }
 
-REGISTER_GUILESS_TEST(tst_CXmlAbstractVornFile_saving)
+REGISTER_GUILESS_TEST(tst_cxmlabstractvornfile_saving)
 #include "tst_cxmlabstractvornfile_saving.moc"

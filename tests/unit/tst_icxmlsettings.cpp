@@ -54,7 +54,7 @@ const QString Sample = QStringLiteral("<S><!--c-->"
 
 } // namespace
 
-class tst_ICXmlSettings : public QObject
+class tst_icxmlsettings : public QObject
 {
     Q_OBJECT
 
@@ -79,7 +79,7 @@ private slots:
     void gettersChangeNothing();
 };
 
-void tst_ICXmlSettings::typeNames_data()
+void tst_icxmlsettings::typeNames_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("typeName");
@@ -113,7 +113,7 @@ void tst_ICXmlSettings::typeNames_data()
         << QVariant(false) << text("BOOLEAN") << TAG_SETTINGS_TYPE_BOOL << TAG_SETTINGS_VAL_FALSE;
 }
 
-void tst_ICXmlSettings::typeNames()
+void tst_icxmlsettings::typeNames()
 {
     QFETCH(QVariant, value);
     QFETCH(QString, typeName);
@@ -132,7 +132,7 @@ void tst_ICXmlSettings::typeNames()
     QCOMPARE(element.text(), valueText);
 }
 
-void tst_ICXmlSettings::roundTrip_data()
+void tst_icxmlsettings::roundTrip_data()
 {
     QTest::addColumn<QVariant>("value");
 
@@ -166,7 +166,7 @@ void tst_ICXmlSettings::roundTrip_data()
     QTest::newRow("BOOLEAN false") << QVariant(false);
 }
 
-void tst_ICXmlSettings::roundTrip()
+void tst_icxmlsettings::roundTrip()
 {
     QFETCH(QVariant, value);
 
@@ -190,7 +190,7 @@ void tst_ICXmlSettings::roundTrip()
     QCOMPARE(other->value(text("n")).userType(), value.userType());
 }
 
-void tst_ICXmlSettings::read_data()
+void tst_icxmlsettings::read_data()
 {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<QString>("valueText");
@@ -204,7 +204,7 @@ void tst_ICXmlSettings::read_data()
         << text("STRING") << text("TRUE") << QVariant(text("TRUE"));
 }
 
-void tst_ICXmlSettings::read()
+void tst_icxmlsettings::read()
 {
     QFETCH(QString, typeName);
     QFETCH(QString, valueText);
@@ -217,7 +217,7 @@ void tst_ICXmlSettings::read()
     QVERIFY(read == value);
 }
 
-void tst_ICXmlSettings::unreadable_data()
+void tst_icxmlsettings::unreadable_data()
 {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<QString>("valueText");
@@ -258,7 +258,7 @@ void tst_ICXmlSettings::unreadable_data()
     row("BOOLEAN as number", "BOOLEAN", "1");
 }
 
-void tst_ICXmlSettings::unreadable()
+void tst_icxmlsettings::unreadable()
 {
     QFETCH(QString, typeName);
     QFETCH(QString, valueText);
@@ -269,7 +269,7 @@ void tst_ICXmlSettings::unreadable()
     QCOMPARE(fixture.settings->names(), QStringList{text("n")});
 }
 
-void tst_ICXmlSettings::refusedTypes_data()
+void tst_icxmlsettings::refusedTypes_data()
 {
     QTest::addColumn<QVariant>("value");
 
@@ -281,7 +281,7 @@ void tst_ICXmlSettings::refusedTypes_data()
     QTest::newRow("map") << QVariant(QVariantMap());
 }
 
-void tst_ICXmlSettings::refusedTypes()
+void tst_icxmlsettings::refusedTypes()
 {
     QFETCH(QVariant, value);
 
@@ -292,7 +292,7 @@ void tst_ICXmlSettings::refusedTypes()
     QCOMPARE(fixture.written(), before);
 }
 
-void tst_ICXmlSettings::refusedNames()
+void tst_icxmlsettings::refusedNames()
 {
     Fixture fixture(Sample);
     const QString before = fixture.written();
@@ -301,7 +301,7 @@ void tst_ICXmlSettings::refusedNames()
     QCOMPARE(fixture.written(), before);
 }
 
-void tst_ICXmlSettings::nullElement()
+void tst_icxmlsettings::nullElement()
 {
     const std::unique_ptr<ICXmlSettings> settings(ICXmlSettings::instance(QDomElement()));
     QVERIFY(settings != nullptr);
@@ -311,7 +311,7 @@ void tst_ICXmlSettings::nullElement()
     QVERIFY(!settings->remove(text("a")));
 }
 
-void tst_ICXmlSettings::names()
+void tst_icxmlsettings::names()
 {
     Fixture fixture(Sample);
     QCOMPARE(fixture.settings->names(), (QStringList{text("a"), text("b")}));
@@ -323,7 +323,7 @@ void tst_ICXmlSettings::names()
     QCOMPARE(fixture.settings->value(text("A")), QVariant(1));
 }
 
-void tst_ICXmlSettings::replaces()
+void tst_icxmlsettings::replaces()
 {
     Fixture fixture(Sample);
     QVERIFY(fixture.settings->setValue(text("a"), QVariant(true)));
@@ -335,7 +335,7 @@ void tst_ICXmlSettings::replaces()
     QVERIFY(fixture.document.documentElement().firstChild().isComment());
 }
 
-void tst_ICXmlSettings::unitAndComment()
+void tst_icxmlsettings::unitAndComment()
 {
     Fixture fixture(Sample);
     QCOMPARE(fixture.settings->unit(text("a")), text("mm"));
@@ -355,7 +355,7 @@ void tst_ICXmlSettings::unitAndComment()
     QCOMPARE(fixture.settings->unit(text("a")), text("mm"));
 }
 
-void tst_ICXmlSettings::unknownName()
+void tst_icxmlsettings::unknownName()
 {
     Fixture fixture(Sample);
     const QString before = fixture.written();
@@ -370,7 +370,7 @@ void tst_ICXmlSettings::unknownName()
     QCOMPARE(fixture.written(), before);
 }
 
-void tst_ICXmlSettings::remove()
+void tst_icxmlsettings::remove()
 {
     Fixture fixture(Sample);
     QVERIFY(fixture.settings->remove(text("a")));
@@ -380,7 +380,7 @@ void tst_ICXmlSettings::remove()
     QVERIFY(!fixture.document.documentElement().firstChildElement(text("Other")).isNull());
 }
 
-void tst_ICXmlSettings::gettersChangeNothing()
+void tst_icxmlsettings::gettersChangeNothing()
 {
     const Fixture fixture(Sample);
     const QString before = fixture.written();
@@ -393,5 +393,5 @@ void tst_ICXmlSettings::gettersChangeNothing()
     QCOMPARE(fixture.written(), before);
 }
 
-REGISTER_GUILESS_TEST(tst_ICXmlSettings)
+REGISTER_GUILESS_TEST(tst_icxmlsettings)
 #include "tst_icxmlsettings.moc"

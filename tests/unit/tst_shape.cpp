@@ -196,7 +196,7 @@ QVector<const SNode *> withWords(const SNode &node)
 } // namespace
 
 /** The schemas and pages are those of the document that the description describes. */
-class tst_Shape : public QObject
+class tst_shape : public QObject
 {
     Q_OBJECT
 
@@ -214,7 +214,7 @@ private:
     void checkXml(const XmlSchema &schema, const SNode &node, const QDomElement &type);
 };
 
-void tst_Shape::checkXml(const XmlSchema &schema, const SNode &node, const QDomElement &type)
+void tst_shape::checkXml(const XmlSchema &schema, const SNode &node, const QDomElement &type)
 {
     QVERIFY2(!type.isNull(), qPrintable(node.tag + node.word));
     QStringList elements = XmlSchema::names(type, u"xs:element"_s);
@@ -256,13 +256,13 @@ void tst_Shape::checkXml(const XmlSchema &schema, const SNode &node, const QDomE
     }
 }
 
-void tst_Shape::xmlSchema()
+void tst_shape::xmlSchema()
 {
     const XmlSchema schema;
     checkXml(schema, root(), schema.typeOf(schema.named(u"xs:element"_s, root().tag)));
 }
 
-void tst_Shape::xmlEnumerations_data()
+void tst_shape::xmlEnumerations_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QStringList>("expected");
@@ -274,14 +274,14 @@ void tst_Shape::xmlEnumerations_data()
     }
 }
 
-void tst_Shape::xmlEnumerations()
+void tst_shape::xmlEnumerations()
 {
     QFETCH(QString, type);
     QFETCH(QStringList, expected);
     QCOMPARE(sorted(XmlSchema().enumeration(type)), sorted(expected));
 }
 
-void tst_Shape::jsonSchema_data()
+void tst_shape::jsonSchema_data()
 {
     QTest::addColumn<QString>("definition");
     QTest::addColumn<QString>("path");
@@ -297,7 +297,7 @@ void tst_Shape::jsonSchema_data()
     QTest::newRow("single file") << u"file"_s << u"device.dictionary"_s;
 }
 
-void tst_Shape::jsonSchema()
+void tst_shape::jsonSchema()
 {
     QFETCH(QString, definition);
     QFETCH(QString, path);
@@ -374,7 +374,7 @@ void collectWords(const SNode &node, QStringList &words)
 } // namespace
 
 /** The page on the format describes each element. */
-void tst_Shape::grammar()
+void tst_shape::grammar()
 {
     const QString page = QString::fromUtf8(source(u"docs/formats/configuration-document.md"_s));
     const QString grammar = page.section(u"## Grammar"_s, 1).section(u"## How it is read"_s, 0, 0);
@@ -404,7 +404,7 @@ void tst_Shape::grammar()
 }
 
 /** The public header lists each word of a path. */
-void tst_Shape::paths()
+void tst_shape::paths()
 {
     const QString header = QString::fromUtf8(source(u"src/commissioning/CConfigurationItems.h"_s));
     QStringList words;
@@ -417,7 +417,7 @@ void tst_Shape::paths()
 }
 
 /** The page on the rules names what can be written instead of something unknown. */
-void tst_Shape::rules()
+void tst_shape::rules()
 {
     const QString page = QString::fromUtf8(source(u"docs/rules.md"_s));
     for (const EValue kind : {EValue::DEVICE_CLASS, EValue::DRIVE_TYPE}) {
@@ -427,5 +427,5 @@ void tst_Shape::rules()
     }
 }
 
-REGISTER_GUILESS_TEST(tst_Shape)
+REGISTER_GUILESS_TEST(tst_shape)
 #include "tst_shape.moc"

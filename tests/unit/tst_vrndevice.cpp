@@ -16,7 +16,7 @@ const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
 } // namespace
 
 /** The commands on the configuration document, and what all commands have in common. */
-class tst_VrnDevice : public QObject
+class tst_vrndevice : public QObject
 {
     Q_OBJECT
 
@@ -51,18 +51,18 @@ private:
     QScopedPointer<QTemporaryDir> m_directory;
 };
 
-void tst_VrnDevice::init()
+void tst_vrndevice::init()
 {
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
 }
 
-void tst_VrnDevice::copyExample()
+void tst_vrndevice::copyExample()
 {
     QVERIFY(Tool::copyExample(FileName, m_directory->path()));
 }
 
-void tst_VrnDevice::usage_data()
+void tst_vrndevice::usage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
@@ -122,7 +122,7 @@ void tst_VrnDevice::usage_data()
     row("no number", "add-drive x --type KD3_drive --id first", 2, "", "0 to 254");
 }
 
-void tst_VrnDevice::usage()
+void tst_vrndevice::usage()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
@@ -137,7 +137,7 @@ void tst_VrnDevice::usage()
     QVERIFY(QDir(m_directory->path()).isEmpty());
 }
 
-void tst_VrnDevice::helpOfEveryCommand()
+void tst_vrndevice::helpOfEveryCommand()
 {
     for (const char *name :
          {"add",           "add-drive",     "apply",        "check",   "diff",
@@ -157,7 +157,7 @@ void tst_VrnDevice::helpOfEveryCommand()
     }
 }
 
-void tst_VrnDevice::newCreatesAConfiguration()
+void tst_vrndevice::newCreatesAConfiguration()
 {
     const SResult result =
         run({QStringLiteral("new"), path(), QStringLiteral("--class"), QStringLiteral("kc2"),
@@ -174,7 +174,7 @@ void tst_VrnDevice::newCreatesAConfiguration()
     QCOMPARE(file.description().name(), QStringLiteral("Hügel"));
 }
 
-void tst_VrnDevice::newKeepsAnExistingFile()
+void tst_vrndevice::newKeepsAnExistingFile()
 {
     copyExample();
     const QByteArray before = Files::read(path());
@@ -185,7 +185,7 @@ void tst_VrnDevice::newKeepsAnExistingFile()
     QCOMPARE(Files::read(path()), before);
 }
 
-void tst_VrnDevice::newReportsWhatCannotBeWritten()
+void tst_vrndevice::newReportsWhatCannotBeWritten()
 {
     const SResult result = run({QStringLiteral("new"), QStringLiteral("missing/x.3deco"),
                                 QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
@@ -194,7 +194,7 @@ void tst_VrnDevice::newReportsWhatCannotBeWritten()
     QVERIFY(result.output.isEmpty());
 }
 
-void tst_VrnDevice::showPrintsATree()
+void tst_vrndevice::showPrintsATree()
 {
     copyExample();
     const SResult result = run({QStringLiteral("show"), path()});
@@ -210,7 +210,7 @@ void tst_VrnDevice::showPrintsATree()
     }
 }
 
-void tst_VrnDevice::showPrintsJson()
+void tst_vrndevice::showPrintsJson()
 {
     copyExample();
     const SResult result = run({QStringLiteral("show"), QStringLiteral("--json"), path()});
@@ -228,7 +228,7 @@ void tst_VrnDevice::showPrintsJson()
     }
 }
 
-void tst_VrnDevice::addDriveTakesTheNextFreeNumber()
+void tst_vrndevice::addDriveTakesTheNextFreeNumber()
 {
     copyExample();
     const SResult result =
@@ -245,7 +245,7 @@ void tst_VrnDevice::addDriveTakesTheNextFreeNumber()
     QVERIFY(device.subDevice(3).isKD3());
 }
 
-void tst_VrnDevice::addDriveWithNumberAndName()
+void tst_vrndevice::addDriveWithNumberAndName()
 {
     copyExample();
     const SResult result =
@@ -258,7 +258,7 @@ void tst_VrnDevice::addDriveWithNumberAndName()
     QCOMPARE(drive.value(QStringLiteral("type")).toString(), QStringLiteral("KD2_drive"));
 }
 
-void tst_VrnDevice::addDriveRefusesANumberInUse()
+void tst_vrndevice::addDriveRefusesANumberInUse()
 {
     copyExample();
     const QByteArray before = Files::read(path());
@@ -269,7 +269,7 @@ void tst_VrnDevice::addDriveRefusesANumberInUse()
     QCOMPARE(Files::read(path()), before);
 }
 
-void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
+void tst_vrndevice::addDriveKeepsTheRestOfTheDocument()
 {
     copyExample();
     QByteArray content = Files::read(path());
@@ -294,7 +294,7 @@ void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
     QCOMPARE(Files::read(path()), content);
 }
 
-void tst_VrnDevice::placeListsEveryFile()
+void tst_vrndevice::placeListsEveryFile()
 {
     copyExample();
     CDeviceConfigurationFile10 file(nullptr);
@@ -327,7 +327,7 @@ void tst_VrnDevice::placeListsEveryFile()
              QStringLiteral("/velkor/configurations/STD/conf/"));
 }
 
-void tst_VrnDevice::unreadableInput_data()
+void tst_vrndevice::unreadableInput_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QByteArray>("content");
@@ -349,7 +349,7 @@ void tst_VrnDevice::unreadableInput_data()
     }
 }
 
-void tst_VrnDevice::unreadableInput()
+void tst_vrndevice::unreadableInput()
 {
     QFETCH(QString, command);
     QFETCH(QByteArray, content);
@@ -366,7 +366,7 @@ void tst_VrnDevice::unreadableInput()
     QCOMPARE(Files::read(path()), content);
 }
 
-void tst_VrnDevice::exampleIsComplete()
+void tst_vrndevice::exampleIsComplete()
 {
     const QDir project = Tool::exampleDirectory();
     CDeviceConfigurationFile10 file(nullptr);
@@ -384,5 +384,5 @@ void tst_VrnDevice::exampleIsComplete()
     QCOMPARE(saved, Files::read(project.filePath(FileName)));
 }
 
-REGISTER_GUILESS_TEST(tst_VrnDevice)
+REGISTER_GUILESS_TEST(tst_vrndevice)
 #include "tst_vrndevice.moc"

@@ -57,7 +57,7 @@ SResult runProgram(const QString &directory, const QString &program, const QStri
 } // namespace
 
 /** The commands that compare, patch and merge configurations, also as git runs them. */
-class tst_VrnDeviceCompare : public QObject
+class tst_vrndevice_compare : public QObject
 {
     Q_OBJECT
 
@@ -113,13 +113,13 @@ private:
     QScopedPointer<QTemporaryDir> m_directory;
 };
 
-void tst_VrnDeviceCompare::init()
+void tst_vrndevice_compare::init()
 {
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
 }
 
-void tst_VrnDeviceCompare::usage_data()
+void tst_vrndevice_compare::usage_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("errors");
@@ -136,7 +136,7 @@ void tst_VrnDeviceCompare::usage_data()
     QTest::newRow("merge, two outputs by option") << u"merge --json -o - a b c"_s << u"--json"_s;
 }
 
-void tst_VrnDeviceCompare::usage()
+void tst_vrndevice_compare::usage()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, errors);
@@ -146,7 +146,7 @@ void tst_VrnDeviceCompare::usage()
     QVERIFY(result.output.isEmpty());
 }
 
-void tst_VrnDeviceCompare::unreadable_data()
+void tst_vrndevice_compare::unreadable_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("errors");
@@ -163,7 +163,7 @@ void tst_VrnDeviceCompare::unreadable_data()
     QTest::newRow("merge, theirs") << u"merge a a bad"_s << u"bad:1:1: "_s;
 }
 
-void tst_VrnDeviceCompare::unreadable()
+void tst_vrndevice_compare::unreadable()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, errors);
@@ -180,7 +180,7 @@ void tst_VrnDeviceCompare::unreadable()
     QCOMPARE(Files::names(m_directory->path()), QStringList({u"a"_s, u"bad"_s, u"patch"_s}));
 }
 
-void tst_VrnDeviceCompare::diffOfEqualOnesIsEmpty()
+void tst_vrndevice_compare::diffOfEqualOnesIsEmpty()
 {
     write(u"a"_s, {});
     write(u"b"_s, {"<Device>|<!-- a comment -->\n\n<Device>"});
@@ -193,7 +193,7 @@ void tst_VrnDeviceCompare::diffOfEqualOnesIsEmpty()
     QCOMPARE(json.json().value(u"changes"_s), QJsonValue(QJsonArray()));
 }
 
-void tst_VrnDeviceCompare::diffTellsChanges()
+void tst_vrndevice_compare::diffTellsChanges()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper, "-trace |", withFile("größe.csv")});
@@ -206,7 +206,7 @@ void tst_VrnDeviceCompare::diffTellsChanges()
     QCOMPARE(result.errors, QString());
 }
 
-void tst_VrnDeviceCompare::diffPrintsAPatch()
+void tst_vrndevice_compare::diffPrintsAPatch()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -220,7 +220,7 @@ void tst_VrnDeviceCompare::diffPrintsAPatch()
     QCOMPARE(changes.at(0).toObject().value(u"path"_s).toString(), u"drive[2].name"_s);
 }
 
-void tst_VrnDeviceCompare::diffReadsStandardInput()
+void tst_vrndevice_compare::diffReadsStandardInput()
 {
     write(u"a"_s, {});
     const QByteArray other = changed(example(), {Gripper});
@@ -231,7 +231,7 @@ void tst_VrnDeviceCompare::diffReadsStandardInput()
     QCOMPARE(result.output, u"drive 2: name GRIPPER -> Gluer\n"_s);
 }
 
-void tst_VrnDeviceCompare::applyMakesTheChanges()
+void tst_vrndevice_compare::applyMakesTheChanges()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper, withFile("r.csv")});
@@ -257,14 +257,14 @@ void tst_VrnDeviceCompare::applyMakesTheChanges()
                           {u"mismatches"_s, QJsonArray()}}));
 }
 
-void tst_VrnDeviceCompare::applyReadsStandardInput_data()
+void tst_vrndevice_compare::applyReadsStandardInput_data()
 {
     QTest::addColumn<bool>("isPatch");
     QTest::newRow("the patch") << true;
     QTest::newRow("the configuration") << false;
 }
 
-void tst_VrnDeviceCompare::applyReadsStandardInput()
+void tst_vrndevice_compare::applyReadsStandardInput()
 {
     QFETCH(bool, isPatch);
     write(u"a"_s, {});
@@ -281,7 +281,7 @@ void tst_VrnDeviceCompare::applyReadsStandardInput()
     }
 }
 
-void tst_VrnDeviceCompare::applySavesElsewhere()
+void tst_vrndevice_compare::applySavesElsewhere()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -294,7 +294,7 @@ void tst_VrnDeviceCompare::applySavesElsewhere()
     QCOMPARE(printed.output.toUtf8(), Files::read(path(u"b"_s)));
 }
 
-void tst_VrnDeviceCompare::applyToAnotherConfiguration()
+void tst_vrndevice_compare::applyToAnotherConfiguration()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper, Stacker});
@@ -320,7 +320,7 @@ void tst_VrnDeviceCompare::applyToAnotherConfiguration()
     QCOMPARE(Files::read(path(u"c"_s)), before);
 }
 
-void tst_VrnDeviceCompare::applyTriesOnly()
+void tst_vrndevice_compare::applyTriesOnly()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -334,7 +334,7 @@ void tst_VrnDeviceCompare::applyTriesOnly()
     QCOMPARE(result.exitCode, 1);
 }
 
-void tst_VrnDeviceCompare::applyThatCannotSave()
+void tst_vrndevice_compare::applyThatCannotSave()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -345,7 +345,7 @@ void tst_VrnDeviceCompare::applyThatCannotSave()
     QCOMPARE(result.output, QString());
 }
 
-void tst_VrnDeviceCompare::mergeIntoOurs()
+void tst_vrndevice_compare::mergeIntoOurs()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {Stacker});
@@ -361,7 +361,7 @@ void tst_VrnDeviceCompare::mergeIntoOurs()
     QCOMPARE(run({u"diff"_s, u"ours"_s, u"expected"_s}).exitCode, 0);
 }
 
-void tst_VrnDeviceCompare::mergeThatTakesNothing()
+void tst_vrndevice_compare::mergeThatTakesNothing()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {"<Device>|<Device   >", Stacker});
@@ -372,7 +372,7 @@ void tst_VrnDeviceCompare::mergeThatTakesNothing()
     QCOMPARE(Files::read(path(u"ours"_s)), ours);
 }
 
-void tst_VrnDeviceCompare::mergeElsewhere()
+void tst_vrndevice_compare::mergeElsewhere()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {Stacker});
@@ -384,7 +384,7 @@ void tst_VrnDeviceCompare::mergeElsewhere()
     QCOMPARE(Files::read(path(u"out"_s)), ours);
 }
 
-void tst_VrnDeviceCompare::mergeToStandardOutput()
+void tst_vrndevice_compare::mergeToStandardOutput()
 {
     write(u"base"_s, {});
     write(u"theirs"_s, {Gripper});
@@ -395,7 +395,7 @@ void tst_VrnDeviceCompare::mergeToStandardOutput()
     QVERIFY(result.errors.contains(u"drive 2: name: base Gluer, ours CLAMP, theirs GRIPPER"_s));
 }
 
-void tst_VrnDeviceCompare::mergeWithConflicts()
+void tst_vrndevice_compare::mergeWithConflicts()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {Gripper});
@@ -427,7 +427,7 @@ void tst_VrnDeviceCompare::mergeWithConflicts()
                   {u"details"_s, QJsonArray{u"file recipes.csv: comment Box formats -> All"_s}}}));
 }
 
-void tst_VrnDeviceCompare::mergeThatCannotSave()
+void tst_vrndevice_compare::mergeThatCannotSave()
 {
     write(u"base"_s, {});
     write(u"theirs"_s, {Gripper});
@@ -438,7 +438,7 @@ void tst_VrnDeviceCompare::mergeThatCannotSave()
     QCOMPARE(Files::read(path(u"base"_s)), example());
 }
 
-bool tst_VrnDeviceCompare::commit(const QList<QByteArray> &replacements) const
+bool tst_vrndevice_compare::commit(const QList<QByteArray> &replacements) const
 {
     const QByteArray content = changed(example(), replacements);
     return !content.isEmpty() && Files::write(path(u"line.3deco"_s), content)
@@ -447,7 +447,7 @@ bool tst_VrnDeviceCompare::commit(const QList<QByteArray> &replacements) const
 }
 
 /** A repository that is set up as docs/merging.md tells, with the example in it. */
-bool tst_VrnDeviceCompare::startRepository() const
+bool tst_vrndevice_compare::startRepository() const
 {
     const QString tool = u"'%1'"_s.arg(Tool::program());
     const QList<QStringList> settings = {
@@ -469,8 +469,8 @@ bool tst_VrnDeviceCompare::startRepository() const
 }
 
 /** Two branches that start from the example; "ours" is in hand. */
-bool tst_VrnDeviceCompare::branch(const QList<QByteArray> &ours,
-                                  const QList<QByteArray> &theirs) const
+bool tst_vrndevice_compare::branch(const QList<QByteArray> &ours,
+                                   const QList<QByteArray> &theirs) const
 {
     return startRepository() && git({u"checkout"_s, u"-q"_s, u"-b"_s, u"theirs"_s}).exitCode == 0
         && commit(theirs) && git({u"checkout"_s, u"-q"_s, u"ours"_s}).exitCode == 0 && commit(ours);
@@ -481,7 +481,7 @@ bool tst_VrnDeviceCompare::branch(const QList<QByteArray> &ours,
         QSKIP("git is not installed", 0); \
     }
 
-void tst_VrnDeviceCompare::gitMergesWhatLinesCannot()
+void tst_vrndevice_compare::gitMergesWhatLinesCannot()
 {
     NEED_GIT()
     QVERIFY(branch({withFile("ours.csv")}, {withFile("theirs.csv")}));
@@ -499,7 +499,7 @@ void tst_VrnDeviceCompare::gitMergesWhatLinesCannot()
     QCOMPARE(run({u"diff"_s, u"line.3deco"_s, u"expected"_s}).output, QString());
 }
 
-void tst_VrnDeviceCompare::gitReportsAConflict()
+void tst_vrndevice_compare::gitReportsAConflict()
 {
     NEED_GIT()
     QVERIFY(branch({Gripper}, {Clamp, Stacker}));
@@ -515,7 +515,7 @@ void tst_VrnDeviceCompare::gitReportsAConflict()
     QVERIFY(file.open(path(u"line.3deco"_s)));
 }
 
-void tst_VrnDeviceCompare::gitKeepsOursThatCannotBeRead()
+void tst_vrndevice_compare::gitKeepsOursThatCannotBeRead()
 {
     NEED_GIT()
     QVERIFY(branch({Gripper}, {"<Device>|<Devic>"}));
@@ -525,7 +525,7 @@ void tst_VrnDeviceCompare::gitKeepsOursThatCannotBeRead()
     QCOMPARE(Files::read(path(u"line.3deco"_s)), changed(example(), {Gripper}));
 }
 
-void tst_VrnDeviceCompare::gitShowsItems()
+void tst_vrndevice_compare::gitShowsItems()
 {
     NEED_GIT()
     QVERIFY(startRepository());
@@ -536,7 +536,7 @@ void tst_VrnDeviceCompare::gitShowsItems()
              qPrintable(result.output));
 }
 
-void tst_VrnDeviceCompare::gitShowsDifferences()
+void tst_vrndevice_compare::gitShowsDifferences()
 {
     NEED_GIT()
     QVERIFY(startRepository());
@@ -546,5 +546,5 @@ void tst_VrnDeviceCompare::gitShowsDifferences()
              qPrintable(result.output + result.errors));
 }
 
-REGISTER_GUILESS_TEST(tst_VrnDeviceCompare)
+REGISTER_GUILESS_TEST(tst_vrndevice_compare)
 #include "tst_vrndevice_compare.moc"

@@ -262,7 +262,7 @@ private:
  * Each field of an element is in the description of the document, and each item of the description
  * is found by all that works on documents.
  */
-class tst_VrnDeviceFields : public QObject
+class tst_vrndevice_fields : public QObject
 {
     Q_OBJECT
 
@@ -293,13 +293,13 @@ private:
     QMap<QString, QString> m_outputs;
 };
 
-void tst_VrnDeviceFields::init()
+void tst_vrndevice_fields::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(write(u"sample.3deco"_s, sample()));
 }
 
-void tst_VrnDeviceFields::fields_data()
+void tst_vrndevice_fields::fields_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QStringList>("paths");
@@ -318,7 +318,7 @@ void tst_VrnDeviceFields::fields_data()
     }
 }
 
-void tst_VrnDeviceFields::fields()
+void tst_vrndevice_fields::fields()
 {
     QFETCH(QString, field);
     QFETCH(QStringList, paths);
@@ -329,7 +329,7 @@ void tst_VrnDeviceFields::fields()
 }
 
 /** Rows of the tables above that no field has. */
-void tst_VrnDeviceFields::tablesNameFields()
+void tst_vrndevice_fields::tablesNameFields()
 {
     QStringList names = Paths.keys() + NotInDocument.keys();
     for (const SElementClass &element : Classes) {
@@ -340,7 +340,7 @@ void tst_VrnDeviceFields::tablesNameFields()
     QCOMPARE(names, QStringList());
 }
 
-void tst_VrnDeviceFields::consumers_data()
+void tst_vrndevice_fields::consumers_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("samplePath");
@@ -356,7 +356,7 @@ void tst_VrnDeviceFields::consumers_data()
 }
 
 /** What 'get', 'set', 'diff' and 'merge' make of the document "changed.3deco". */
-void tst_VrnDeviceFields::checkDifference(const QString &path, const QString &value)
+void tst_vrndevice_fields::checkDifference(const QString &path, const QString &value)
 {
     QFETCH(QString, samplePath);
     const QString sampleName = u"sample.3deco"_s;
@@ -381,7 +381,7 @@ void tst_VrnDeviceFields::checkDifference(const QString &path, const QString &va
 }
 
 /** What shows a whole document; each without findings, which quote values, too. */
-void tst_VrnDeviceFields::checkShown(const QString &value)
+void tst_vrndevice_fields::checkShown(const QString &value)
 {
     const QList<QStringList> commands = {
         {u"show"_s, u"--json"_s}, {hasPlace(value) ? u"tree"_s : u"show"_s}, {u"report"_s}};
@@ -396,7 +396,7 @@ void tst_VrnDeviceFields::checkShown(const QString &value)
     }
 }
 
-QString tst_VrnDeviceFields::shown(const QStringList &command, const QString &name) const
+QString tst_vrndevice_fields::shown(const QStringList &command, const QString &name) const
 {
     if (command.first() != u"report"_s) {
         return run(command + QStringList(name)).output;
@@ -408,7 +408,7 @@ QString tst_VrnDeviceFields::shown(const QStringList &command, const QString &na
     return QString::fromUtf8(CConfigurationReport(overview).toHtml()).remove(u"<wbr/>"_s);
 }
 
-void tst_VrnDeviceFields::consumers()
+void tst_vrndevice_fields::consumers()
 {
     QFETCH(QString, path);
     QFETCH(QString, value);
@@ -432,7 +432,7 @@ void tst_VrnDeviceFields::consumers()
 }
 
 /** They are one text, in which an entry has no element of its own. */
-void tst_VrnDeviceFields::startOptions()
+void tst_vrndevice_fields::startOptions()
 {
     QVERIFY(write(u"changed.3deco"_s, sample().replace("-v -log -opc", "-v -log altered -opc")));
     QCOMPARE(run({u"get"_s, u"changed.3deco"_s, u"device.options[-log]"_s}).output.trimmed(),
@@ -443,5 +443,5 @@ void tst_VrnDeviceFields::startOptions()
     checkShown(u"altered"_s);
 }
 
-REGISTER_GUILESS_TEST(tst_VrnDeviceFields)
+REGISTER_GUILESS_TEST(tst_vrndevice_fields)
 #include "tst_vrndevice_fields.moc"

@@ -13,7 +13,7 @@
 #include <signal.h>
 #include <sys/stat.h>
 
-class tst_VrnDeviceStaging : public QObject
+class tst_vrndevice_staging : public QObject
 {
     Q_OBJECT
 
@@ -363,5 +363,5 @@ private slots:
     }
 };
 
-REGISTER_GUILESS_TEST(tst_VrnDeviceStaging)
+REGISTER_GUILESS_TEST(tst_vrndevice_staging)
 #include "tst_vrndevice_staging.moc"
