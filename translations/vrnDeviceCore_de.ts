@@ -12,8 +12,416 @@
         <translation>%1: Dieses Verzeichnis gibt es nicht.</translation>
     </message>
     <message>
+        <source>The document has no device.</source>
+        <translation>Das Dokument enthält kein Gerät.</translation>
+    </message>
+    <message>
+        <source>an element &apos;%1&apos;</source>
+        <translation>ein Element &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>Without a device there is nothing to be commissioned.</source>
+        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
+    </message>
+    <message>
+        <source>The configuration was revised before it was created.</source>
+        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
+    </message>
+    <message>
+        <source>%1 or later</source>
+        <translation>%1 oder später</translation>
+    </message>
+    <message>
+        <source>The device has no name.</source>
+        <translation>Das Gerät hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>The name is also that of the device&apos;s directory in the project.</source>
+        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
+    </message>
+    <message>
+        <source>The device has no configuration block.</source>
+        <translation>Das Gerät hat keinen Konfigurationsblock.</translation>
+    </message>
+    <message>
+        <source>The device is read without options, files and plug-ins.</source>
+        <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
+    </message>
+    <message>
+        <source>The device does not tell the name of its configuration.</source>
+        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
+    </message>
+    <message>
+        <source>It is read as &apos;%1&apos;.</source>
+        <translation>Gelesen wird &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Remove the file, or mend the drive&apos;s type.</source>
+        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
+    </message>
+    <message>
+        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
+    </message>
+    <message>
+        <source>prefix, name and platform of &apos;%1&apos;</source>
+        <translation>Präfix, Name und Plattform von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The number %1 is also that of %2.</source>
+        <translation>Die Nummer %1 ist auch die von %2.</translation>
+    </message>
+    <message>
+        <source>a number of its own</source>
+        <translation>eine eigene Nummer</translation>
+    </message>
+    <message>
+        <source>The drive has no name.</source>
+        <translation>Der Antrieb hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>When the drive is read it is named after its number.</source>
+        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; is also that of %2.</source>
+        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
+    </message>
+    <message>
+        <source>a name of its own</source>
+        <translation>ein eigener Name</translation>
+    </message>
+    <message>
+        <source>The bus identifier %1 is also that of %2.</source>
+        <translation>Die Buskennung %1 ist auch die von %2.</translation>
+    </message>
+    <message>
+        <source>an identifier of its own</source>
+        <translation>eine eigene Kennung</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; does not begin with a slash.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; beginnt nicht mit einem Schrägstrich.</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; belongs to the configuration &apos;%2&apos;.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; gehört zur Konfiguration &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>a directory of &apos;%1&apos;</source>
+        <translation>ein Verzeichnis von &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The directory &apos;%1&apos; is not below that of the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
+    </message>
+    <message>
+        <source>a directory below &apos;%1&apos;</source>
+        <translation>ein Verzeichnis unter &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>It is removed when the device is read.</source>
+        <translation>Es wird beim Lesen des Geräts entfernt.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
+        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
+    </message>
+    <message>
+        <source>Remove all but one.</source>
+        <translation>Entfernen Sie alle bis auf eines.</translation>
+    </message>
+    <message>
+        <source>The parameter file &apos;%1&apos; stands more than once.</source>
+        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
+        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>Remove all but one; the first image is the active one.</source>
+        <translation>Entfernen Sie alle bis auf eines; das erste Abbild ist das aktive.</translation>
+    </message>
+    <message>
+        <source>There is more to be found; from here on it is left out.</source>
+        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
+    </message>
+    <message>
+        <source>Mend what is told, then check again.</source>
+        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>The project&apos;s manifest cannot be read: %1</source>
+        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>a manifest as it is made by staging</source>
+        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
+    </message>
+    <message>
+        <source>Make the manifest anew; files are not compared with this one.</source>
+        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
+        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
+    </message>
+    <message>
+        <source>Put back the file, or make the manifest anew.</source>
+        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+    </message>
+    <message>
+        <source>options like -trace with one blank between each two</source>
+        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
+    </message>
+    <message>
+        <source>Options are separated by something other than a blank.</source>
+        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
+    </message>
+    <message>
+        <source>The device takes this for one word.</source>
+        <translation>Das Gerät hält dies für ein Wort.</translation>
+    </message>
+    <message>
+        <source>An option has a hyphen, but no name.</source>
+        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option, and follows none.</source>
+        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
+    </message>
+    <message>
+        <source>An option begins with a hyphen; what follows it is its argument.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
+    </message>
+    <message>
+        <source>The option &apos;%1&apos; stands more than once.</source>
+        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>The OPC UA server is enabled, but the option %1 is missing.</source>
+        <translation>Der OPC-UA-Server ist eingeschaltet, aber die Option %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Add the option %1, or disable the server.</source>
+        <translation>Ergänzen Sie die Option %1, oder schalten Sie den Server aus.</translation>
+    </message>
+    <message>
+        <source>There is the option %1, but the OPC UA server is not enabled.</source>
+        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
+    </message>
+    <message>
+        <source>Enable the server, or remove the option %1.</source>
+        <translation>Schalten Sie den Server ein, oder entfernen Sie die Option %1.</translation>
+    </message>
+    <message>
+        <source>The plug-in has no name.</source>
+        <translation>Das Plug-in hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; stands more than once.</source>
+        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
+        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
+    </message>
+    <message>
+        <source>the name of a plug-in</source>
+        <translation>der Name eines Plug-ins</translation>
+    </message>
+    <message>
+        <source>Add the plug-in, or name another one.</source>
+        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; has no bus configuration.</source>
+        <translation>Das Plug-in &apos;%1&apos; hat keine Buskonfiguration.</translation>
+    </message>
+    <message>
+        <source>a file in &apos;%1&apos;</source>
+        <translation>eine Datei in &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
+        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>a plug-in &apos;%1&apos;</source>
+        <translation>ein Plug-in &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
+        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
+    </message>
+    <message>
+        <source>nothing but elements</source>
+        <translation>nichts als Elemente</translation>
+    </message>
+    <message>
+        <source>Remove the text, or put it into the element for which it is meant.</source>
+        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
+    </message>
+    <message>
+        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
+        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
+    </message>
+    <message>
+        <source>Remove the attribute.</source>
+        <translation>Entfernen Sie das Attribut.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
+        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
+    </message>
+    <message>
+        <source>one &apos;%1&apos;</source>
+        <translation>ein &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>at the top of the document</source>
+        <translation>auf der obersten Ebene des Dokuments</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>Move the element to where it belongs, or remove it.</source>
+        <translation>Verschieben Sie das Element dahin, wo es hingehört, oder entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
+        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
+    </message>
+    <message>
+        <source>nothing but text</source>
+        <translation>nichts als Text</translation>
+    </message>
+    <message>
+        <source>Remove the element, or mend its name.</source>
+        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
+    </message>
+    <message>
+        <source>The drive is read with the next number that no other drive has.</source>
+        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
+    </message>
+    <message>
+        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
+        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>The device has no class.</source>
+        <translation>Das Gerät hat keine Klasse.</translation>
+    </message>
+    <message>
+        <source>The class of the device is left open.</source>
+        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>The parameter file has no type.</source>
+        <translation>Die Parameterdatei hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of the parameter file is left open.</source>
+        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>The plug-in is read without a priority.</source>
+        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
+    </message>
+    <message>
+        <source>The drive has no type.</source>
+        <translation>Der Antrieb hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>The type of the drive is left open.</source>
+        <translation>Der Typ des Antriebs ist offen gelassen.</translation>
+    </message>
+    <message>
+        <source>The drive has no number.</source>
+        <translation>Der Antrieb hat keine Nummer.</translation>
+    </message>
+    <message>
+        <source>This number means that no number is assigned.</source>
+        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
+    </message>
+    <message>
+        <source>The document is read as one of version %1; save it anew with this version.</source>
+        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
+    </message>
+    <message>
         <source>The document does not tell its version.</source>
         <translation>Das Dokument nennt seine Version nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no version.</source>
+        <translation>&apos;%1&apos; ist keine Version.</translation>
+    </message>
+    <message>
+        <source>The document was created with a previous version.</source>
+        <translation>Das Dokument wurde mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The document was created with a later version.</source>
+        <translation>Das Dokument wurde mit einer späteren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>letters, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow</source>
+        <translation>Buchstaben, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen</translation>
+    </message>
+    <message>
+        <source>The name of the configuration is empty.</source>
+        <translation>Der Name der Konfiguration ist leer.</translation>
+    </message>
+    <message>
+        <source>Without a name it has no directories on the device.</source>
+        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
+        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
+    </message>
+    <message>
+        <source>a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;</source>
+        <translation>ein Name ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
+        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
+    </message>
+    <message>
+        <source>numbers with dots between them, like 1.3</source>
+        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
+    </message>
+    <message>
+        <source>Its file would be &apos;%1&apos;.</source>
+        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>The plug-in &apos;%1&apos; has no version.</source>
+        <translation>Das Plug-in &apos;%1&apos; hat keine Version.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no version of a plug-in.</source>
+        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
     </message>
     <message>
         <source>The document is read as one of version 1.0; write &apos;version=&quot;1.0&quot;&apos;, or save it with a tool.</source>
@@ -72,20 +480,12 @@
         <translation>Text steht zwischen Elementen, wo ihn niemand liest.</translation>
     </message>
     <message>
-        <source>Remove the text, or put it into the element for which it is meant.</source>
-        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
-    </message>
-    <message>
         <source>A date is none.</source>
         <translation>Ein Datum ist keines.</translation>
     </message>
     <message>
         <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is none, and allowed.</source>
         <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist keines und erlaubt.</translation>
-    </message>
-    <message>
-        <source>The configuration was revised before it was created.</source>
-        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
     </message>
     <message>
         <source>One of the two dates is wrong, or they are interchanged.</source>
@@ -100,24 +500,12 @@
         <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde genannt.</translation>
     </message>
     <message>
-        <source>The document has no device.</source>
-        <translation>Das Dokument enthält kein Gerät.</translation>
-    </message>
-    <message>
         <source>Without a device there is nothing to be commissioned; add the element &apos;Device&apos;.</source>
         <translation>Ohne Gerät gibt es nichts in Betrieb zu nehmen; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
     </message>
     <message>
-        <source>The device has no class.</source>
-        <translation>Das Gerät hat keine Klasse.</translation>
-    </message>
-    <message>
         <source>Write &apos;kc2&apos; or &apos;kd3&apos;.</source>
         <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos;.</translation>
-    </message>
-    <message>
-        <source>The class of the device is left open.</source>
-        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
     </message>
     <message>
         <source>There is no such class of devices.</source>
@@ -128,32 +516,16 @@
         <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
     </message>
     <message>
-        <source>The device has no name.</source>
-        <translation>Das Gerät hat keinen Namen.</translation>
-    </message>
-    <message>
         <source>Give the device a name. It is also that of the device&apos;s directory in the project.</source>
         <translation>Geben Sie dem Gerät einen Namen. So heißt auch das Verzeichnis des Geräts im Projekt.</translation>
-    </message>
-    <message>
-        <source>The device has no configuration block.</source>
-        <translation>Das Gerät hat keinen Konfigurationsblock.</translation>
     </message>
     <message>
         <source>Add the element &apos;Config&apos;; without it the device has no options, files and plug-ins.</source>
         <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
     </message>
     <message>
-        <source>The device does not tell the name of its configuration.</source>
-        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
-    </message>
-    <message>
         <source>The name is read as &apos;STD&apos;; write it down.</source>
         <translation>Der Name wird als &apos;STD&apos; gelesen; schreiben Sie ihn hin.</translation>
-    </message>
-    <message>
-        <source>The name of the configuration is empty.</source>
-        <translation>Der Name der Konfiguration ist leer.</translation>
     </message>
     <message>
         <source>Give the configuration a name: without one it has no directories on the device.</source>
@@ -260,10 +632,6 @@
         <translation>Ein FPGA-Abbild steht mehrmals.</translation>
     </message>
     <message>
-        <source>Remove all but one; the first image is the active one.</source>
-        <translation>Entfernen Sie alle bis auf eines; das erste Abbild ist das aktive.</translation>
-    </message>
-    <message>
         <source>A plug-in has no name.</source>
         <translation>Ein Plug-in hat keinen Namen.</translation>
     </message>
@@ -290,10 +658,6 @@
     <message>
         <source>A plug-in stands more than once.</source>
         <translation>Ein Plug-in steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>Remove all but one.</source>
-        <translation>Entfernen Sie alle bis auf eines.</translation>
     </message>
     <message>
         <source>The priority of a plug-in is no number, or out of range.</source>
@@ -576,384 +940,8 @@
         <translation>Schreiben Sie &apos;%1&apos;: Groß- und Kleinschreibung zählt.</translation>
     </message>
     <message>
-        <source>The project&apos;s manifest cannot be read: %1</source>
-        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
-    </message>
-    <message>
-        <source>a manifest as it is made by staging</source>
-        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
-    </message>
-    <message>
-        <source>Make the manifest anew; files are not compared with this one.</source>
-        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
-    </message>
-    <message>
-        <source>There is more to be found; from here on it is left out.</source>
-        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
-    </message>
-    <message>
-        <source>Mend what is told, then check again.</source>
-        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
-    </message>
-    <message>
-        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
-        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>Remove the attribute.</source>
-        <translation>Entfernen Sie das Attribut.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
-        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
-    </message>
-    <message>
-        <source>one &apos;%1&apos;</source>
-        <translation>ein &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
-        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
-    </message>
-    <message>
-        <source>nothing but elements</source>
-        <translation>nichts als Elemente</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
-    </message>
-    <message>
-        <source>at the top of the document</source>
-        <translation>auf der obersten Ebene des Dokuments</translation>
-    </message>
-    <message>
-        <source>in %1</source>
-        <translation>in %1</translation>
-    </message>
-    <message>
-        <source>Move the element to where it belongs, or remove it.</source>
-        <translation>Verschieben Sie das Element dahin, wo es hingehört, oder entfernen Sie es.</translation>
-    </message>
-    <message>
-        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
-        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>nothing but text</source>
-        <translation>nichts als Text</translation>
-    </message>
-    <message>
-        <source>Remove the element, or mend its name.</source>
-        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
-    </message>
-    <message>
-        <source>The document is read as one of version %1; save it anew with this version.</source>
-        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no version.</source>
-        <translation>&apos;%1&apos; ist keine Version.</translation>
-    </message>
-    <message>
-        <source>The document was created with a previous version.</source>
-        <translation>Das Dokument wurde mit einer früheren Version erstellt.</translation>
-    </message>
-    <message>
-        <source>The document was created with a later version.</source>
-        <translation>Das Dokument wurde mit einer späteren Version erstellt.</translation>
-    </message>
-    <message>
-        <source>an element &apos;%1&apos;</source>
-        <translation>ein Element &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>Without a device there is nothing to be commissioned.</source>
-        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no date.</source>
-        <translation>&apos;%1&apos; ist kein Datum.</translation>
-    </message>
-    <message>
-        <source>a date like 2026-11-21</source>
-        <translation>ein Datum wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>%1 or later</source>
-        <translation>%1 oder später</translation>
-    </message>
-    <message>
-        <source>a name</source>
-        <translation>ein Name</translation>
-    </message>
-    <message>
-        <source>The name is also that of the device&apos;s directory in the project.</source>
-        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
-    </message>
-    <message>
-        <source>The device is read without options, files and plug-ins.</source>
-        <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
-    </message>
-    <message>
-        <source>There is no device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keine Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>It is read as &apos;%1&apos;.</source>
-        <translation>Gelesen wird &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>letters, digits, &apos;_&apos;, &apos;-&apos; and &apos;+&apos;; a number in parentheses may follow</source>
-        <translation>Buchstaben, Ziffern, &apos;_&apos;, &apos;-&apos; und &apos;+&apos;; eine Zahl in Klammern darf folgen</translation>
-    </message>
-    <message>
-        <source>Without a name it has no directories on the device.</source>
-        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
-        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
-    </message>
-    <message>
-        <source>a name without &apos;setup&apos;, &apos;failsafe&apos; and &apos;mount error&apos;</source>
-        <translation>ein Name ohne &apos;setup&apos;, &apos;failsafe&apos; und &apos;mount error&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
-        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no hardware identity.</source>
-        <translation>&apos;%1&apos; ist keine Hardwarekennung.</translation>
-    </message>
-    <message>
-        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
-        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
-    </message>
-    <message>
-        <source>options like -trace with one blank between each two</source>
-        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
-    </message>
-    <message>
-        <source>Options are separated by something other than a blank.</source>
-        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
-    </message>
-    <message>
-        <source>The device takes this for one word.</source>
-        <translation>Das Gerät hält dies für ein Wort.</translation>
-    </message>
-    <message>
-        <source>An option has a hyphen, but no name.</source>
-        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no option, and follows none.</source>
-        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
-    </message>
-    <message>
-        <source>An option begins with a hyphen; what follows it is its argument.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
-    </message>
-    <message>
-        <source>The option &apos;%1&apos; stands more than once.</source>
-        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
-        <translation>&apos;%1&apos; ist weder true noch false; es wird als false gelesen.</translation>
-    </message>
-    <message>
-        <source>The OPC UA server is enabled, but the option %1 is missing.</source>
-        <translation>Der OPC-UA-Server ist eingeschaltet, aber die Option %1 fehlt.</translation>
-    </message>
-    <message>
-        <source>Add the option %1, or disable the server.</source>
-        <translation>Ergänzen Sie die Option %1, oder schalten Sie den Server aus.</translation>
-    </message>
-    <message>
-        <source>There is the option %1, but the OPC UA server is not enabled.</source>
-        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
-    </message>
-    <message>
-        <source>Enable the server, or remove the option %1.</source>
-        <translation>Schalten Sie den Server ein, oder entfernen Sie die Option %1.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
-        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
-    </message>
-    <message>
-        <source>the name of a plug-in</source>
-        <translation>der Name eines Plug-ins</translation>
-    </message>
-    <message>
-        <source>Add the plug-in, or name another one.</source>
-        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; has no bus configuration.</source>
-        <translation>Das Plug-in &apos;%1&apos; hat keine Buskonfiguration.</translation>
-    </message>
-    <message>
-        <source>a file in &apos;%1&apos;</source>
-        <translation>eine Datei in &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
-        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>a plug-in &apos;%1&apos;</source>
-        <translation>ein Plug-in &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>The parameter file &apos;%1&apos; stands more than once.</source>
-        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The parameter file has no type.</source>
-        <translation>Die Parameterdatei hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>The type of the parameter file is left open.</source>
-        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>There is no type &apos;%1&apos; of parameter files; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Typ &apos;%1&apos; von Parameterdateien; er wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
-        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The plug-in has no name.</source>
-        <translation>Das Plug-in hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; stands more than once.</source>
-        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>numbers with dots between them, like 1.3</source>
-        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; has no version.</source>
-        <translation>Das Plug-in &apos;%1&apos; hat keine Version.</translation>
-    </message>
-    <message>
-        <source>Its file would be &apos;%1&apos;.</source>
-        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no version of a plug-in.</source>
-        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no priority.</source>
-        <translation>&apos;%1&apos; ist keine Priorität.</translation>
-    </message>
-    <message>
-        <source>a number from -2147483648 to 2147483647</source>
-        <translation>eine Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>The plug-in is read without a priority.</source>
-        <translation>Das Plug-in wird ohne Priorität gelesen.</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
-    </message>
-    <message>
-        <source>prefix, name and platform of &apos;%1&apos;</source>
-        <translation>Präfix, Name und Plattform von &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>Remove the file, or mend the drive&apos;s type.</source>
-        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
-    </message>
-    <message>
-        <source>The drive has no type; it is read as &apos;%1&apos;.</source>
-        <translation>Der Antrieb hat keinen Typ; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The type of the drive is left open; it is read as &apos;%1&apos;.</source>
-        <translation>Der Typ des Antriebs ist offen gelassen; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>There is no type &apos;%1&apos; of drives; the drive is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to %1</source>
-        <translation>eine Zahl von 0 bis %1</translation>
-    </message>
-    <message>
-        <source>The drive is read with the next number that no other drive has.</source>
-        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
-    </message>
-    <message>
-        <source>The drive has no number.</source>
-        <translation>Der Antrieb hat keine Nummer.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no number of a drive.</source>
-        <translation>&apos;%1&apos; ist keine Antriebsnummer.</translation>
-    </message>
-    <message>
-        <source>This number means that no number is assigned.</source>
-        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
-    </message>
-    <message>
-        <source>The number %1 is also that of %2.</source>
-        <translation>Die Nummer %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>a number of its own</source>
-        <translation>eine eigene Nummer</translation>
-    </message>
-    <message>
-        <source>The drive has no name.</source>
-        <translation>Der Antrieb hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>When the drive is read it is named after its number.</source>
-        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
-    </message>
-    <message>
-        <source>The name &apos;%1&apos; is also that of %2.</source>
-        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
-    </message>
-    <message>
-        <source>a name of its own</source>
-        <translation>ein eigener Name</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no bus identifier; it is read as 0.</source>
-        <translation>&apos;%1&apos; ist keine Buskennung; sie wird als 0 gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to 4294967295</source>
-        <translation>eine Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>The bus identifier %1 is also that of %2.</source>
-        <translation>Die Buskennung %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>an identifier of its own</source>
-        <translation>eine eigene Kennung</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; has no directory on the device.</source>
-        <translation>Die Datei &apos;%1&apos; hat kein Verzeichnis auf dem Gerät.</translation>
+        <source>names of at most %1 bytes</source>
+        <translation>Namen von höchstens %1 Bytes</translation>
     </message>
     <message>
         <source>a directory below %1 or %2</source>
@@ -976,32 +964,12 @@
         <translation>ein Name ohne Verzeichnis, Schrägstriche und Zeilenumbrüche</translation>
     </message>
     <message>
+        <source>The file &apos;%1&apos; has no directory on the device.</source>
+        <translation>Die Datei &apos;%1&apos; hat kein Verzeichnis auf dem Gerät.</translation>
+    </message>
+    <message>
         <source>The directory &apos;%1&apos; leads upwards.</source>
         <translation>Das Verzeichnis &apos;%1&apos; führt nach oben.</translation>
-    </message>
-    <message>
-        <source>names of at most %1 bytes</source>
-        <translation>Namen von höchstens %1 Bytes</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>Choose shorter names.</source>
-        <translation>Wählen Sie kürzere Namen.</translation>
-    </message>
-    <message>
-        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
-        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; cannot be read: %2</source>
-        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
-        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
     </message>
     <message>
         <source>a directory without &apos;..&apos;</source>
@@ -1012,16 +980,12 @@
         <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; does not begin with a slash.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; beginnt nicht mit einem Schrägstrich.</translation>
+        <source>The directory &apos;%1&apos; cannot be stored on the device.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; kann auf dem Gerät nicht gespeichert werden.</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; belongs to the configuration &apos;%2&apos;.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; gehört zur Konfiguration &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>a directory of &apos;%1&apos;</source>
-        <translation>ein Verzeichnis von &apos;%1&apos;</translation>
+        <source>Choose shorter names.</source>
+        <translation>Wählen Sie kürzere Namen.</translation>
     </message>
     <message>
         <source>The directory &apos;%1&apos; is absolute.</source>
@@ -1040,28 +1004,8 @@
         <translation>ein Verzeichnis im Projekt</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; is not below that of the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
-    </message>
-    <message>
-        <source>a directory below &apos;%1&apos;</source>
-        <translation>ein Verzeichnis unter &apos;%1&apos;</translation>
-    </message>
-    <message>
-        <source>It is removed when the device is read.</source>
-        <translation>Es wird beim Lesen des Geräts entfernt.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
-        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
-    </message>
-    <message>
-        <source>a place of its own</source>
-        <translation>ein eigener Platz</translation>
-    </message>
-    <message>
-        <source>The one that is transferred last overwrites the other one.</source>
-        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
+        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
+        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is not in the project.</source>
@@ -1100,10 +1044,6 @@
         <translation>eine reguläre Datei</translation>
     </message>
     <message>
-        <source>a file that may be read</source>
-        <translation>eine Datei, die gelesen werden darf</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; is empty.</source>
         <translation>Die Datei &apos;%1&apos; ist leer.</translation>
     </message>
@@ -1112,20 +1052,84 @@
         <translation>0 Bytes</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
-        <translation>%1 Bytes</translation>
+        <source>The file &apos;%1&apos; cannot be read: %2</source>
+        <translation>Die Datei &apos;%1&apos; kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
-        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
+        <source>a file that may be read</source>
+        <translation>eine Datei, die gelesen werden darf</translation>
     </message>
     <message>
-        <source>Put back the file, or make the manifest anew.</source>
-        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
+        <source>The file &apos;%1&apos; has the same place on the device as %2.</source>
+        <translation>Die Datei &apos;%1&apos; hat denselben Platz auf dem Gerät wie %2.</translation>
+    </message>
+    <message>
+        <source>a place of its own</source>
+        <translation>ein eigener Platz</translation>
+    </message>
+    <message>
+        <source>The one that is transferred last overwrites the other one.</source>
+        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
 </context>
 <context>
     <name>CConfigurationItems</name>
+    <message>
+        <source>%1: there is no such drive</source>
+        <translation>%1: diesen Antrieb gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such parameter file</source>
+        <translation>%1: diese Parameterdatei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such FPGA image</source>
+        <translation>%1: dieses FPGA-Abbild gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such OPC UA file</source>
+        <translation>%1: diese OPC-UA-Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such plug-in</source>
+        <translation>%1: dieses Plug-in gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such option</source>
+        <translation>%1: diese Option gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is no such file</source>
+        <translation>%1: diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: there is such a drive already</source>
+        <translation>%1: diesen Antrieb gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such a parameter file already</source>
+        <translation>%1: diese Parameterdatei gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such an FPGA image already</source>
+        <translation>%1: dieses FPGA-Abbild gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such an OPC UA file already</source>
+        <translation>%1: diese OPC-UA-Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such a plug-in already</source>
+        <translation>%1: dieses Plug-in gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such an option already</source>
+        <translation>%1: diese Option gibt es schon</translation>
+    </message>
+    <message>
+        <source>%1: there is such a file already</source>
+        <translation>%1: diese Datei gibt es schon</translation>
+    </message>
     <message>
         <source>%1: %2 Expected: %3.</source>
         <translation>%1: %2 Erwartet: %3.</translation>
@@ -1205,62 +1209,6 @@
     <message>
         <source>%1: the configuration does not have it</source>
         <translation>%1: die Konfiguration hat das nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such drive</source>
-        <translation>%1: diesen Antrieb gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such parameter file</source>
-        <translation>%1: diese Parameterdatei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such FPGA image</source>
-        <translation>%1: dieses FPGA-Abbild gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such OPC UA file</source>
-        <translation>%1: diese OPC-UA-Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such plug-in</source>
-        <translation>%1: dieses Plug-in gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such option</source>
-        <translation>%1: diese Option gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is no such file</source>
-        <translation>%1: diese Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>%1: there is such a drive already</source>
-        <translation>%1: diesen Antrieb gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such a parameter file already</source>
-        <translation>%1: diese Parameterdatei gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such an FPGA image already</source>
-        <translation>%1: dieses FPGA-Abbild gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such an OPC UA file already</source>
-        <translation>%1: diese OPC-UA-Datei gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such a plug-in already</source>
-        <translation>%1: dieses Plug-in gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such an option already</source>
-        <translation>%1: diese Option gibt es schon</translation>
-    </message>
-    <message>
-        <source>%1: there is such a file already</source>
-        <translation>%1: diese Datei gibt es schon</translation>
     </message>
 </context>
 <context>
@@ -2611,7 +2559,7 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
     <message>
         <source>The character U+%1 cannot be stored in a configuration.</source>
-        <translation>Das Zeichen U+%1 kann in einer Konfiguration nicht gespeichert werden.</translation>
+        <translation>Das Zeichen U+%1 kann nicht in einer Konfiguration gespeichert werden.</translation>
     </message>
 </context>
 </TS>

@@ -175,7 +175,7 @@ const QList<SInvalid> InvalidFiles = {
     {"bus-id-too-high", {"114:4 bus-id-invalid drive[0].busId"}},
     {"bus-id-twice", {"129:4 bus-id-twice drive[254].busId"}},
     {"file-without-name", {"82:5 file-name-missing files[]"}},
-    {"file-entry-empty", {"82:5 file-name-missing files[]"}},
+    {"file-entry-empty", {"82:5 file-name-missing files"}},
     {"file-name-with-slash", {"83:6 file-name-invalid files[a/recipes.csv]"}},
     {"file-name-with-backslash", {"83:6 file-name-invalid files[a\\\\recipes\\].csv]"}},
     {"file-name-with-line-break", {"83:6 file-name-invalid files[recipes.csv\n     ]"}},
@@ -456,6 +456,7 @@ private Q_SLOTS:
     void severities();
     void documentsOfTheRules();
     void itemsAreThoseOfTheDocument();
+    void entriesAreCountedAsTheItems();
     void texts_data();
     void texts();
     void unreadable_data();
@@ -746,6 +747,26 @@ void tst_CConfigurationCheck::itemsAreThoseOfTheDocument()
     }
 }
 
+void tst_CConfigurationCheck::entriesAreCountedAsTheItems()
+{
+    // Readers pass over the first one, and take the others for files without a name.
+    const QByteArray bytes =
+        document("<Files><File/><File><Comment>a</Comment></File><File><Comment>b</Comment></File>"
+                 "</Files>");
+    CConfigurationCheck check;
+    QVERIFY(check.load(bytes));
+    QStringList found;
+    for (const SConfigurationFinding &finding : check.findings()) {
+        if (finding.rule == u"file-name-missing"_s) {
+            found << finding.item;
+        }
+    }
+    QCOMPARE(found, QStringList({u"files"_s, u"files[]"_s, u"files[][2]"_s}));
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load(bytes));
+    QCOMPARE(CConfigurationItems(file).entries(), found.mid(1));
+}
+
 void tst_CConfigurationCheck::texts_data()
 {
     QTest::addColumn<QString>("message");
@@ -757,9 +778,8 @@ void tst_CConfigurationCheck::texts_data()
         QTest::newRow(name) << message << found << expected << hint;
     };
     row("drive-type-in-lower-case",
-        u"'kd2_drive' is not a valid type of a drive. It is read as 'KD3_drive'."_s,
-        u"kd2_drive"_s, u"KD2_drive, KD3_drive"_s,
-        u"Write 'KD2_drive': capital and small letters matter."_s);
+        u"'kd2_drive' is not a valid type of a drive. It is read as 'KD3_drive'."_s, u"kd2_drive"_s,
+        u"KD2_drive, KD3_drive"_s, u"Write 'KD2_drive': capital and small letters matter."_s);
     row("drive-type-undefined", u"The type of the drive is left open. It is read as 'KD3_drive'."_s,
         u"UNKNOWN_drive"_s, u"KD2_drive, KD3_drive"_s,
         u"Write 'KD2_drive' or 'KD3_drive'; the drive is read as 'KD3_drive'."_s);
@@ -773,8 +793,8 @@ void tst_CConfigurationCheck::texts_data()
         u"The drive is read with the next number that no other drive has."_s);
     row("class-in-capitals", u"'KD3' is not a valid device class. It is read as 'Undefined'."_s,
         u"KD3"_s, u"kc2, kd3"_s, u"Write 'kd3': capital and small letters matter."_s);
-    row("class-unknown", u"'kd4' is not a valid device class. It is read as 'Undefined'."_s, u"kd4"_s,
-        u"kc2, kd3"_s,
+    row("class-unknown", u"'kd4' is not a valid device class. It is read as 'Undefined'."_s,
+        u"kd4"_s, u"kc2, kd3"_s,
         u"Write 'kc2' or 'kd3', in small letters; anything else is read as 'Undefined'."_s);
     row("version-later", u"The document was created with a later version."_s, u"1.10"_s, u"1.0"_s,
         u"The document is read as one of version 1.0; save it anew with this version."_s);

@@ -207,13 +207,18 @@ QStringList textsOutside(const QString &text)
 
 /**
  * The context that a header declares for @p file: the one beside it, or a "Texts.h" for several
- * sources.
+ * sources. Of the namespaces in that, the one from which the source takes its Texts.
  */
 QString contextOfHeaders(const QString &file, const QString &otherwise)
 {
     static const QRegularExpression shared(u"#include \"(\\S+/Texts\\.h)\""_s);
-    static const QRegularExpression declaration(u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s);
+    static const QRegularExpression taken(u"\\busing (\\w+)::Texts;"_s);
     const QString source = code(file);
+    const QRegularExpressionMatch name = taken.match(source);
+    const QString place = name.hasMatch()
+        ? u"\\bnamespace %1 \\{\\s*class Texts\\s*\\{\\s*"_s.arg(name.captured(1))
+        : QString();
+    const QRegularExpression declaration(place + u"Q_DECLARE_TR_FUNCTIONS\\((\\w+)\\)"_s);
     QStringList headers = {QString(file).replace(QRegularExpression(u"\\.cpp$"_s), u".h"_s)};
     headers.append(shared.match(source).captured(1));
     for (const QString &header : qAsConst(headers)) {

@@ -1,7 +1,7 @@
 #include "commissioning/check/DocumentCheck.h"
 
 #include "commissioning/CConfigurationItems.h"
-#include "elements/DriveNumbers.h"
+#include "commissioning/items/ItemFinder.h"
 
 using namespace DocumentStructure;
 
@@ -85,13 +85,16 @@ void DocumentCheck::visitDeep(const QDomElement &element, const SElement &list, 
 
 QString DocumentCheck::itemOf(const Fields &fields, const QString &path)
 {
-    const SElement &type = fields.type();
-    if (type.keyTag.isEmpty()) {
+    const ConfigurationShape::SNode *const list = fields.type().list;
+    if (list == nullptr) {
         return path;
     }
-    const QString text = fields.text(type.keyTag);
-    return m_context.entryPaths.next(
-        path, type.meaning == MEANING_DRIVE ? DriveNumbers::key(text) : text);
+    const QString text = fields.text(list->key().tag);
+    // What readers pass over has no path of its own: it is shown at its list.
+    if (text.isEmpty() && !ItemFinder::isEntry(m_context.file, *list, fields.parent())) {
+        return path;
+    }
+    return m_context.entryPaths.next(path, ItemFinder::key(*list, text));
 }
 
 void DocumentCheck::checkMeaning(const Fields &fields, const QString &item)

@@ -1,6 +1,5 @@
 #include "commissioning/check/DocumentStructure.h"
 
-#include "configfile/ConfigurationShape.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QHash>
@@ -117,7 +116,7 @@ private:
     const SElement *entry(const SNode &list)
     {
         SElement element = parent(list.entryTag, meaningOfEntry(list.entry));
-        element.keyTag = list.key().tag;
+        element.list = &list;
         appendChildren(list, element);
         return kept(element);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "configfile/ConfigurationShape.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -46,8 +48,8 @@ struct SElement {
     bool hasText = false;
     QStringList attributes;
     QVector<SChild> children;
-    /** Of an entry of a list: the child whose text is the entry's key. */
-    QString keyTag;
+    /** Of an entry: its list in the description; null of any other element. */
+    const ConfigurationShape::SNode *list = nullptr;
     /** Whether the reader looks for the children at any depth. */
     bool isReadDeep = false;
 };

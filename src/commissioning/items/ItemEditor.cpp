@@ -1,11 +1,13 @@
 #include "commissioning/items/ItemEditor.h"
 
-#include "commissioning/items/ItemTexts.h"
+#include "commissioning/items/EntryTexts.h"
+#include "commissioning/Texts.h"
 #include "configfile/ItemValue.h"
 #include "elements/CDeviceElement.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationShape;
+using ConfigurationItemsTexts::Texts;
 using namespace NVornXmlTags;
 
 ItemEditor::ItemEditor(CDeviceConfigurationFile10 &file) : ItemReader(file), m_file(file) { }
@@ -53,7 +55,7 @@ bool ItemEditor::acceptsValue(EValue kind, const QString &path, const QString &v
     if (!unwritable.isEmpty()) {
         return fail(QStringLiteral("%1: %2").arg(path, unwritable));
     }
-    return fail(ItemTexts::tr("%1: %2 Expected: %3.")
+    return fail(Texts::tr("%1: %2 Expected: %3.")
                     .arg(path, ItemValue::invalidText(kind, value), ItemValue::expected(kind)));
 }
 
@@ -62,7 +64,7 @@ bool ItemEditor::isKeyFree(const SItemPlace &place, const QString &key)
     SItemPlace other;
     const bool isTaken = find(CConfigurationItems::entryPath(place.listPath, key), other);
     // That there is no such entry is no failure.
-    fail(isTaken ? ItemTexts::presentEntry(place.list->shape->entry, other.path) : QString());
+    fail(isTaken ? EntryTexts::present(place.list->shape->entry, other.path) : QString());
     return !isTaken;
 }
 
@@ -73,14 +75,14 @@ bool ItemEditor::add(const QString &path)
         return false;
     }
     if (!place.isEntry) {
-        return fail(ItemTexts::tr("%1: only entries of lists can be added").arg(place.path));
+        return fail(Texts::tr("%1: only entries of lists can be added").arg(place.path));
     }
     if (!place.isAbsent) {
-        return fail(ItemTexts::presentEntry(place.node->shape->entry, place.path));
+        return fail(EntryTexts::present(place.node->shape->entry, place.path));
     }
     if (place.entry.occurrence > 1) {
         return fail(
-            ItemTexts::tr("%1: a second entry of the same key cannot be added").arg(place.path));
+            Texts::tr("%1: a second entry of the same key cannot be added").arg(place.path));
     }
     const EValue key = place.node->key().value();
     if (!acceptsValue(key, place.path, place.entry.key)) {
@@ -97,11 +99,11 @@ bool ItemEditor::remove(const QString &path)
         return false;
     }
     if (!place.isEntry && (place.node->kind() == EKind::GROUP || place.node->isList())) {
-        return fail(ItemTexts::tr("%1: only single items, entries and files can be removed")
-                        .arg(place.path));
+        return fail(
+            Texts::tr("%1: only single items, entries and files can be removed").arg(place.path));
     }
     if (place.node->isKey()) {
-        return fail(ItemTexts::tr("%1: the entry cannot be without it").arg(place.path));
+        return fail(Texts::tr("%1: the entry cannot be without it").arg(place.path));
     }
     if (!place.isThere()) {
         return failAbsent(place);

@@ -1,14 +1,16 @@
 #include "commissioning/items/ItemFinder.h"
 
-#include "commissioning/items/ItemTexts.h"
+#include "commissioning/items/EntryTexts.h"
 #include "commissioning/items/NearestName.h"
-#include "elements/DriveNumbers.h"
+#include "commissioning/Texts.h"
+#include "configfile/ItemValue.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <algorithm>
 
 using namespace ConfigurationShape;
+using ConfigurationItemsTexts::Texts;
 using ItemPath::joined;
 
 namespace {
@@ -69,7 +71,7 @@ bool ItemFinder::find(const QString &path, SItemPlace &place, bool entryMayBeAbs
     place.node = &ItemTree::root();
     place.anchor = m_file.domDocument().documentElement();
     if (place.anchor.isNull()) {
-        return fail(ItemTexts::tr("There is no configuration."));
+        return fail(Texts::tr("There is no configuration."));
     }
     QList<SItemPathStep> steps;
     QString reason;
@@ -88,7 +90,7 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
 {
     const QString path = joined(place.path, given.text());
     if (place.node->isList() && !place.isEntry) {
-        return fail(ItemTexts::tr("%1: an entry of the list must be named, as in %2")
+        return fail(Texts::tr("%1: an entry of the list must be named, as in %2")
                         .arg(path, SItemPathStep{place.path, QStringLiteral("…"), 1, true}.text()));
     }
     const auto &children = place.node->children;
@@ -99,8 +101,7 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
         return failUnknownWord(place, path, given.word);
     }
     if (!canHave(place.element(), *child)) {
-        return fail(
-            ItemTexts::tr("%1: only a drive of the type KD2_drive has this file").arg(path));
+        return fail(Texts::tr("%1: only a drive of the type KD2_drive has this file").arg(path));
     }
     const QString listPath = joined(place.path, given.word);
     place.list = place.isEntry ? place.node : nullptr;
@@ -120,19 +121,21 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
 bool ItemFinder::enterList(const SItemPathStep &given, bool entryMayBeAbsent, SItemPlace &place)
 {
     if (!place.node->isList()) {
-        return fail(ItemTexts::tr("%1: %2 is no list, nothing can stand in brackets behind it")
+        return fail(Texts::tr("%1: %2 is no list, nothing can stand in brackets behind it")
                         .arg(place.path, given.word));
     }
     place.entry = given;
-    if (place.node->shape->entry == EEntry::DRIVE) {
-        place.entry.key = DriveNumbers::key(given.key);
-        place.path = place.entry.text();
+    place.entry.key = key(*place.node->shape, given.key);
+    if (place.entry.key != given.key) {
+        SItemPathStep written = place.entry;
+        written.word = place.listPath;
+        place.path = written.text();
     }
     const bool isFound = place.node->kind() == EKind::OPTIONS ? findOption(place.entry, place)
                                                               : findEntry(place.entry, place);
     place.isAbsent = !isFound;
     return isFound || entryMayBeAbsent
-        || fail(ItemTexts::missingEntry(place.node->shape->entry, place.path));
+        || fail(EntryTexts::missing(place.node->shape->entry, place.path));
 }
 
 bool ItemFinder::findOption(const SItemPathStep &wanted, SItemPlace &place) const
@@ -153,7 +156,7 @@ bool ItemFinder::findEntry(const SItemPathStep &wanted, SItemPlace &place) const
     QDomElement found;
     visitCandidates(list, place.element(), [&](const QDomElement &candidate) {
         // Its key first: to take a whole entry apart costs more.
-        if (key(list, candidate) == wanted.key && isEntry(list, candidate)) {
+        if (key(list, candidate) == wanted.key && isEntry(m_file, *list.shape, candidate)) {
             --left;
             found = candidate;
         }
@@ -170,7 +173,7 @@ QVector<QDomElement> ItemFinder::entries(const SItemNode &list, const QDomElemen
 {
     QVector<QDomElement> result;
     visitCandidates(list, element, [&](const QDomElement &candidate) {
-        if (isEntry(list, candidate)) {
+        if (isEntry(m_file, *list.shape, candidate)) {
             result.append(candidate);
         }
         return true;
@@ -180,8 +183,12 @@ QVector<QDomElement> ItemFinder::entries(const SItemNode &list, const QDomElemen
 
 QString ItemFinder::key(const SItemNode &list, const QDomElement &entry) const
 {
-    const QString text = m_file.getNodeValue(followed(entry, list.key().tags));
-    return list.shape->entry == EEntry::DRIVE ? DriveNumbers::key(text) : text;
+    return key(*list.shape, m_file.getNodeValue(followed(entry, list.key().tags)));
+}
+
+QString ItemFinder::key(const SNode &list, const QString &text)
+{
+    return ItemValue::read(list.key().item.value, text);
 }
 
 StartOptions ItemFinder::options(const QDomElement &element) const
@@ -196,22 +203,22 @@ bool ItemFinder::canHave(const QDomElement &element, const SItemNode &node)
         || DriveTypes::isKd2(element.attribute(NVornXmlTags::ATTR_TYPE));
 }
 
-/** Whether readers of the document take @p element for an entry of the list. */
-bool ItemFinder::isEntry(const SItemNode &list, const QDomElement &element) const
+bool ItemFinder::isEntry(const CDeviceConfigurationFile10 &file, const SNode &list,
+                         const QDomElement &element)
 {
-    if (element.tagName() != list.shape->entryTag) {
+    if (element.tagName() != list.entryTag) {
         return false;
     }
-    switch (list.shape->entry) {
+    switch (list.entry) {
     case EEntry::PARAMETER_FILE: {
         CParamFileElement entry;
-        m_file.paramFileElement(entry, element);
+        file.paramFileElement(entry, element);
         return !entry.isNull();
     }
     case EEntry::FILE:
     case EEntry::OPC_UA_FILE: {
         CFileElement entry;
-        m_file.fileElement(entry, element);
+        file.fileElement(entry, element);
         return !entry.isNull();
     }
     default:
@@ -240,13 +247,13 @@ bool ItemFinder::failUnknownWord(const SItemPlace &place, const QString &path, c
         }
     }
     if (words.isEmpty() || place.node->isItem()) {
-        return fail(ItemTexts::tr("%1: there is no such item").arg(path));
+        return fail(Texts::tr("%1: there is no such item").arg(path));
     }
     const QString meant = nearestName(word, words);
     if (!meant.isEmpty()) {
-        return fail(ItemTexts::tr("%1: there is no such item; did you mean %2?")
+        return fail(Texts::tr("%1: there is no such item; did you mean %2?")
                         .arg(path, joined(place.path, meant)));
     }
-    return fail(ItemTexts::tr("%1: there is no such item; there are %2")
+    return fail(Texts::tr("%1: there is no such item; there are %2")
                     .arg(path, words.join(QStringLiteral(", "))));
 }

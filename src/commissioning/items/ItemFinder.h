@@ -60,12 +60,17 @@ public:
     /** Whether @p node can be in @p element, that of the node around it. */
     static bool canHave(const QDomElement &element, const SItemNode &node);
 
+    /** Whether readers of the document take @p element for an entry of @p list. */
+    static bool isEntry(const CDeviceConfigurationFile10 &file,
+                        const ConfigurationShape::SNode &list, const QDomElement &element);
+    /** The key that an entry has in paths when @p text is what the document contains as its key. */
+    static QString key(const ConfigurationShape::SNode &list, const QString &text);
+
 private:
     bool step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPlace &place);
     bool enterList(const SItemPathStep &given, bool entryMayBeAbsent, SItemPlace &place);
     bool findEntry(const SItemPathStep &wanted, SItemPlace &place) const;
     bool findOption(const SItemPathStep &wanted, SItemPlace &place) const;
-    bool isEntry(const SItemNode &list, const QDomElement &element) const;
     template <typename Visit>
     static void visitCandidates(const SItemNode &list, const QDomElement &element, Visit visit);
     bool fail(const QString &text);

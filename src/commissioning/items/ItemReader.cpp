@@ -1,9 +1,10 @@
 #include "commissioning/items/ItemReader.h"
 
 #include "commissioning/items/ItemPaths.h"
-#include "commissioning/items/ItemTexts.h"
+#include "commissioning/Texts.h"
 
 using namespace ConfigurationShape;
+using ConfigurationItemsTexts::Texts;
 using ItemPath::joined;
 
 namespace {
@@ -26,12 +27,12 @@ bool ItemReader::fail(const QString &text)
 
 bool ItemReader::failWithoutValue(const SItemPlace &place)
 {
-    return fail(ItemTexts::tr("%1: this has no value of its own").arg(place.path));
+    return fail(Texts::tr("%1: this has no value of its own").arg(place.path));
 }
 
 bool ItemReader::failAbsent(const SItemPlace &place)
 {
-    return fail(ItemTexts::tr("%1: the configuration does not have it").arg(place.path));
+    return fail(Texts::tr("%1: the configuration does not have it").arg(place.path));
 }
 
 bool ItemReader::find(const QString &path, SItemPlace &place, bool entryMayBeAbsent)
