@@ -1851,6 +1851,10 @@
         <source>Put back the file, or make the manifest anew.</source>
         <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
     </message>
+    <message>
+        <source>The type of the drive is left open.</source>
+        <translation>Der Typ des Antriebs ist offen gelassen.</translation>
+    </message>
 </context>
 <context>
     <name>CConfigurationItems</name>
@@ -3447,7 +3451,7 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
     <message>
         <source>The character U+%1 cannot be stored in a configuration.</source>
-        <translation>Das Zeichen U+%1 kann in einer Konfiguration nicht gespeichert werden.</translation>
+        <translation>Das Zeichen U+%1 kann nicht in einer Konfiguration gespeichert werden.</translation>
     </message>
 </context>
 </TS>

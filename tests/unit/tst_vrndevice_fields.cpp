@@ -391,7 +391,10 @@ void tst_vrndevice_fields::checkShown(const QString &value)
             before = shown(command, u"sample.3deco"_s);
         }
         const QString after = shown(command, u"changed.3deco"_s);
-        QVERIFY2(after != before && (after.contains(value) || value == u"false"_s),
+        // The tree says nothing about what is false, and the report shows the series of a drive
+        // alone.
+        const QString text = value == u"KD3_drive"_s ? u"KD3"_s : value;
+        QVERIFY2(after != before && (after.contains(text) || value == u"false"_s),
                  qPrintable(command.join(u' ')));
     }
 }
