@@ -1,0 +1,105 @@
+#pragma once
+
+#include "commissioning/CDeviceManifest.h"
+#include "commissioning/CStagedTree.h"
+#include "support/Files.h"
+#include "support/Literals.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QFile>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <sys/stat.h>
+
+/** Archives made by hand, and how differences are written in tests. */
+namespace StagedTrees {
+
+const QString Conf = u"velkor/configurations/STD/conf/"_s;
+const QByteArray Large = QByteArray(200000, 'x') + QByteArray(100000, 'y');
+
+inline QByteArray system(const QString &path)
+{
+    return QFile::encodeName(path);
+}
+
+/** "kind path" for each difference. */
+inline QStringList told(const CStagedTree &tree)
+{
+    const QStringList names = {u"missing"_s,    u"surplus"_s,     u"changed"_s, u"wrong-kind"_s,
+                               u"unreadable"_s, u"no-manifest"_s, u"broken"_s};
+    QStringList result;
+    for (const CStagedTree::SDifference &difference : tree.differences()) {
+        result << names.at(difference.kind) + u' ' + difference.path;
+    }
+    return result;
+}
+
+/** An entry of an archive that is made by hand. */
+struct SEntry {
+    QByteArray name;
+    QByteArray content;
+    mode_t type = S_IFREG;
+    QByteArray link;
+    qint64 claimedSize = -1;
+};
+
+/** An archive as somebody else may make it; an entry that claims more than it has ends it. */
+inline QByteArray archiveOf(const QList<SEntry> &entries, bool compressed = true)
+{
+    QByteArray bytes(1 << 20, Qt::Uninitialized);
+    size_t used = 0;
+    archive *const written = archive_write_new();
+    archive_write_set_format_pax_restricted(written);
+    if (compressed) {
+        archive_write_add_filter_gzip(written);
+    }
+    archive_write_open_memory(written, bytes.data(), static_cast<size_t>(bytes.size()), &used);
+    for (const SEntry &entry : entries) {
+        archive_entry *const header = archive_entry_new();
+        archive_entry_set_pathname(header, entry.name.constData());
+        archive_entry_set_filetype(header, entry.type);
+        archive_entry_set_perm(header, 0644);
+        archive_entry_set_size(header,
+                               entry.claimedSize < 0 ? entry.content.size() : entry.claimedSize);
+        if (entry.type == S_IFLNK) {
+            archive_entry_set_symlink(header, entry.link.constData());
+        } else if (!entry.link.isEmpty()) {
+            archive_entry_set_hardlink(header, entry.link.constData());
+        }
+        archive_write_header(written, header);
+        archive_write_data(written, entry.content.constData(),
+                           static_cast<size_t>(entry.content.size()));
+        archive_entry_free(header);
+        if (entry.claimedSize > entry.content.size()) {
+            archive_write_fail(written);
+        }
+    }
+    archive_write_close(written);
+    archive_write_free(written);
+    bytes.truncate(static_cast<int>(used));
+    return bytes;
+}
+
+inline QByteArray sumOf(const QByteArray &content)
+{
+    return QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+}
+
+inline QByteArray manifestOf(const QList<CDeviceManifest::SEntry> &entries)
+{
+    CDeviceManifest manifest;
+    manifest.setEntries(entries);
+    return manifest.toJson();
+}
+
+inline SEntry regular(const QByteArray &name, const QByteArray &content)
+{
+    return {name, content, S_IFREG, QByteArray(), -1};
+}
+
+} // namespace StagedTrees
