@@ -13,7 +13,7 @@
 using namespace CheckedDocuments;
 
 /** Each rule finds what it is there for, where it stands, and nothing else. */
-class tst_CConfigurationCheck : public QObject
+class tst_cconfigurationcheck : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private Q_SLOTS:
     void severalThreads();
 };
 
-void tst_CConfigurationCheck::validFiles_data()
+void tst_cconfigurationcheck::validFiles_data()
 {
     QTest::addColumn<QString>("path");
     const QDir directory(dataDirectory(u"valid"_s));
@@ -47,7 +47,7 @@ void tst_CConfigurationCheck::validFiles_data()
     }
 }
 
-void tst_CConfigurationCheck::validFiles()
+void tst_cconfigurationcheck::validFiles()
 {
     QFETCH(QString, path);
     CConfigurationCheck check;
@@ -55,7 +55,7 @@ void tst_CConfigurationCheck::validFiles()
     QCOMPARE(told(check), QStringList());
 }
 
-void tst_CConfigurationCheck::exampleIsValid()
+void tst_cconfigurationcheck::exampleIsValid()
 {
     const QString directory = QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line");
     CConfigurationCheck check;
@@ -66,7 +66,7 @@ void tst_CConfigurationCheck::exampleIsValid()
     QCOMPARE(told(check), QStringList());
 }
 
-void tst_CConfigurationCheck::invalidFiles_data()
+void tst_cconfigurationcheck::invalidFiles_data()
 {
     QTest::addColumn<QStringList>("findings");
     for (const SInvalid &invalid : InvalidFiles) {
@@ -74,7 +74,7 @@ void tst_CConfigurationCheck::invalidFiles_data()
     }
 }
 
-void tst_CConfigurationCheck::invalidFiles()
+void tst_cconfigurationcheck::invalidFiles()
 {
     QFETCH(QStringList, findings);
     const QString path = BrokenDocuments::path(QString::fromUtf8(QTest::currentDataTag()));
@@ -86,7 +86,7 @@ void tst_CConfigurationCheck::invalidFiles()
     QCOMPARE(told(fromMemory), findings);
 }
 
-void tst_CConfigurationCheck::everyInvalidFileIsListed()
+void tst_cconfigurationcheck::everyInvalidFileIsListed()
 {
     QStringList listed;
     for (const SInvalid &invalid : InvalidFiles) {
@@ -99,7 +99,7 @@ void tst_CConfigurationCheck::everyInvalidFileIsListed()
     QCOMPARE(BrokenDocuments::problems(), QStringList());
 }
 
-void tst_CConfigurationCheck::unreadable_data()
+void tst_cconfigurationcheck::unreadable_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("errorText");
@@ -111,7 +111,7 @@ void tst_CConfigurationCheck::unreadable_data()
         << u": The document type is 'VornDeviceSettings', but 'VornDeviceConfig' is required."_s;
 }
 
-void tst_CConfigurationCheck::unreadable()
+void tst_cconfigurationcheck::unreadable()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, errorText);
@@ -139,7 +139,7 @@ void tst_CConfigurationCheck::unreadable()
     QCOMPARE(check.errorText(), QString());
 }
 
-void tst_CConfigurationCheck::failuresArePosted()
+void tst_cconfigurationcheck::failuresArePosted()
 {
     const MessageCatcher catcher;
     CConfigurationCheck check;
@@ -148,7 +148,7 @@ void tst_CConfigurationCheck::failuresArePosted()
     QVERIFY(catcher.warnings().isEmpty());
 }
 
-void tst_CConfigurationCheck::versionsAreNotPosted()
+void tst_cconfigurationcheck::versionsAreNotPosted()
 {
     const MessageCatcher catcher;
     CConfigurationCheck check;
@@ -159,7 +159,7 @@ void tst_CConfigurationCheck::versionsAreNotPosted()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CConfigurationCheck::oneObjectForManyDocuments()
+void tst_cconfigurationcheck::oneObjectForManyDocuments()
 {
     CConfigurationCheck check;
     for (const SInvalid &invalid : InvalidFiles) {
@@ -170,7 +170,7 @@ void tst_CConfigurationCheck::oneObjectForManyDocuments()
     QCOMPARE(told(check), QStringList());
 }
 
-void tst_CConfigurationCheck::longTextsAreShortened()
+void tst_cconfigurationcheck::longTextsAreShortened()
 {
     const QByteArray name(1000000, 'x');
     CConfigurationCheck check;
@@ -185,7 +185,7 @@ void tst_CConfigurationCheck::longTextsAreShortened()
     }
 }
 
-void tst_CConfigurationCheck::manyFindings()
+void tst_cconfigurationcheck::manyFindings()
 {
     const int count = 20000;
     CConfigurationCheck check;
@@ -198,7 +198,7 @@ void tst_CConfigurationCheck::manyFindings()
     QCOMPARE(check.findings().at(count - 2).item, u"files[a][%1]"_s.arg(count));
 }
 
-void tst_CConfigurationCheck::endlessFindings()
+void tst_cconfigurationcheck::endlessFindings()
 {
     const int most = 100000;
     CConfigurationCheck check;
@@ -211,7 +211,7 @@ void tst_CConfigurationCheck::endlessFindings()
     QCOMPARE(check.findings().at(most - 1).rule, u"element-unknown"_s);
 }
 
-void tst_CConfigurationCheck::longReservedName()
+void tst_cconfigurationcheck::longReservedName()
 {
     // No directory has such a name: it is not even looked whether it is reserved.
     for (const int size : {256, 1000000}) {
@@ -224,7 +224,7 @@ void tst_CConfigurationCheck::longReservedName()
     }
 }
 
-void tst_CConfigurationCheck::deepDocument()
+void tst_cconfigurationcheck::deepDocument()
 {
     const int depth = 200;
     CConfigurationCheck check;
@@ -236,7 +236,7 @@ void tst_CConfigurationCheck::deepDocument()
     QCOMPARE(check.findings().constFirst().rule, u"element-unknown"_s);
 }
 
-void tst_CConfigurationCheck::nothingIsKept()
+void tst_cconfigurationcheck::nothingIsKept()
 {
     if (!AllocationCounter::isAvailable()) {
         QSKIP("A sanitizer brings its own heap.", 0);
@@ -254,7 +254,7 @@ void tst_CConfigurationCheck::nothingIsKept()
              qPrintable(QString::number(AllocationCounter::counts().peakBytes)));
 }
 
-void tst_CConfigurationCheck::severalThreads()
+void tst_cconfigurationcheck::severalThreads()
 {
     QVERIFY(Threads::run([](int i) {
         CConfigurationCheck check;
@@ -270,6 +270,6 @@ void tst_CConfigurationCheck::severalThreads()
     }));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationCheck)
+QTEST_GUILESS_MAIN(tst_cconfigurationcheck)
 
 #include "tst_cconfigurationcheck.moc"

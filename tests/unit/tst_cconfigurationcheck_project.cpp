@@ -31,7 +31,7 @@ bool createProject(const QDir &project)
 } // namespace
 
 /** What the check finds in the directory of a project. */
-class tst_CConfigurationCheck_project : public QObject
+class tst_cconfigurationcheck_project : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void namelessDeviceInAProject();
 };
 
-void tst_CConfigurationCheck_project::project_data()
+void tst_cconfigurationcheck_project::project_data()
 {
     QTest::addColumn<int>("index");
     for (int i = 0; i < ProjectFaults.size(); ++i) {
@@ -52,7 +52,7 @@ void tst_CConfigurationCheck_project::project_data()
     }
 }
 
-void tst_CConfigurationCheck_project::project()
+void tst_cconfigurationcheck_project::project()
 {
     QFETCH(int, index);
     const SProjectFault &fault = ProjectFaults.at(index);
@@ -66,7 +66,7 @@ void tst_CConfigurationCheck_project::project()
     QCOMPARE(told(check), ::texts(fault.findings));
 }
 
-void tst_CConfigurationCheck_project::unreadableFileInTheProject()
+void tst_cconfigurationcheck_project::unreadableFileInTheProject()
 {
     const QTemporaryDir directory;
     QVERIFY(createProject(directory.path()));
@@ -81,7 +81,7 @@ void tst_CConfigurationCheck_project::unreadableFileInTheProject()
     QCOMPARE(told(check), {u"82:5 project-file-unreadable files[recipes.csv]"_s});
 }
 
-void tst_CConfigurationCheck_project::unreadableDirectoryInTheProject()
+void tst_cconfigurationcheck_project::unreadableDirectoryInTheProject()
 {
     const QTemporaryDir directory;
     QVERIFY(createProject(directory.path()));
@@ -103,7 +103,7 @@ void tst_CConfigurationCheck_project::unreadableDirectoryInTheProject()
     QVERIFY(QFile::setPermissions(recipes, QFileDevice::Permissions(0x7777)));
 }
 
-void tst_CConfigurationCheck_project::projectDirectory()
+void tst_cconfigurationcheck_project::projectDirectory()
 {
     const QTemporaryDir directory;
     CConfigurationCheck check;
@@ -124,7 +124,7 @@ void tst_CConfigurationCheck_project::projectDirectory()
     QCOMPARE(check.findings().size(), 0);
 }
 
-void tst_CConfigurationCheck_project::namelessDeviceInAProject()
+void tst_cconfigurationcheck_project::namelessDeviceInAProject()
 {
     // Where files lie that have no directories of their own follows from both names.
     const QByteArray config = "<ParameterFiles><File type=\"VornParameters\"><Name>P</Name></File>"
@@ -143,6 +143,6 @@ void tst_CConfigurationCheck_project::namelessDeviceInAProject()
     QCOMPARE(check.findings().constLast().item, u"device.fpgaFiles[F]"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationCheck_project)
+QTEST_GUILESS_MAIN(tst_cconfigurationcheck_project)
 
 #include "tst_cconfigurationcheck_project.moc"

@@ -27,7 +27,7 @@ QStringList rulesIn(const QList<const char *> &findings)
 } // namespace
 
 /** The rules: their texts, severities and pages. */
-class tst_CConfigurationCheck_rules : public QObject
+class tst_cconfigurationcheck_rules : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void texts();
 };
 
-void tst_CConfigurationCheck_rules::everyRuleHasAnExample()
+void tst_cconfigurationcheck_rules::everyRuleHasAnExample()
 {
     // The two that need more than a table.
     QSet<QString> shown = {u"project-file-unreadable"_s, u"findings-left-out"_s};
@@ -66,7 +66,7 @@ void tst_CConfigurationCheck_rules::everyRuleHasAnExample()
     QCOMPARE(sortedShown, listed);
 }
 
-void tst_CConfigurationCheck_rules::rulesAreWellFormed()
+void tst_cconfigurationcheck_rules::rulesAreWellFormed()
 {
     static const QRegularExpression words(u"\\A[a-z0-9]+(-[a-z0-9]+)+\\z"_s);
     const QList<CConfigurationCheck::SRule> rules = CConfigurationCheck::rules();
@@ -84,7 +84,7 @@ void tst_CConfigurationCheck_rules::rulesAreWellFormed()
     QCOMPARE(descriptions.size(), rules.size());
 }
 
-void tst_CConfigurationCheck_rules::severities_data()
+void tst_cconfigurationcheck_rules::severities_data()
 {
     QTest::addColumn<QString>("rule");
     const QSet<QString> warnings = {
@@ -105,7 +105,7 @@ void tst_CConfigurationCheck_rules::severities_data()
     }
 }
 
-void tst_CConfigurationCheck_rules::severities()
+void tst_cconfigurationcheck_rules::severities()
 {
     QFETCH(QString, rule);
     QFETCH(bool, isWarning);
@@ -127,7 +127,7 @@ void tst_CConfigurationCheck_rules::severities()
     }
 }
 
-void tst_CConfigurationCheck_rules::documentsOfTheRules()
+void tst_cconfigurationcheck_rules::documentsOfTheRules()
 {
     const QString page =
         QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/docs/rules.md")));
@@ -154,7 +154,7 @@ void tst_CConfigurationCheck_rules::documentsOfTheRules()
     QCOMPARE(page.count(u"\n### "_s), expected.size());
 }
 
-void tst_CConfigurationCheck_rules::itemsAreThoseOfTheDocument()
+void tst_cconfigurationcheck_rules::itemsAreThoseOfTheDocument()
 {
     for (const SInvalid &invalid : InvalidFiles) {
         CDeviceConfigurationFile10 file(nullptr);
@@ -175,7 +175,7 @@ void tst_CConfigurationCheck_rules::itemsAreThoseOfTheDocument()
     }
 }
 
-void tst_CConfigurationCheck_rules::texts_data()
+void tst_cconfigurationcheck_rules::texts_data()
 {
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("found");
@@ -250,7 +250,7 @@ void tst_CConfigurationCheck_rules::texts_data()
         u"The device takes this for one word."_s);
 }
 
-void tst_CConfigurationCheck_rules::texts()
+void tst_cconfigurationcheck_rules::texts()
 {
     CConfigurationCheck check;
     QVERIFY(check.open(BrokenDocuments::path(QString::fromUtf8(QTest::currentDataTag()))));
@@ -262,6 +262,6 @@ void tst_CConfigurationCheck_rules::texts()
     QTEST(finding.hint, "hint");
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationCheck_rules)
+QTEST_GUILESS_MAIN(tst_cconfigurationcheck_rules)
 
 #include "tst_cconfigurationcheck_rules.moc"

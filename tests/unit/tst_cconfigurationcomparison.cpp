@@ -55,7 +55,7 @@ QByteArray drive(const QByteArray &number, const QByteArray &name,
 } // namespace
 
 /** Differences that mean something, and none of the others. */
-class tst_CConfigurationComparison : public QObject
+class tst_cconfigurationcomparison : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void manyFilesOfOneNameThatAllDiffer();
 };
 
-void tst_CConfigurationComparison::equal_data()
+void tst_cconfigurationcomparison::equal_data()
 {
     QTest::addColumn<QByteArray>("left");
     QTest::addColumn<QByteArray>("right");
@@ -145,7 +145,7 @@ void tst_CConfigurationComparison::equal_data()
                                            "<Date>2026-09-14|<Date>2026-09-15"});
 }
 
-void tst_CConfigurationComparison::equal()
+void tst_cconfigurationcomparison::equal()
 {
     QFETCH(QByteArray, left);
     QFETCH(QByteArray, right);
@@ -153,7 +153,7 @@ void tst_CConfigurationComparison::equal()
     QCOMPARE(difference(right, left), QStringList());
 }
 
-void tst_CConfigurationComparison::different_data()
+void tst_cconfigurationcomparison::different_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
@@ -256,7 +256,7 @@ void tst_CConfigurationComparison::different_data()
               "plug-in a: priority 0 -> (empty)");
 }
 
-void tst_CConfigurationComparison::different()
+void tst_cconfigurationcomparison::different()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
@@ -264,7 +264,7 @@ void tst_CConfigurationComparison::different()
     QCOMPARE(difference(before, after).join(QLatin1Char('\n')), expected);
 }
 
-void tst_CConfigurationComparison::documentsStayAsTheyAre()
+void tst_cconfigurationcomparison::documentsStayAsTheyAre()
 {
     const QByteArray other = changed(example(), {"<Name>Gluer|<Name>GRIPPER"});
     const File left = load(example());
@@ -275,7 +275,7 @@ void tst_CConfigurationComparison::documentsStayAsTheyAre()
     QCOMPARE(saved(*right), other);
 }
 
-void tst_CConfigurationComparison::nothingIsPosted()
+void tst_cconfigurationcomparison::nothingIsPosted()
 {
     const File left = load(document("", drive("x", "A") + drive("", "B")));
     const File right = load(example());
@@ -284,7 +284,7 @@ void tst_CConfigurationComparison::nothingIsPosted()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CConfigurationComparison::withoutDocument()
+void tst_cconfigurationcomparison::withoutDocument()
 {
     CDeviceConfigurationFile10 nothing(nullptr);
     const File empty = load("<VornDeviceConfig version=\"1.0\"/>");
@@ -292,14 +292,14 @@ void tst_CConfigurationComparison::withoutDocument()
     QVERIFY(CConfigurationComparison::compare(*empty, nothing).isEmpty());
 }
 
-void tst_CConfigurationComparison::differencesMakeTheOther_data()
+void tst_cconfigurationcomparison::differencesMakeTheOther_data()
 {
     QTest::addColumn<uint>("rarity");
     QTest::newRow("nothing in common") << 1u;
     QTest::newRow("much in common") << 4u;
 }
 
-void tst_CConfigurationComparison::differencesMakeTheOther()
+void tst_cconfigurationcomparison::differencesMakeTheOther()
 {
     QFETCH(uint, rarity);
     const quint32 runs = 80;
@@ -338,7 +338,7 @@ void tst_CConfigurationComparison::differencesMakeTheOther()
     QVERIFY(differentPairs > static_cast<int>(runs) * 9 / 10);
 }
 
-void tst_CConfigurationComparison::orderOfListsMeansNothing()
+void tst_cconfigurationcomparison::orderOfListsMeansNothing()
 {
     for (quint32 seed = 0; seed < 50; ++seed) {
         RandomConfiguration random(seed);
@@ -361,7 +361,7 @@ void tst_CConfigurationComparison::orderOfListsMeansNothing()
     }
 }
 
-void tst_CConfigurationComparison::manyFiles_data()
+void tst_cconfigurationcomparison::manyFiles_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("names of their own") << QByteArray("%.csv");
@@ -369,7 +369,7 @@ void tst_CConfigurationComparison::manyFiles_data()
 }
 
 /** Nothing to tell which of them belong together, and too many to try all. */
-void tst_CConfigurationComparison::manyFilesOfOneNameThatAllDiffer()
+void tst_cconfigurationcomparison::manyFilesOfOneNameThatAllDiffer()
 {
     const int count = 10000;
     QByteArray before;
@@ -384,7 +384,7 @@ void tst_CConfigurationComparison::manyFilesOfOneNameThatAllDiffer()
     QCOMPARE(lines.constLast(), u"file a [10000]: comment 9999 -> 19999"_s);
 }
 
-void tst_CConfigurationComparison::manyFiles()
+void tst_cconfigurationcomparison::manyFiles()
 {
     QFETCH(QByteArray, name);
     const int count = 10000;
@@ -401,5 +401,5 @@ void tst_CConfigurationComparison::manyFiles()
              QStringList{u"file %1: comment 17 -> changed"_s.arg(which)});
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationComparison)
+QTEST_GUILESS_MAIN(tst_cconfigurationcomparison)
 #include "tst_cconfigurationcomparison.moc"

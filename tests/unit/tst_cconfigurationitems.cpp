@@ -11,7 +11,7 @@
 
 using namespace ItemDocuments;
 
-class tst_CConfigurationItems : public QObject
+class tst_cconfigurationitems : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private:
     QByteArray m_sample;
 };
 
-void tst_CConfigurationItems::initTestCase()
+void tst_cconfigurationitems::initTestCase()
 {
     m_sample = sampleDocument();
     SOpened opened(m_sample);
@@ -50,7 +50,7 @@ void tst_CConfigurationItems::initTestCase()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems::acceptedPaths_data()
+void tst_cconfigurationitems::acceptedPaths_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("value");
@@ -74,7 +74,7 @@ void tst_CConfigurationItems::acceptedPaths_data()
     row("number with zeros", u"drive[007].name"_s, u"Seven"_s);
 }
 
-void tst_CConfigurationItems::acceptedPaths()
+void tst_cconfigurationitems::acceptedPaths()
 {
     QFETCH(QString, path);
     QFETCH(QString, value);
@@ -99,7 +99,7 @@ void tst_CConfigurationItems::acceptedPaths()
     QCOMPARE(opened.items.errorText(), QString());
 }
 
-void tst_CConfigurationItems::refusedPaths_data()
+void tst_cconfigurationitems::refusedPaths_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("errorText");
@@ -186,7 +186,7 @@ void tst_CConfigurationItems::refusedPaths_data()
         "device.options[-trace][2]: there is no such option");
 }
 
-void tst_CConfigurationItems::refusedPaths()
+void tst_cconfigurationitems::refusedPaths()
 {
     QFETCH(QString, path);
     QFETCH(QString, errorText);
@@ -211,7 +211,7 @@ void tst_CConfigurationItems::refusedPaths()
     QCOMPARE(items.errorText(), QString());
 }
 
-void tst_CConfigurationItems::anyKeyCanBeWritten()
+void tst_cconfigurationitems::anyKeyCanBeWritten()
 {
     SOpened opened(configurationOf(QByteArray()));
     RandomText texts(11);
@@ -235,7 +235,7 @@ void tst_CConfigurationItems::anyKeyCanBeWritten()
     }
 }
 
-void tst_CConfigurationItems::everyItemIsListed()
+void tst_cconfigurationitems::everyItemIsListed()
 {
     const SOpened opened(documentOf(
         "<Description><Name>P</Name><Comment/><Version>1.2</Version>"
@@ -308,7 +308,7 @@ void tst_CConfigurationItems::everyItemIsListed()
                           u"device.plugins[m]"_s, u"drive[4]"_s, u"files[x]"_s}));
 }
 
-void tst_CConfigurationItems::itemsBelowAPath_data()
+void tst_cconfigurationitems::itemsBelowAPath_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("items");
@@ -341,7 +341,7 @@ void tst_CConfigurationItems::itemsBelowAPath_data()
         "files[recipes.csv].projectDir = PackagingLine/velkor/conf/\n"_s);
 }
 
-void tst_CConfigurationItems::itemsBelowAPath()
+void tst_cconfigurationitems::itemsBelowAPath()
 {
     QFETCH(QString, path);
     QFETCH(QString, items);
@@ -351,7 +351,7 @@ void tst_CConfigurationItems::itemsBelowAPath()
     QVERIFY(opened.items.contains(path));
 }
 
-void tst_CConfigurationItems::listedItemsCanBeRead()
+void tst_cconfigurationitems::listedItemsCanBeRead()
 {
     const SOpened opened(m_sample);
     const QList<SItem> items = opened.items.items();
@@ -375,7 +375,7 @@ void tst_CConfigurationItems::listedItemsCanBeRead()
     }
 }
 
-void tst_CConfigurationItems::whatIsNotThereIsNotListed()
+void tst_cconfigurationitems::whatIsNotThereIsNotListed()
 {
     const SOpened opened(
         configurationOf("<Dictionary/><FaultTextFile><File/></FaultTextFile><Plugins/>"));
@@ -401,7 +401,7 @@ void tst_CConfigurationItems::whatIsNotThereIsNotListed()
     QVERIFY(!opened.items.contains(u"description"_s));
 }
 
-void tst_CConfigurationItems::entriesAreThoseOfTheReaders()
+void tst_cconfigurationitems::entriesAreThoseOfTheReaders()
 {
     const SOpened opened(configurationOf(
         "<ParameterFiles><Group><File type=\"VornParameters\"><Name>Deep</Name>"
@@ -438,7 +438,7 @@ void tst_CConfigurationItems::entriesAreThoseOfTheReaders()
     QCOMPARE(opened.value(u"device.parameterFiles[Deeper].name"_s), u"Deeper"_s);
 }
 
-void tst_CConfigurationItems::entriesOfOneKeyAreCounted()
+void tst_cconfigurationitems::entriesOfOneKeyAreCounted()
 {
     SOpened opened(configurationOf("<Options>-a 1 -b -a -a 3</Options><Files>"
                                    "<File><Name>x</Name><Comment>1</Comment></File>"
@@ -470,7 +470,7 @@ void tst_CConfigurationItems::entriesOfOneKeyAreCounted()
     QVERIFY(!opened.items.contains(u"files[x][3]"_s));
 }
 
-void tst_CConfigurationItems::drivesAreKnownByTheirNumbers()
+void tst_cconfigurationitems::drivesAreKnownByTheirNumbers()
 {
     QByteArray drives;
     for (const char *number : {"7", "007", " 8 ", "255", "0256", "-1", "left", ""}) {
@@ -490,7 +490,7 @@ void tst_CConfigurationItems::drivesAreKnownByTheirNumbers()
     QCOMPARE(opened.value(u"drive[08].driveNo"_s), u" 8 "_s);
 }
 
-void tst_CConfigurationItems::elements()
+void tst_cconfigurationitems::elements()
 {
     const SOpened opened(m_sample);
     const QMap<QString, QString> names = {
@@ -516,7 +516,7 @@ void tst_CConfigurationItems::elements()
     QCOMPARE(opened.items.element(u"drive[1]"_s).firstChildElement(u"Name"_s).text(), u"Folder"_s);
 }
 
-void tst_CConfigurationItems::kd2FilesAreOfKd2DrivesAlone()
+void tst_cconfigurationitems::kd2FilesAreOfKd2DrivesAlone()
 {
     SOpened opened(m_sample);
     QVERIFY(!opened.items.setValue(u"drive[0].kd2Logic.name"_s, u"x"_s));
@@ -538,7 +538,7 @@ void tst_CConfigurationItems::kd2FilesAreOfKd2DrivesAlone()
     QCOMPARE(device.subDevice(5).toKD2().kd2FirmwareFile().fileName(), u"f.bin"_s);
 }
 
-void tst_CConfigurationItems::withoutDocument()
+void tst_cconfigurationitems::withoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     CConfigurationItems items(file);
@@ -559,7 +559,7 @@ void tst_CConfigurationItems::withoutDocument()
     QCOMPARE(text(items.items()), u"device.name = x\n"_s);
 }
 
-void tst_CConfigurationItems::manyEntries()
+void tst_cconfigurationitems::manyEntries()
 {
     // With a walk along the list for each item this would take until the test is ended.
     const int count = 50000;
@@ -580,5 +580,5 @@ void tst_CConfigurationItems::manyEntries()
     QVERIFY(items.contains(u"device.options[-o49999]"_s));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationItems)
+QTEST_GUILESS_MAIN(tst_cconfigurationitems)
 #include "tst_cconfigurationitems.moc"

@@ -9,7 +9,7 @@
 using namespace ItemDocuments;
 
 /** How entries are renamed, added and removed. */
-class tst_CConfigurationItems_entries : public QObject
+class tst_cconfigurationitems_entries : public QObject
 {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ private:
     QByteArray m_sample;
 };
 
-void tst_CConfigurationItems_entries::initTestCase()
+void tst_cconfigurationitems_entries::initTestCase()
 {
     m_sample = sampleDocument();
     SOpened opened(m_sample);
@@ -47,7 +47,7 @@ void tst_CConfigurationItems_entries::initTestCase()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_entries::rename_data()
+void tst_cconfigurationitems_entries::rename_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("value");
@@ -89,7 +89,7 @@ void tst_CConfigurationItems_entries::rename_data()
     }
 }
 
-void tst_CConfigurationItems_entries::rename()
+void tst_cconfigurationitems_entries::rename()
 {
     QFETCH(QString, path);
     QFETCH(QString, value);
@@ -115,7 +115,7 @@ void tst_CConfigurationItems_entries::rename()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_entries::renamedEntryIsFoundUnderItsNewName()
+void tst_cconfigurationitems_entries::renamedEntryIsFoundUnderItsNewName()
 {
     SOpened opened(m_sample);
     QVERIFY(opened.items.setValue(u"drive[0].driveNo"_s, u"9"_s));
@@ -129,7 +129,7 @@ void tst_CConfigurationItems_entries::renamedEntryIsFoundUnderItsNewName()
     QCOMPARE(twice.file.options(), QStringList({u"-a"_s, u"1"_s, u"-b"_s, u"2"_s}));
 }
 
-void tst_CConfigurationItems_entries::add_data()
+void tst_cconfigurationitems_entries::add_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArrayList>("added");
@@ -165,7 +165,7 @@ void tst_CConfigurationItems_entries::add_data()
                                   "  </SubDevice>"};
 }
 
-void tst_CConfigurationItems_entries::add()
+void tst_cconfigurationitems_entries::add()
 {
     QFETCH(QString, path);
     QFETCH(QByteArrayList, added);
@@ -185,7 +185,7 @@ void tst_CConfigurationItems_entries::add()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_entries::addToNothing_data()
+void tst_cconfigurationitems_entries::addToNothing_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("after");
@@ -210,7 +210,7 @@ void tst_CConfigurationItems_entries::addToNothing_data()
                                          "   <BusId>0</BusId>\n  </SubDevice>\n </Device>\n");
 }
 
-void tst_CConfigurationItems_entries::addToNothing()
+void tst_cconfigurationitems_entries::addToNothing()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, after);
@@ -219,7 +219,7 @@ void tst_CConfigurationItems_entries::addToNothing()
     QCOMPARE(opened.bytes(), after);
 }
 
-void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne_data()
+void tst_cconfigurationitems_entries::addedDriveIsAsAnInsertedOne_data()
 {
     QTest::addColumn<QString>("deviceClass");
     QTest::newRow("KC2 controller") << u"kc2"_s;
@@ -227,7 +227,7 @@ void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne_data()
     QTest::newRow("other") << u"Undefined"_s;
 }
 
-void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne()
+void tst_cconfigurationitems_entries::addedDriveIsAsAnInsertedOne()
 {
     QFETCH(QString, deviceClass);
     SOpened opened(m_sample);
@@ -245,7 +245,7 @@ void tst_CConfigurationItems_entries::addedDriveIsAsAnInsertedOne()
     QVERIFY(!inserted.name().isEmpty());
 }
 
-void tst_CConfigurationItems_entries::remove_data()
+void tst_cconfigurationitems_entries::remove_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArrayList>("removed");
@@ -287,7 +287,7 @@ void tst_CConfigurationItems_entries::remove_data()
     row(u"drive[1].param.name"_s, {"     <Name>Folder.3param</Name>"});
 }
 
-void tst_CConfigurationItems_entries::remove()
+void tst_cconfigurationitems_entries::remove()
 {
     QFETCH(QString, path);
     QFETCH(QByteArrayList, removed);
@@ -304,7 +304,7 @@ void tst_CConfigurationItems_entries::remove()
     QCOMPARE(opened.bytes(), expected);
 }
 
-void tst_CConfigurationItems_entries::removeASingleFileOfSeveral()
+void tst_cconfigurationitems_entries::removeASingleFileOfSeveral()
 {
     // Only the first one counts, and none of them may step into its place.
     SOpened opened(configurationOf("<Dictionary><!--kept--><File><Name>a</Name></File>"
@@ -315,7 +315,7 @@ void tst_CConfigurationItems_entries::removeASingleFileOfSeveral()
     QVERIFY(opened.bytes().contains("   <Dictionary>\n    <!--kept-->\n    <Extra/>\n"));
 }
 
-void tst_CConfigurationItems_entries::optionsKeepTheirBlanks_data()
+void tst_cconfigurationitems_entries::optionsKeepTheirBlanks_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("option");
@@ -336,7 +336,7 @@ void tst_CConfigurationItems_entries::optionsKeepTheirBlanks_data()
     row("text before", u"free -a"_s, u"-a"_s, u"free -a x y"_s, u"free"_s);
 }
 
-void tst_CConfigurationItems_entries::optionsKeepTheirBlanks()
+void tst_cconfigurationitems_entries::optionsKeepTheirBlanks()
 {
     QFETCH(QString, text);
     QFETCH(QString, option);
@@ -371,7 +371,7 @@ void tst_CConfigurationItems_entries::optionsKeepTheirBlanks()
     QCOMPARE(stored(other), removed.isEmpty() ? u"-z"_s : removed + u" -z"_s);
 }
 
-void tst_CConfigurationItems_entries::failuresChangeNothing_data()
+void tst_cconfigurationitems_entries::failuresChangeNothing_data()
 {
     QTest::addColumn<bool>("isAdding");
     QTest::addColumn<QString>("path");
@@ -408,7 +408,7 @@ void tst_CConfigurationItems_entries::failuresChangeNothing_data()
     row(false, u"device.options[-opc].name"_s, u"the entry cannot be without it"_s);
 }
 
-void tst_CConfigurationItems_entries::failuresChangeNothing()
+void tst_cconfigurationitems_entries::failuresChangeNothing()
 {
     QFETCH(bool, isAdding);
     QFETCH(QString, path);
@@ -419,5 +419,5 @@ void tst_CConfigurationItems_entries::failuresChangeNothing()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationItems_entries)
+QTEST_GUILESS_MAIN(tst_cconfigurationitems_entries)
 #include "tst_cconfigurationitems_entries.moc"

@@ -49,7 +49,7 @@ bool isSpecial(const QString &path)
 } // namespace
 
 /** How the value of an item is set. */
-class tst_CConfigurationItems_setting : public QObject
+class tst_cconfigurationitems_setting : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ private:
     QByteArray m_sample;
 };
 
-void tst_CConfigurationItems_setting::initTestCase()
+void tst_cconfigurationitems_setting::initTestCase()
 {
     m_sample = sampleDocument();
     SOpened opened(m_sample);
@@ -80,7 +80,7 @@ void tst_CConfigurationItems_setting::initTestCase()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_setting::setOneItem_data()
+void tst_cconfigurationitems_setting::setOneItem_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("value");
@@ -92,7 +92,7 @@ void tst_CConfigurationItems_setting::setOneItem_data()
     }
 }
 
-void tst_CConfigurationItems_setting::setOneItem()
+void tst_cconfigurationitems_setting::setOneItem()
 {
     QFETCH(QString, path);
     QFETCH(QString, value);
@@ -114,7 +114,7 @@ void tst_CConfigurationItems_setting::setOneItem()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_setting::setEveryItem()
+void tst_cconfigurationitems_setting::setEveryItem()
 {
     SOpened opened(m_sample);
     QList<SItem> expected;
@@ -142,7 +142,7 @@ void tst_CConfigurationItems_setting::setEveryItem()
     QCOMPARE(again.file.description().creationDate(), QDate(2024, 2, 29));
 }
 
-void tst_CConfigurationItems_setting::values_data()
+void tst_cconfigurationitems_setting::values_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("value");
@@ -242,7 +242,7 @@ void tst_CConfigurationItems_setting::values_data()
     }
 }
 
-void tst_CConfigurationItems_setting::values()
+void tst_cconfigurationitems_setting::values()
 {
     QFETCH(QString, path);
     QFETCH(QString, value);
@@ -261,7 +261,7 @@ void tst_CConfigurationItems_setting::values()
     QCOMPARE(again.value(path), value);
 }
 
-void tst_CConfigurationItems_setting::directoriesAreNormalised_data()
+void tst_cconfigurationitems_setting::directoriesAreNormalised_data()
 {
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QString>("onDevice");
@@ -273,7 +273,7 @@ void tst_CConfigurationItems_setting::directoriesAreNormalised_data()
     QTest::newRow("empty") << u""_s << u""_s << u""_s;
 }
 
-void tst_CConfigurationItems_setting::directoriesAreNormalised()
+void tst_cconfigurationitems_setting::directoriesAreNormalised()
 {
     QFETCH(QString, directory);
     QFETCH(QString, onDevice);
@@ -288,7 +288,7 @@ void tst_CConfigurationItems_setting::directoriesAreNormalised()
     }
 }
 
-void tst_CConfigurationItems_setting::missingElementsAreCreated_data()
+void tst_cconfigurationitems_setting::missingElementsAreCreated_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QString>("path");
@@ -337,7 +337,7 @@ void tst_CConfigurationItems_setting::missingElementsAreCreated_data()
                    " </Device>\n"));
 }
 
-void tst_CConfigurationItems_setting::missingElementsAreCreated()
+void tst_cconfigurationitems_setting::missingElementsAreCreated()
 {
     QFETCH(QByteArray, before);
     QFETCH(QString, path);
@@ -351,7 +351,7 @@ void tst_CConfigurationItems_setting::missingElementsAreCreated()
     QCOMPARE(opened.bytes(), after);
 }
 
-void tst_CConfigurationItems_setting::activeFpgaFile()
+void tst_cconfigurationitems_setting::activeFpgaFile()
 {
     SOpened opened(m_sample);
     CConfigurationItems &items = opened.items;
@@ -369,7 +369,7 @@ void tst_CConfigurationItems_setting::activeFpgaFile()
     QCOMPARE(opened.bytes(), m_sample);
 }
 
-void tst_CConfigurationItems_setting::commentsAndElementsInAnItemStay()
+void tst_cconfigurationitems_setting::commentsAndElementsInAnItemStay()
 {
     SOpened opened(documentOf(" <Device>\n  <Name>ab<!--why--><Extra/></Name>\n </Device>\n"));
     QVERIFY(opened.items.setValue(u"device.name"_s, u"new"_s));
@@ -378,5 +378,5 @@ void tst_CConfigurationItems_setting::commentsAndElementsInAnItemStay()
     QVERIFY(opened.bytes().contains("<Extra/>"));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationItems_setting)
+QTEST_GUILESS_MAIN(tst_cconfigurationitems_setting)
 #include "tst_cconfigurationitems_setting.moc"

@@ -89,7 +89,7 @@ const QByteArray Image11First = "kd3_motion_v12.bit</Name>\n    </File>\n    <Fi
 } // namespace
 
 /** Three-way merges: what is taken, what stays, and what is told. */
-class tst_CConfigurationMerge : public QObject
+class tst_cconfigurationmerge : public QObject
 {
     Q_OBJECT
 
@@ -108,7 +108,7 @@ private Q_SLOTS:
     void cleanMergesAreSymmetrical();
 };
 
-void tst_CConfigurationMerge::merge_data()
+void tst_cconfigurationmerge::merge_data()
 {
     QTest::addColumn<Bytes>("ours");
     QTest::addColumn<Bytes>("theirs");
@@ -242,7 +242,7 @@ void tst_CConfigurationMerge::merge_data()
         "drive 0: type KD3_drive -> KD2_drive\ndrive 0: KD2 logic (l.bit) added", "");
 }
 
-void tst_CConfigurationMerge::merge()
+void tst_cconfigurationmerge::merge()
 {
     QFETCH(Bytes, ours);
     QFETCH(Bytes, theirs);
@@ -275,7 +275,7 @@ void tst_CConfigurationMerge::merge()
     }
 }
 
-void tst_CConfigurationMerge::restOfOursStays()
+void tst_cconfigurationmerge::restOfOursStays()
 {
     const File base = load(example());
     const File ours = load(changed(
@@ -290,7 +290,7 @@ void tst_CConfigurationMerge::restOfOursStays()
     QCOMPARE(saved(*ours), changed(before, {"<Priority>20|<Priority>30"}));
 }
 
-void tst_CConfigurationMerge::whatCannotBeStoredIsAConflict()
+void tst_cconfigurationmerge::whatCannotBeStoredIsAConflict()
 {
     const File base = load(example());
     const File ours = load(changed(example(), {">Gluer<|>A<"}));
@@ -310,7 +310,7 @@ void tst_CConfigurationMerge::whatCannotBeStoredIsAConflict()
     QVERIFY(merge.patch().apply(*ours, mismatches));
 }
 
-void tst_CConfigurationMerge::entriesOfOneKey()
+void tst_cconfigurationmerge::entriesOfOneKey()
 {
     const Bytes three = {newFile("a", "1"), newFile("a", "2"), newFile("a", "3")};
     const QByteArray start = changed(example(), three);
@@ -332,7 +332,7 @@ void tst_CConfigurationMerge::entriesOfOneKey()
     QVERIFY(comments.contains(u"three"_s));
 }
 
-void tst_CConfigurationMerge::entriesOfOneKeyAddedByBoth()
+void tst_cconfigurationmerge::entriesOfOneKeyAddedByBoth()
 {
     // The first and the last one of ours are equally near to the last one of theirs.
     const auto document = [](const Bytes &commentsAndDirectories) {
@@ -366,7 +366,7 @@ void tst_CConfigurationMerge::entriesOfOneKeyAddedByBoth()
     QCOMPARE(others, conflicts);
 }
 
-void tst_CConfigurationMerge::conflictHasItsParts()
+void tst_cconfigurationmerge::conflictHasItsParts()
 {
     const File base = load(example());
     const File ours = load(changed(example(), {">Gluer<|>A<"}));
@@ -382,7 +382,7 @@ void tst_CConfigurationMerge::conflictHasItsParts()
     QVERIFY(conflict.details.isEmpty());
 }
 
-void tst_CConfigurationMerge::oursAloneIsOurs()
+void tst_cconfigurationmerge::oursAloneIsOurs()
 {
     for (quint32 seed = 0; seed < 25; ++seed) {
         RandomConfiguration random(seed);
@@ -394,7 +394,7 @@ void tst_CConfigurationMerge::oursAloneIsOurs()
     }
 }
 
-void tst_CConfigurationMerge::theirsAloneIsTheirs()
+void tst_cconfigurationmerge::theirsAloneIsTheirs()
 {
     for (quint32 seed = 0; seed < 25; ++seed) {
         RandomConfiguration random(seed);
@@ -413,7 +413,7 @@ void tst_CConfigurationMerge::theirsAloneIsTheirs()
     }
 }
 
-void tst_CConfigurationMerge::sameChangesAreOne()
+void tst_cconfigurationmerge::sameChangesAreOne()
 {
     for (quint32 seed = 0; seed < 25; ++seed) {
         RandomConfiguration random(seed);
@@ -428,7 +428,7 @@ void tst_CConfigurationMerge::sameChangesAreOne()
     }
 }
 
-void tst_CConfigurationMerge::conflictsAreSymmetrical()
+void tst_cconfigurationmerge::conflictsAreSymmetrical()
 {
     int conflicts = 0;
     for (quint32 seed = 0; seed < 60; ++seed) {
@@ -459,7 +459,7 @@ void tst_CConfigurationMerge::conflictsAreSymmetrical()
     QVERIFY(conflicts > 60);
 }
 
-void tst_CConfigurationMerge::cleanMergesAreSymmetrical()
+void tst_cconfigurationmerge::cleanMergesAreSymmetrical()
 {
     int clean = 0;
     for (quint32 seed = 0; seed < 100; ++seed) {
@@ -487,5 +487,5 @@ void tst_CConfigurationMerge::cleanMergesAreSymmetrical()
     QVERIFY(clean > 25);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationMerge)
+QTEST_GUILESS_MAIN(tst_cconfigurationmerge)
 #include "tst_cconfigurationmerge.moc"

@@ -35,7 +35,7 @@ QStringList itemsOf(const QList<CConfigurationOverview::SFile> &list)
 
 } // namespace
 
-class tst_CConfigurationOverview : public QObject
+class tst_cconfigurationoverview : public QObject
 {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void withoutDevice();
 };
 
-void tst_CConfigurationOverview::wholeDevice()
+void tst_cconfigurationoverview::wholeDevice()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -86,7 +86,7 @@ void tst_CConfigurationOverview::wholeDevice()
 }
 
 /** However it is put together, it is what allFiles() tells. */
-void tst_CConfigurationOverview::placesAreThoseOfTheDevice()
+void tst_cconfigurationoverview::placesAreThoseOfTheDevice()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -120,7 +120,7 @@ void tst_CConfigurationOverview::placesAreThoseOfTheDevice()
     QCOMPARE(overview.fileCount(), expected.size() + 1);
 }
 
-void tst_CConfigurationOverview::itemsAreThoseOfTheDocument()
+void tst_cconfigurationoverview::itemsAreThoseOfTheDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -145,7 +145,7 @@ void tst_CConfigurationOverview::itemsAreThoseOfTheDocument()
     QCOMPARE(shown, CConfigurationItems(file).entries());
 }
 
-void tst_CConfigurationOverview::driveItems_data()
+void tst_cconfigurationoverview::driveItems_data()
 {
     QTest::addColumn<QString>("numbers");
     QTest::addColumn<QString>("expected");
@@ -165,7 +165,7 @@ void tst_CConfigurationOverview::driveItems_data()
     QTest::newRow("written otherwise") << u"01 1"_s << u"1=drive[1] 2=drive[1][2]"_s;
 }
 
-void tst_CConfigurationOverview::driveItems()
+void tst_cconfigurationoverview::driveItems()
 {
     QFETCH(QString, numbers);
     QByteArray subDevices;
@@ -189,7 +189,7 @@ void tst_CConfigurationOverview::driveItems()
     QTEST(found.join(QLatin1Char(' ')), "expected");
 }
 
-void tst_CConfigurationOverview::keysThatRepeat()
+void tst_cconfigurationoverview::keysThatRepeat()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document("<FPGA_FileNames>" + files("a,a,b]\\") + "</FPGA_FileNames>"
@@ -213,7 +213,7 @@ void tst_CConfigurationOverview::keysThatRepeat()
     QCOMPARE(overview.fileCount(), 1 + 3 + 3 + 2);
 }
 
-void tst_CConfigurationOverview::optionsWithArguments()
+void tst_cconfigurationoverview::optionsWithArguments()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document("<Options>first -log a b -v -log c</Options>")));
@@ -229,7 +229,7 @@ void tst_CConfigurationOverview::optionsWithArguments()
 
 /** Where the document tells a directory that reading the device removes, it is shown all the same.
  */
-void tst_CConfigurationOverview::directoriesOfTheDocument()
+void tst_cconfigurationoverview::directoriesOfTheDocument()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -241,7 +241,7 @@ void tst_CConfigurationOverview::directoriesOfTheDocument()
     QCOMPARE(catcher.warnings().size(), 1);
 }
 
-void tst_CConfigurationOverview::withoutDescription()
+void tst_cconfigurationoverview::withoutDescription()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document(QByteArray())));
@@ -251,7 +251,7 @@ void tst_CConfigurationOverview::withoutDescription()
     QVERIFY(overview.description().version().isEmpty());
 }
 
-void tst_CConfigurationOverview::withoutDevice()
+void tst_cconfigurationoverview::withoutDevice()
 {
     CDeviceConfigurationFile10 file(nullptr);
     const CConfigurationOverview withoutDocument(file);
@@ -264,5 +264,5 @@ void tst_CConfigurationOverview::withoutDevice()
     QCOMPARE(overview.fileCount(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationOverview)
+QTEST_GUILESS_MAIN(tst_cconfigurationoverview)
 #include "tst_cconfigurationoverview.moc"

@@ -73,7 +73,7 @@ const QByteArray Format = "\"format\":\"vrn-configuration-patch\"";
 } // namespace
 
 /** Patches: how they read, how they are kept, and what they do to a document. */
-class tst_CConfigurationPatch : public QObject
+class tst_cconfigurationpatch : public QObject
 {
     Q_OBJECT
 
@@ -101,7 +101,7 @@ private Q_SLOTS:
     void positionsAndHandlesStay();
 };
 
-void tst_CConfigurationPatch::describe_data()
+void tst_cconfigurationpatch::describe_data()
 {
     QTest::addColumn<SChange>("change");
     QTest::addColumn<QString>("expected");
@@ -173,7 +173,7 @@ void tst_CConfigurationPatch::describe_data()
         << set(u"spare[x].part.word"_s, u"a"_s, u"b"_s) << u"spare x: part: word a -> b"_s;
 }
 
-void tst_CConfigurationPatch::describe()
+void tst_cconfigurationpatch::describe()
 {
     QFETCH(SChange, change);
     QFETCH(QString, expected);
@@ -181,7 +181,7 @@ void tst_CConfigurationPatch::describe()
     QCOMPARE(CConfigurationPatch::describe(change), expected.section(QLatin1Char('\n'), 0, 0));
 }
 
-void tst_CConfigurationPatch::jsonIsFixed()
+void tst_cconfigurationpatch::jsonIsFixed()
 {
     const CConfigurationPatch patch = patchOf(
         {set(u"drive[2].name"_s, u"DRIVE-2"_s, u"GRIPPER"_s), cleared(u"device.comment"_s, u"ß"_s),
@@ -231,12 +231,12 @@ void tst_CConfigurationPatch::jsonIsFixed()
 )"));
 }
 
-void tst_CConfigurationPatch::jsonRoundTrip_data()
+void tst_cconfigurationpatch::jsonRoundTrip_data()
 {
     describe_data();
 }
 
-void tst_CConfigurationPatch::jsonRoundTrip()
+void tst_cconfigurationpatch::jsonRoundTrip()
 {
     QFETCH(SChange, change);
     const CConfigurationPatch patch = patchOf({change});
@@ -247,7 +247,7 @@ void tst_CConfigurationPatch::jsonRoundTrip()
     QVERIFY(isSame(read.changes(), patch.changes()));
 }
 
-void tst_CConfigurationPatch::jsonRoundTripOfRandomPatches()
+void tst_cconfigurationpatch::jsonRoundTripOfRandomPatches()
 {
     for (quint32 seed = 0; seed < 50; ++seed) {
         RandomConfiguration random(seed);
@@ -262,7 +262,7 @@ void tst_CConfigurationPatch::jsonRoundTripOfRandomPatches()
     }
 }
 
-void tst_CConfigurationPatch::refused_data()
+void tst_cconfigurationpatch::refused_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("reason");
@@ -353,7 +353,7 @@ void tst_CConfigurationPatch::refused_data()
     }
 }
 
-void tst_CConfigurationPatch::refused()
+void tst_cconfigurationpatch::refused()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, reason);
@@ -365,7 +365,7 @@ void tst_CConfigurationPatch::refused()
     QVERIFY(patch.isEmpty());
 }
 
-void tst_CConfigurationPatch::refusedKeepsThePatch()
+void tst_cconfigurationpatch::refusedKeepsThePatch()
 {
     CConfigurationPatch patch = patchOf({removed(u"files[a]"_s)});
     QString error;
@@ -375,7 +375,7 @@ void tst_CConfigurationPatch::refusedKeepsThePatch()
     QVERIFY(error.isEmpty());
 }
 
-void tst_CConfigurationPatch::apply_data()
+void tst_cconfigurationpatch::apply_data()
 {
     QTest::addColumn<SChange>("change");
     QTest::addColumn<QByteArray>("replacement");
@@ -425,7 +425,7 @@ void tst_CConfigurationPatch::apply_data()
     row("same value", set(u"device.name"_s, u"PackagingLine"_s, u"PackagingLine"_s), "<|<");
 }
 
-void tst_CConfigurationPatch::apply()
+void tst_cconfigurationpatch::apply()
 {
     QFETCH(SChange, change);
     QFETCH(QByteArray, replacement);
@@ -441,7 +441,7 @@ void tst_CConfigurationPatch::apply()
     QCOMPARE(QString::fromUtf8(saved(*file)), QString::fromUtf8(expected));
 }
 
-void tst_CConfigurationPatch::applyKeepsTheRest()
+void tst_cconfigurationpatch::applyKeepsTheRest()
 {
     const QByteArray marked =
         changed(example(),
@@ -458,7 +458,7 @@ void tst_CConfigurationPatch::applyKeepsTheRest()
     QCOMPARE(saved(*file), changed(before, {"<Priority>20|<Priority>30", ">Gluer<|>GRIPPER<"}));
 }
 
-void tst_CConfigurationPatch::mismatch_data()
+void tst_cconfigurationpatch::mismatch_data()
 {
     QTest::addColumn<SChange>("change");
     QTest::addColumn<QString>("expected");
@@ -514,7 +514,7 @@ void tst_CConfigurationPatch::mismatch_data()
     row("list to add to", added(u"spare[a]"_s), u"there is no such item"_s);
 }
 
-void tst_CConfigurationPatch::mismatch()
+void tst_cconfigurationpatch::mismatch()
 {
     QFETCH(SChange, change);
     QFETCH(QString, expected);
@@ -531,7 +531,7 @@ void tst_CConfigurationPatch::mismatch()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CConfigurationPatch::everyMismatchIsTold()
+void tst_cconfigurationpatch::everyMismatchIsTold()
 {
     const File file = load(example());
     QStringList mismatches;
@@ -546,7 +546,7 @@ void tst_CConfigurationPatch::everyMismatchIsTold()
                      u"plug-in motion: version is 2, but (empty) is expected."_s}));
 }
 
-void tst_CConfigurationPatch::checkChangesNothing()
+void tst_cconfigurationpatch::checkChangesNothing()
 {
     const File file = load(example());
     const QDomDocument document = file->domDocument();
@@ -556,7 +556,7 @@ void tst_CConfigurationPatch::checkChangesNothing()
     QVERIFY(file->domDocument() == document);
 }
 
-void tst_CConfigurationPatch::withoutDocument()
+void tst_cconfigurationpatch::withoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QStringList mismatches;
@@ -564,7 +564,7 @@ void tst_CConfigurationPatch::withoutDocument()
     QCOMPARE(mismatches, QStringList{u"There is no configuration."_s});
 }
 
-void tst_CConfigurationPatch::emptyPatch()
+void tst_cconfigurationpatch::emptyPatch()
 {
     const File file = load(example());
     QStringList mismatches = {u"old"_s};
@@ -576,7 +576,7 @@ void tst_CConfigurationPatch::emptyPatch()
     QCOMPARE(saved(*file), example());
 }
 
-void tst_CConfigurationPatch::hiddenFilesOfADriveStayHidden()
+void tst_cconfigurationpatch::hiddenFilesOfADriveStayHidden()
 {
     // The drive has the elements of a KD2 drive, which do not count for a KD3 drive.
     const File before = load(changed(example(), {"type=\"KD2_drive\"|type=\"KD3_drive\""}));
@@ -595,7 +595,7 @@ void tst_CConfigurationPatch::hiddenFilesOfADriveStayHidden()
     QCOMPARE(name, u"Gluer.3param"_s);
 }
 
-void tst_CConfigurationPatch::imagesOfOneFileName()
+void tst_cconfigurationpatch::imagesOfOneFileName()
 {
     const File file = load(example());
     QVERIFY(file->setFpgaFiles({u"a/x.bit"_s, u"x.bit"_s, u"b/x.bit"_s}));
@@ -605,7 +605,7 @@ void tst_CConfigurationPatch::imagesOfOneFileName()
     QCOMPARE(file->fpgaFiles(), QStringList({u"b/x.bit"_s, u"a/x.bit"_s, u"x.bit"_s}));
 }
 
-void tst_CConfigurationPatch::positionsAndHandlesStay()
+void tst_cconfigurationpatch::positionsAndHandlesStay()
 {
     CDeviceConfigurationFile10 file(nullptr);
     file.keepPositions(true);
@@ -620,5 +620,5 @@ void tst_CConfigurationPatch::positionsAndHandlesStay()
     QVERIFY(device.firstChildElement(u"ConfigurationName"_s).isNull());
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationPatch)
+QTEST_GUILESS_MAIN(tst_cconfigurationpatch)
 #include "tst_cconfigurationpatch.moc"

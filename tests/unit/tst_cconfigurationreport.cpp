@@ -110,7 +110,7 @@ QList<SConfigurationFinding> findingsEverywhere()
 
 } // namespace
 
-class tst_CConfigurationReport : public QObject
+class tst_cconfigurationreport : public QObject
 {
     Q_OBJECT
 
@@ -131,7 +131,7 @@ private Q_SLOTS:
     void manyFiles();
 };
 
-void tst_CConfigurationReport::page_data()
+void tst_cconfigurationreport::page_data()
 {
     QTest::addColumn<CDeviceElement>("device");
     QTest::addColumn<bool>("hasDevice");
@@ -147,7 +147,7 @@ void tst_CConfigurationReport::page_data()
 }
 
 /** What holds for each page. */
-void tst_CConfigurationReport::page()
+void tst_cconfigurationreport::page()
 {
     QFETCH(CDeviceElement, device);
     QFETCH(bool, hasDevice);
@@ -215,7 +215,7 @@ void tst_CConfigurationReport::page()
              findings.isEmpty() ? 0 : findings.size() + 2);
 }
 
-void tst_CConfigurationReport::header()
+void tst_cconfigurationreport::header()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -255,7 +255,7 @@ void tst_CConfigurationReport::header()
                           u"%1Files"_s.arg(device.allFiles().size() + 1), u"2Plug-ins"_s}));
 }
 
-void tst_CConfigurationReport::everyFileWithItsPlaces()
+void tst_cconfigurationreport::everyFileWithItsPlaces()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -288,7 +288,7 @@ void tst_CConfigurationReport::everyFileWithItsPlaces()
     }
 }
 
-void tst_CConfigurationReport::kindsAndMarks()
+void tst_cconfigurationreport::kindsAndMarks()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -305,7 +305,7 @@ void tst_CConfigurationReport::kindsAndMarks()
     QVERIFY(Page::all(row(u"spare.bit"_s), u"span"_s).isEmpty());
 }
 
-void tst_CConfigurationReport::drives()
+void tst_cconfigurationreport::drives()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -322,7 +322,7 @@ void tst_CConfigurationReport::drives()
     QVERIFY(other.text().contains(u"4294967295"_s));
 }
 
-void tst_CConfigurationReport::pluginsAndOptions()
+void tst_cconfigurationreport::pluginsAndOptions()
 {
     CDeviceConfigurationFile10 file(nullptr);
     CDeviceElement device = SampleConfiguration::device();
@@ -346,7 +346,7 @@ void tst_CConfigurationReport::pluginsAndOptions()
     QCOMPARE(options, SampleConfiguration::options());
 }
 
-void tst_CConfigurationReport::emptyLists()
+void tst_cconfigurationreport::emptyLists()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setDevice(file, CDeviceElement()));
@@ -368,7 +368,7 @@ void tst_CConfigurationReport::emptyLists()
     QCOMPARE(headingAbove(found.byId(u"finding-1"_s)), u"FPGA images"_s);
 }
 
-void tst_CConfigurationReport::nastyTexts()
+void tst_cconfigurationreport::nastyTexts()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -407,7 +407,7 @@ void tst_CConfigurationReport::nastyTexts()
 }
 
 /** The document can carry few of them; a finding may quote whatever there is. */
-void tst_CConfigurationReport::controlCharactersOfFindings()
+void tst_cconfigurationreport::controlCharactersOfFindings()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -422,7 +422,7 @@ void tst_CConfigurationReport::controlCharactersOfFindings()
                           u"\uFFFD\u2400\uFFFD\uFFFD\U0001F680"_s));
 }
 
-void tst_CConfigurationReport::sameBytes()
+void tst_cconfigurationreport::sameBytes()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -441,7 +441,7 @@ void tst_CConfigurationReport::sameBytes()
     QVERIFY(!Page(again).html().contains(today));
 }
 
-void tst_CConfigurationReport::texts()
+void tst_cconfigurationreport::texts()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -476,7 +476,7 @@ void tst_CConfigurationReport::texts()
     }
 }
 
-void tst_CConfigurationReport::styleSheet()
+void tst_cconfigurationreport::styleSheet()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -500,7 +500,7 @@ void tst_CConfigurationReport::styleSheet()
     });
 }
 
-void tst_CConfigurationReport::manyFiles()
+void tst_cconfigurationreport::manyFiles()
 {
     const int count = 10000;
     CDeviceConfigurationFile10 file(nullptr);
@@ -518,5 +518,5 @@ void tst_CConfigurationReport::manyFiles()
     QVERIFY(html.size() < 2000 * count);
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationReport)
+QTEST_GUILESS_MAIN(tst_cconfigurationreport)
 #include "tst_cconfigurationreport.moc"

@@ -16,7 +16,7 @@ const QChar Ellipsis(0x2026);
 } // namespace
 
 /** The drawing of the device. */
-class tst_CConfigurationReport_drawing : public QObject
+class tst_cconfigurationreport_drawing : public QObject
 {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void textsInTheDrawingAreShortened();
 };
 
-void tst_CConfigurationReport_drawing::drawing_data()
+void tst_cconfigurationreport_drawing::drawing_data()
 {
     QTest::addColumn<int>("driveCount");
     for (const int count : {0, 1, 3, 4, 5, 12, 16, 17, 255, 256}) {
@@ -36,7 +36,7 @@ void tst_CConfigurationReport_drawing::drawing_data()
 }
 
 /** Nothing reaches out of the drawing, and no module lies on another one. */
-void tst_CConfigurationReport_drawing::drawing()
+void tst_cconfigurationreport_drawing::drawing()
 {
     QFETCH(int, driveCount);
     CDeviceConfigurationFile10 file(nullptr);
@@ -86,7 +86,7 @@ void tst_CConfigurationReport_drawing::drawing()
     }
 }
 
-void tst_CConfigurationReport_drawing::marksInTheDrawing()
+void tst_cconfigurationreport_drawing::marksInTheDrawing()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setDevice(file, LargeConfiguration::device(0, 4)));
@@ -121,7 +121,7 @@ void tst_CConfigurationReport_drawing::marksInTheDrawing()
     QCOMPARE(device.html().count("href=\"#mark-error\""), 2);
 }
 
-void tst_CConfigurationReport_drawing::textsInTheDrawingAreShortened()
+void tst_cconfigurationreport_drawing::textsInTheDrawingAreShortened()
 {
     const QString accented = QString(u"e\u0301"_s).repeated(60);
     CDeviceElement device;
@@ -162,5 +162,5 @@ void tst_CConfigurationReport_drawing::textsInTheDrawingAreShortened()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationReport_drawing)
+QTEST_GUILESS_MAIN(tst_cconfigurationreport_drawing)
 #include "tst_cconfigurationreport_drawing.moc"

@@ -9,7 +9,7 @@
 using namespace ReportPages;
 
 /** Where the page shows what the check found. */
-class tst_CConfigurationReport_findings : public QObject
+class tst_cconfigurationreport_findings : public QObject
 {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private Q_SLOTS:
     void nothingFound();
 };
 
-void tst_CConfigurationReport_findings::findingsStandBesideTheirItems_data()
+void tst_cconfigurationreport_findings::findingsStandBesideTheirItems_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QString>("heading");
@@ -69,7 +69,7 @@ void tst_CConfigurationReport_findings::findingsStandBesideTheirItems_data()
     row("files[Größe <&>.txt]", "Additional files", "Größe <&>.txt");
 }
 
-void tst_CConfigurationReport_findings::findingsStandBesideTheirItems()
+void tst_cconfigurationreport_findings::findingsStandBesideTheirItems()
 {
     QFETCH(QString, item);
     CDeviceConfigurationFile10 file(nullptr);
@@ -84,7 +84,7 @@ void tst_CConfigurationReport_findings::findingsStandBesideTheirItems()
     }
 }
 
-void tst_CConfigurationReport_findings::findingsOfTheCheck_data()
+void tst_cconfigurationreport_findings::findingsOfTheCheck_data()
 {
     QTest::addColumn<QString>("path");
     int count = 0;
@@ -100,7 +100,7 @@ void tst_CConfigurationReport_findings::findingsOfTheCheck_data()
 }
 
 /** Whatever the check finds has its place, and none but that of the whole document at the top. */
-void tst_CConfigurationReport_findings::findingsOfTheCheck()
+void tst_cconfigurationreport_findings::findingsOfTheCheck()
 {
     QFETCH(QString, path);
     const MessageCatcher catcher;
@@ -130,7 +130,7 @@ void tst_CConfigurationReport_findings::findingsOfTheCheck()
     }
 }
 
-void tst_CConfigurationReport_findings::findingIsTold()
+void tst_cconfigurationreport_findings::findingIsTold()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -156,7 +156,7 @@ void tst_CConfigurationReport_findings::findingIsTold()
              u"ErrorWhat is wrong with 'device.name'.device.nameline 12, column 34"_s);
 }
 
-void tst_CConfigurationReport_findings::severities()
+void tst_cconfigurationreport_findings::severities()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -173,7 +173,7 @@ void tst_CConfigurationReport_findings::severities()
     QCOMPARE(tiles.at(1).text(), u"2Warnings"_s);
 }
 
-void tst_CConfigurationReport_findings::longSummaryIsFolded()
+void tst_cconfigurationreport_findings::longSummaryIsFolded()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -192,7 +192,7 @@ void tst_CConfigurationReport_findings::longSummaryIsFolded()
     QCOMPARE(Page::all(page.all(u"div"_s, u"summary"_s).first(), u"a"_s).size(), 13);
 }
 
-void tst_CConfigurationReport_findings::nothingFound()
+void tst_cconfigurationreport_findings::nothingFound()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
@@ -203,5 +203,5 @@ void tst_CConfigurationReport_findings::nothingFound()
     QVERIFY(!found.root().text().contains(u"Nothing was found"_s));
 }
 
-QTEST_GUILESS_MAIN(tst_CConfigurationReport_findings)
+QTEST_GUILESS_MAIN(tst_cconfigurationreport_findings)
 #include "tst_cconfigurationreport_findings.moc"

@@ -53,7 +53,7 @@ quint16 randomNumber(QRandomGenerator &random)
 
 } // namespace
 
-class tst_CDeviceHardwareId : public QObject
+class tst_cdevicehardwareid : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private slots:
     void streamForm();
 };
 
-void tst_CDeviceHardwareId::null()
+void tst_cdevicehardwareid::null()
 {
     const CDeviceHardwareId id;
     QVERIFY(id.isNull());
@@ -94,7 +94,7 @@ void tst_CDeviceHardwareId::null()
     QCOMPARE(cleared, id);
 }
 
-void tst_CDeviceHardwareId::setters()
+void tst_cdevicehardwareid::setters()
 {
     CDeviceHardwareId id = sample();
     const CDeviceHardwareId copy = id;
@@ -110,7 +110,7 @@ void tst_CDeviceHardwareId::setters()
     QCOMPARE(id.hardwareId(), text("KD3:Other:3:2:1"));
 }
 
-void tst_CDeviceHardwareId::comparison_data()
+void tst_cdevicehardwareid::comparison_data()
 {
     QTest::addColumn<CDeviceHardwareId>("other");
 
@@ -122,7 +122,7 @@ void tst_CDeviceHardwareId::comparison_data()
     QTest::newRow("revision") << identity(text("KD3"), text("Servo Drive 8A"), 3, 2, 2);
 }
 
-void tst_CDeviceHardwareId::comparison()
+void tst_cdevicehardwareid::comparison()
 {
     QFETCH(CDeviceHardwareId, other);
     QVERIFY(other != sample());
@@ -132,7 +132,7 @@ void tst_CDeviceHardwareId::comparison()
     QVERIFY(!(sample() != sample()));
 }
 
-void tst_CDeviceHardwareId::accept_data()
+void tst_cdevicehardwareid::accept_data()
 {
     QTest::addColumn<QString>("form");
     QTest::addColumn<CDeviceHardwareId>("id");
@@ -163,7 +163,7 @@ void tst_CDeviceHardwareId::accept_data()
         << text("%D83D%DE00:n:1:2:3") << identity(text("\xf0\x9f\x98\x80"), text("n"), 1, 2, 3);
 }
 
-void tst_CDeviceHardwareId::accept()
+void tst_cdevicehardwareid::accept()
 {
     QFETCH(QString, form);
     QFETCH(CDeviceHardwareId, id);
@@ -175,7 +175,7 @@ void tst_CDeviceHardwareId::accept()
     QCOMPARE(CDeviceHardwareId(id.hardwareId()), id);
 }
 
-void tst_CDeviceHardwareId::reject_data()
+void tst_cdevicehardwareid::reject_data()
 {
     QTest::addColumn<QString>("form");
 
@@ -221,7 +221,7 @@ void tst_CDeviceHardwareId::reject_data()
     row("full-width separator", "KD3\xef\xbc\x9an:3:2:1");
 }
 
-void tst_CDeviceHardwareId::reject()
+void tst_cdevicehardwareid::reject()
 {
     QFETCH(QString, form);
 
@@ -234,7 +234,7 @@ void tst_CDeviceHardwareId::reject()
     QVERIFY(id.hardwareId().isEmpty());
 }
 
-void tst_CDeviceHardwareId::writtenForm_data()
+void tst_cdevicehardwareid::writtenForm_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("written");
@@ -260,7 +260,7 @@ void tst_CDeviceHardwareId::writtenForm_data()
     QTest::newRow("last character") << QString(QChar(0xfffd)) << QString(QChar(0xfffd));
 }
 
-void tst_CDeviceHardwareId::writtenForm()
+void tst_cdevicehardwareid::writtenForm()
 {
     QFETCH(QString, name);
     QFETCH(QString, written);
@@ -274,7 +274,7 @@ void tst_CDeviceHardwareId::writtenForm()
     QCOMPARE(CDeviceHardwareId(asPrefix.hardwareId()), asPrefix);
 }
 
-void tst_CDeviceHardwareId::randomRoundTrip()
+void tst_cdevicehardwareid::randomRoundTrip()
 {
     QRandomGenerator random(20260131u);
     QHash<QString, CDeviceHardwareId> byForm;
@@ -293,7 +293,7 @@ void tst_CDeviceHardwareId::randomRoundTrip()
     }
 }
 
-void tst_CDeviceHardwareId::textStandsInXml()
+void tst_cdevicehardwareid::textStandsInXml()
 {
     QRandomGenerator random(42u);
     for (int i = 0; i < 3000; ++i) {
@@ -311,7 +311,7 @@ void tst_CDeviceHardwareId::textStandsInXml()
     }
 }
 
-void tst_CDeviceHardwareId::stream()
+void tst_cdevicehardwareid::stream()
 {
     QRandomGenerator random(7u);
     for (int i = 0; i < 1000; ++i) {
@@ -330,7 +330,7 @@ void tst_CDeviceHardwareId::stream()
     }
 }
 
-void tst_CDeviceHardwareId::streamForm()
+void tst_cdevicehardwareid::streamForm()
 {
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
@@ -343,5 +343,5 @@ void tst_CDeviceHardwareId::streamForm()
                         "0506"));
 }
 
-QTEST_GUILESS_MAIN(tst_CDeviceHardwareId)
+QTEST_GUILESS_MAIN(tst_cdevicehardwareid)
 #include "tst_cdevicehardwareid.moc"

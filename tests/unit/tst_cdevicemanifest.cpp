@@ -54,7 +54,7 @@ bool isEqual(const CDeviceManifest &a, const CDeviceManifest &b)
 
 } // namespace
 
-class tst_CDeviceManifest : public QObject
+class tst_cdevicemanifest : public QObject
 {
     Q_OBJECT
 
@@ -357,5 +357,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CDeviceManifest)
+QTEST_GUILESS_MAIN(tst_cdevicemanifest)
 #include "tst_cdevicemanifest.moc"

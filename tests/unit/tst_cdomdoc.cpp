@@ -51,7 +51,7 @@ QString written(const QDomDocument &document)
 
 } // namespace
 
-class tst_CDomDoc : public QObject
+class tst_cdomdoc : public QObject
 {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ private slots:
     void setTextKeepsSections();
 };
 
-void tst_CDomDoc::existingChild_data()
+void tst_cdomdoc::existingChild_data()
 {
     QTest::addColumn<QString>("xml");
     QTest::addColumn<QString>("tag");
@@ -92,7 +92,7 @@ void tst_CDomDoc::existingChild_data()
     row("no tag", "<R><A>1</A></R>", "", "");
 }
 
-void tst_CDomDoc::existingChild()
+void tst_cdomdoc::existingChild()
 {
     QFETCH(QString, xml);
     QFETCH(QString, tag);
@@ -108,7 +108,7 @@ void tst_CDomDoc::existingChild()
     }
 }
 
-void tst_CDomDoc::existingChildCreatesNothing()
+void tst_cdomdoc::existingChildCreatesNothing()
 {
     const QDomDocument document = parsed(QStringLiteral("<R><A/></R>"));
     const QString before = written(document);
@@ -117,7 +117,7 @@ void tst_CDomDoc::existingChildCreatesNothing()
     QVERIFY(CDomDoc::existingChild(QStringLiteral("B"), QDomElement()).isNull());
 }
 
-void tst_CDomDoc::child()
+void tst_cdomdoc::child()
 {
     const QDomDocument document = parsed(QStringLiteral("<R><A/><!-- c --></R>"));
     const QDomElement root = document.documentElement();
@@ -130,12 +130,12 @@ void tst_CDomDoc::child()
     QCOMPARE(written(document), QStringLiteral("<R><A/><!-- c --><B/></R>"));
 }
 
-void tst_CDomDoc::childOfNull()
+void tst_cdomdoc::childOfNull()
 {
     QVERIFY(CDomDoc::child(QStringLiteral("A"), QDomElement()).isNull());
 }
 
-void tst_CDomDoc::text_data()
+void tst_cdomdoc::text_data()
 {
     QTest::addColumn<QString>("xml");
     QTest::addColumn<QString>("text");
@@ -154,7 +154,7 @@ void tst_CDomDoc::text_data()
     row("without that of elements", "<R>a<B>no</B>b</R>", "ab");
 }
 
-void tst_CDomDoc::text()
+void tst_cdomdoc::text()
 {
     QFETCH(QString, xml);
     const QDomDocument document = parsed(xml);
@@ -162,7 +162,7 @@ void tst_CDomDoc::text()
     QVERIFY(CDomDoc::text(QDomElement()).isEmpty());
 }
 
-void tst_CDomDoc::setText_data()
+void tst_cdomdoc::setText_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("text");
@@ -187,7 +187,7 @@ void tst_CDomDoc::setText_data()
     row("same text in another order is another text", "<R>ab</R>", "ba", "<R>ba</R>");
 }
 
-void tst_CDomDoc::setText()
+void tst_cdomdoc::setText()
 {
     QFETCH(QString, before);
     QFETCH(QString, text);
@@ -198,14 +198,14 @@ void tst_CDomDoc::setText()
     QCOMPARE(CDomDoc::text(document.documentElement()), text);
 }
 
-void tst_CDomDoc::setTextOfNull()
+void tst_cdomdoc::setTextOfNull()
 {
     QDomElement element;
     CDomDoc::setText(QStringLiteral("a"), element);
     QVERIFY(element.isNull());
 }
 
-void tst_CDomDoc::setTextKeepsSections()
+void tst_cdomdoc::setTextKeepsSections()
 {
     // Setting the text that is there already does not rewrite it in another form.
     const QString xml = QStringLiteral("<R>a<![CDATA[b]]><!--1-->c</R>");
@@ -214,5 +214,5 @@ void tst_CDomDoc::setTextKeepsSections()
     QCOMPARE(written(document), xml);
 }
 
-QTEST_GUILESS_MAIN(tst_CDomDoc)
+QTEST_GUILESS_MAIN(tst_cdomdoc)
 #include "tst_cdomdoc.moc"

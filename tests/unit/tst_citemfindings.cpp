@@ -18,7 +18,7 @@ finding(const QString &item,
 
 } // namespace
 
-class tst_CItemFindings : public QObject
+class tst_citemfindings : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void absentPositions();
 };
 
-void tst_CItemFindings::above_data()
+void tst_citemfindings::above_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
@@ -51,13 +51,13 @@ void tst_CItemFindings::above_data()
     QTest::newRow("back-slash at the end") << u"files[a\\"_s << u"files"_s;
 }
 
-void tst_CItemFindings::above()
+void tst_citemfindings::above()
 {
     QFETCH(QString, path);
     QTEST(CItemFindings::above(path), "expected");
 }
 
-void tst_CItemFindings::nearestShownItem_data()
+void tst_citemfindings::nearestShownItem_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QString>("expected");
@@ -74,7 +74,7 @@ void tst_CItemFindings::nearestShownItem_data()
     QTest::newRow("no path") << u"...[["_s << QString();
 }
 
-void tst_CItemFindings::nearestShownItem()
+void tst_citemfindings::nearestShownItem()
 {
     QFETCH(QString, item);
     QFETCH(QString, expected);
@@ -85,7 +85,7 @@ void tst_CItemFindings::nearestShownItem()
     QCOMPARE(findings.at(expected), QList<int>{0});
 }
 
-void tst_CItemFindings::orderIsKept()
+void tst_citemfindings::orderIsKept()
 {
     const CItemFindings findings({finding(u"drive[2].name"_s), finding(u"device"_s),
                                   finding(u"drive[2]"_s), finding(u"drive[2].busId"_s)},
@@ -96,7 +96,7 @@ void tst_CItemFindings::orderIsKept()
     QCOMPARE(findings.at(3).item, u"drive[2].busId"_s);
 }
 
-void tst_CItemFindings::severitiesAreCounted()
+void tst_citemfindings::severitiesAreCounted()
 {
     const CItemFindings findings({finding(u"a"_s, SConfigurationFinding::WARNING),
                                   finding(u"b"_s, SConfigurationFinding::ERROR),
@@ -106,7 +106,7 @@ void tst_CItemFindings::severitiesAreCounted()
     QCOMPARE(findings.count(SConfigurationFinding::WARNING), 2);
 }
 
-void tst_CItemFindings::absentPositions()
+void tst_citemfindings::absentPositions()
 {
     const CItemFindings findings({finding(u"a"_s)}, {});
     QVERIFY(findings.at(1).rule.isEmpty());
@@ -115,5 +115,5 @@ void tst_CItemFindings::absentPositions()
     QVERIFY(findings.at(u"a"_s).isEmpty());
 }
 
-QTEST_APPLESS_MAIN(tst_CItemFindings)
+QTEST_APPLESS_MAIN(tst_citemfindings)
 #include "tst_citemfindings.moc"

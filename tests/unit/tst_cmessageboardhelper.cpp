@@ -86,7 +86,7 @@ ChildResult runChild(const QString &mode, const QString &text)
 
 } // namespace
 
-class tst_CMessageBoardHelper : public QObject
+class tst_cmessageboardhelper : public QObject
 {
     Q_OBJECT
 
@@ -104,7 +104,7 @@ private slots:
     void installingWhilePosting();
 };
 
-void tst_CMessageBoardHelper::standardError_data()
+void tst_cmessageboardhelper::standardError_data()
 {
     QTest::addColumn<QString>("mode");
     QTest::addColumn<QString>("text");
@@ -124,7 +124,7 @@ void tst_CMessageBoardHelper::standardError_data()
     row("handler taken away", "handler taken away", "The text.", "drive: warning: The text.\n");
 }
 
-void tst_CMessageBoardHelper::standardError()
+void tst_cmessageboardhelper::standardError()
 {
     QFETCH(QString, mode);
     QFETCH(QString, text);
@@ -135,7 +135,7 @@ void tst_CMessageBoardHelper::standardError()
     QVERIFY(result.standardOutput.isEmpty());
 }
 
-void tst_CMessageBoardHelper::standardErrorFromThreads()
+void tst_cmessageboardhelper::standardErrorFromThreads()
 {
     const QString text(200, QLatin1Char('x'));
     const ChildResult result = runChild(QStringLiteral("threads"), text);
@@ -155,7 +155,7 @@ void tst_CMessageBoardHelper::standardErrorFromThreads()
     QCOMPARE(lines, expected);
 }
 
-void tst_CMessageBoardHelper::handlerGetsEverything_data()
+void tst_cmessageboardhelper::handlerGetsEverything_data()
 {
     QTest::addColumn<bool>("critical");
     QTest::addColumn<bool>("withLog");
@@ -166,7 +166,7 @@ void tst_CMessageBoardHelper::handlerGetsEverything_data()
     QTest::newRow("critical with log") << true << true;
 }
 
-void tst_CMessageBoardHelper::handlerGetsEverything()
+void tst_cmessageboardhelper::handlerGetsEverything()
 {
     QFETCH(bool, critical);
     QFETCH(bool, withLog);
@@ -196,7 +196,7 @@ void tst_CMessageBoardHelper::handlerGetsEverything()
     QCOMPARE(log.entries(), entries);
 }
 
-void tst_CMessageBoardHelper::previousHandlerIsReturned()
+void tst_cmessageboardhelper::previousHandlerIsReturned()
 {
     QString received;
     const auto handler = [&received](const QString &mark) {
@@ -218,7 +218,7 @@ void tst_CMessageBoardHelper::previousHandlerIsReturned()
     QCOMPARE(received, QStringLiteral("B1A2B3"));
 }
 
-void tst_CMessageBoardHelper::logComesFirst()
+void tst_cmessageboardhelper::logComesFirst()
 {
     RecordingLog log;
     int entriesSeenByHandler = -1;
@@ -231,7 +231,7 @@ void tst_CMessageBoardHelper::logComesFirst()
     QCOMPARE(entriesSeenByHandler, 1);
 }
 
-void tst_CMessageBoardHelper::handlerMayPost()
+void tst_cmessageboardhelper::handlerMayPost()
 {
     QStringList received;
     const CMessageBoardHelper::Handler previous = CMessageBoardHelper::installHandler(
@@ -247,7 +247,7 @@ void tst_CMessageBoardHelper::handlerMayPost()
              (QStringList{QStringLiteral("a"), QStringLiteral("a+"), QStringLiteral("a++")}));
 }
 
-void tst_CMessageBoardHelper::handlerMayInstallAnother()
+void tst_cmessageboardhelper::handlerMayInstallAnother()
 {
     QStringList received;
     const auto last = [&received](CMessageBoardHelper::ESeverity, const QString &text,
@@ -264,7 +264,7 @@ void tst_CMessageBoardHelper::handlerMayInstallAnother()
     QCOMPARE(received, (QStringList{QStringLiteral("first 1"), QStringLiteral("last 2")}));
 }
 
-void tst_CMessageBoardHelper::postingFromThreads()
+void tst_cmessageboardhelper::postingFromThreads()
 {
     RecordingLog handled;
     RecordingLog log;
@@ -297,7 +297,7 @@ void tst_CMessageBoardHelper::postingFromThreads()
     QCOMPARE(fromHandler, fromLog);
 }
 
-void tst_CMessageBoardHelper::installingWhilePosting()
+void tst_cmessageboardhelper::installingWhilePosting()
 {
     std::atomic<int> first{0};
     std::atomic<int> second{0};
@@ -327,7 +327,7 @@ int main(int argc, char *argv[])
         QCoreApplication::setApplicationName(QStringLiteral("drive"));
         return postAsChild(QCoreApplication::arguments().mid(2));
     }
-    tst_CMessageBoardHelper test;
+    tst_cmessageboardhelper test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -29,7 +29,7 @@ QStringList unknownMarks(const QByteArray &bytes)
 
 } // namespace
 
-class tst_ConfigurationDocument : public QObject
+class tst_configurationdocument : public QObject
 {
     Q_OBJECT
 
@@ -60,7 +60,7 @@ private slots:
     void wholeDeviceKeepsUnknownOutside();
 };
 
-void tst_ConfigurationDocument::writesReference()
+void tst_configurationdocument::writesReference()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -71,7 +71,7 @@ void tst_ConfigurationDocument::writesReference()
              QString::fromUtf8(Files::read(validPath(u"full.3deco"_s))));
 }
 
-void tst_ConfigurationDocument::readsReference()
+void tst_configurationdocument::readsReference()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -87,7 +87,7 @@ void tst_ConfigurationDocument::readsReference()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationDocument::readsItems_data()
+void tst_configurationdocument::readsItems_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -95,7 +95,7 @@ void tst_ConfigurationDocument::readsItems_data()
     QTest::newRow("among unknown content") << u"unknown-content.3deco"_s;
 }
 
-void tst_ConfigurationDocument::readsItems()
+void tst_configurationdocument::readsItems()
 {
     QFETCH(QString, name);
 
@@ -133,12 +133,12 @@ void tst_ConfigurationDocument::readsItems()
     QVERIFY(device == SampleConfiguration::device());
 }
 
-void tst_ConfigurationDocument::savesReferenceAsItWas_data()
+void tst_configurationdocument::savesReferenceAsItWas_data()
 {
     readsItems_data();
 }
 
-void tst_ConfigurationDocument::savesReferenceAsItWas()
+void tst_configurationdocument::savesReferenceAsItWas()
 {
     QFETCH(QString, name);
 
@@ -147,7 +147,7 @@ void tst_ConfigurationDocument::savesReferenceAsItWas()
     QCOMPARE(bytesOf(file), Files::read(validPath(name)));
 }
 
-void tst_ConfigurationDocument::itemWiseIsAsWhole()
+void tst_configurationdocument::itemWiseIsAsWhole()
 {
     // The sample set item by item gives what writing the whole device gives.
     using namespace SampleConfiguration;
@@ -167,7 +167,7 @@ void tst_ConfigurationDocument::itemWiseIsAsWhole()
     QCOMPARE(bytesOf(file), Files::read(validPath(u"full.3deco"_s)));
 }
 
-void tst_ConfigurationDocument::emptyDevice()
+void tst_configurationdocument::emptyDevice()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document("")));
@@ -186,7 +186,7 @@ void tst_ConfigurationDocument::emptyDevice()
     QVERIFY(device.isNull());
 }
 
-void tst_ConfigurationDocument::writingTwice()
+void tst_configurationdocument::writingTwice()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -205,7 +205,7 @@ void tst_ConfigurationDocument::writingTwice()
     QVERIFY(device == other);
 }
 
-void tst_ConfigurationDocument::severalDevices()
+void tst_configurationdocument::severalDevices()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document(" <Device>\n  <Name>first</Name>\n </Device>\n"
@@ -222,7 +222,7 @@ void tst_ConfigurationDocument::severalDevices()
     QVERIFY(bytes.indexOf("<Device>") < bytes.indexOf("<Other/>"));
 }
 
-void tst_ConfigurationDocument::deviceKeepsItsPlace()
+void tst_configurationdocument::deviceKeepsItsPlace()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document(" <A/>\n <!-- of the device -->\n <Device/>\n <B/>\n")));
@@ -232,7 +232,7 @@ void tst_ConfigurationDocument::deviceKeepsItsPlace()
     QVERIFY(bytes.contains("</Device>\n <B/>\n"));
 }
 
-void tst_ConfigurationDocument::descriptionPlace_data()
+void tst_configurationdocument::descriptionPlace_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
@@ -263,7 +263,7 @@ void tst_ConfigurationDocument::descriptionPlace_data()
                                          << QByteArray(" <!-- mine -->\n" + comment + description);
 }
 
-void tst_ConfigurationDocument::descriptionPlace()
+void tst_configurationdocument::descriptionPlace()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
@@ -278,7 +278,7 @@ void tst_ConfigurationDocument::descriptionPlace()
     QVERIFY(file.description() == SampleConfiguration::description());
 }
 
-void tst_ConfigurationDocument::missingParts_data()
+void tst_configurationdocument::missingParts_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("hasDevice");
@@ -310,7 +310,7 @@ void tst_ConfigurationDocument::missingParts_data()
         << true;
 }
 
-void tst_ConfigurationDocument::missingParts()
+void tst_configurationdocument::missingParts()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(bool, hasDevice);
@@ -340,7 +340,7 @@ void tst_ConfigurationDocument::missingParts()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationDocument::specialTexts_data()
+void tst_configurationdocument::specialTexts_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -361,7 +361,7 @@ void tst_ConfigurationDocument::specialTexts_data()
     QTest::newRow("long") << QString(5000, QLatin1Char('x'));
 }
 
-void tst_ConfigurationDocument::specialTexts()
+void tst_configurationdocument::specialTexts()
 {
     QFETCH(QString, text);
 
@@ -409,7 +409,7 @@ void tst_ConfigurationDocument::specialTexts()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationDocument::setterKeepsUnknown_data()
+void tst_configurationdocument::setterKeepsUnknown_data()
 {
     QTest::addColumn<int>("index");
 
@@ -419,7 +419,7 @@ void tst_ConfigurationDocument::setterKeepsUnknown_data()
     }
 }
 
-void tst_ConfigurationDocument::setterKeepsUnknown()
+void tst_configurationdocument::setterKeepsUnknown()
 {
     QFETCH(int, index);
     const ConfigurationItems::Setter setter = ConfigurationItems::setters().at(index);
@@ -458,7 +458,7 @@ void tst_ConfigurationDocument::setterKeepsUnknown()
     QVERIFY(ConfigurationItems::read(reopened) == itemsAfter);
 }
 
-void tst_ConfigurationDocument::wholeDeviceKeepsUnknownOutside()
+void tst_configurationdocument::wholeDeviceKeepsUnknownOutside()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.open(validPath(u"unknown-content.3deco"_s)));
@@ -471,5 +471,5 @@ void tst_ConfigurationDocument::wholeDeviceKeepsUnknownOutside()
     QCOMPARE(parts, (QStringList{u"x-before"_s, u"x-behind"_s, u"x-description"_s, u"x-root"_s}));
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationDocument)
+QTEST_GUILESS_MAIN(tst_configurationdocument)
 #include "tst_configurationdocument.moc"

@@ -9,7 +9,7 @@ using namespace ConfigurationTexts;
 Q_DECLARE_METATYPE(NDeviceConf::EDeviceClass)
 
 /** The fields of the device in the document. */
-class tst_ConfigurationDocument_device : public QObject
+class tst_configurationdocument_device : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private slots:
     void opcUaOption();
 };
 
-void tst_ConfigurationDocument_device::deviceFields_data()
+void tst_configurationdocument_device::deviceFields_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("name");
@@ -55,7 +55,7 @@ void tst_ConfigurationDocument_device::deviceFields_data()
     QTest::newRow("blanks") << QByteArray("  <Name> a </Name>\n") << u" a "_s << QString();
 }
 
-void tst_ConfigurationDocument_device::deviceFields()
+void tst_configurationdocument_device::deviceFields()
 {
     QFETCH(QByteArray, content);
     const CDeviceElement device = deviceIn(deviceDocument(content));
@@ -63,7 +63,7 @@ void tst_ConfigurationDocument_device::deviceFields()
     QTEST(device.comment(), "comment");
 }
 
-void tst_ConfigurationDocument_device::options_data()
+void tst_configurationdocument_device::options_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QStringList>("options");
@@ -76,7 +76,7 @@ void tst_ConfigurationDocument_device::options_data()
     QTest::newRow("tab is no separator") << QByteArray("-a\t-b") << QStringList{u"-a\t-b"_s};
 }
 
-void tst_ConfigurationDocument_device::options()
+void tst_configurationdocument_device::options()
 {
     QFETCH(QByteArray, text);
     QFETCH(QStringList, options);
@@ -89,7 +89,7 @@ void tst_ConfigurationDocument_device::options()
     QCOMPARE(device.options(), options);
 }
 
-void tst_ConfigurationDocument_device::optionsAreWritten()
+void tst_configurationdocument_device::optionsAreWritten()
 {
     CDeviceElement device;
     device.setOptions(QStringList{u"A"_s, u"B"_s, u"C"_s});
@@ -100,7 +100,7 @@ void tst_ConfigurationDocument_device::optionsAreWritten()
     QCOMPARE(file.options(), device.options());
 }
 
-void tst_ConfigurationDocument_device::deviceClass_data()
+void tst_configurationdocument_device::deviceClass_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<NDeviceConf::EDeviceClass>("deviceClass");
@@ -114,13 +114,13 @@ void tst_ConfigurationDocument_device::deviceClass_data()
     QTest::newRow("empty") << QByteArray() << NDeviceConf::DEVICE_CLASS_UNDEFINED;
 }
 
-void tst_ConfigurationDocument_device::deviceClass()
+void tst_configurationdocument_device::deviceClass()
 {
     QFETCH(QByteArray, text);
     QTEST(deviceIn(deviceDocument("  <Class>" + text + "</Class>\n")).deviceClass(), "deviceClass");
 }
 
-void tst_ConfigurationDocument_device::deviceClassIsWritten_data()
+void tst_configurationdocument_device::deviceClassIsWritten_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QByteArray>("text");
@@ -132,7 +132,7 @@ void tst_ConfigurationDocument_device::deviceClassIsWritten_data()
     QTest::newRow("negative") << -1 << QByteArray("Undefined");
 }
 
-void tst_ConfigurationDocument_device::deviceClassIsWritten()
+void tst_configurationdocument_device::deviceClassIsWritten()
 {
     QFETCH(int, number);
     QFETCH(QByteArray, text);
@@ -145,7 +145,7 @@ void tst_ConfigurationDocument_device::deviceClassIsWritten()
     QVERIFY(bytesOf(file).contains("<Class>" + text + "</Class>"));
 }
 
-void tst_ConfigurationDocument_device::hardwareId_data()
+void tst_configurationdocument_device::hardwareId_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("identity");
@@ -159,7 +159,7 @@ void tst_ConfigurationDocument_device::hardwareId_data()
     QTest::newRow("place markers") << QByteArray("%1 %2") << QString() << 1;
 }
 
-void tst_ConfigurationDocument_device::hardwareId()
+void tst_configurationdocument_device::hardwareId()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, identity);
@@ -178,7 +178,7 @@ void tst_ConfigurationDocument_device::hardwareId()
     }
 }
 
-void tst_ConfigurationDocument_device::configurationName_data()
+void tst_configurationdocument_device::configurationName_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("configurationName");
@@ -188,7 +188,7 @@ void tst_ConfigurationDocument_device::configurationName_data()
     QTest::newRow("not told") << QByteArray("  <Name/>\n") << u"STD"_s;
 }
 
-void tst_ConfigurationDocument_device::configurationName()
+void tst_configurationdocument_device::configurationName()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, configurationName);
@@ -199,7 +199,7 @@ void tst_ConfigurationDocument_device::configurationName()
     QCOMPARE(device.subDevice(1).configurationName(), configurationName);
 }
 
-void tst_ConfigurationDocument_device::dates_data()
+void tst_configurationdocument_device::dates_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QDate>("date");
@@ -211,7 +211,7 @@ void tst_ConfigurationDocument_device::dates_data()
     QTest::newRow("empty") << QByteArray() << QDate();
 }
 
-void tst_ConfigurationDocument_device::dates()
+void tst_configurationdocument_device::dates()
 {
     QFETCH(QByteArray, text);
     QFETCH(QDate, date);
@@ -229,7 +229,7 @@ void tst_ConfigurationDocument_device::dates()
     QVERIFY(file.description() == read);
 }
 
-void tst_ConfigurationDocument_device::opcUaFlag_data()
+void tst_configurationdocument_device::opcUaFlag_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<bool>("enabled");
@@ -241,7 +241,7 @@ void tst_ConfigurationDocument_device::opcUaFlag_data()
     QTest::newRow("empty") << QByteArray() << false;
 }
 
-void tst_ConfigurationDocument_device::opcUaFlag()
+void tst_configurationdocument_device::opcUaFlag()
 {
     QFETCH(QByteArray, text);
     QFETCH(bool, enabled);
@@ -260,7 +260,7 @@ void tst_ConfigurationDocument_device::opcUaFlag()
                                            : "<OpcUaEnabled>true</OpcUaEnabled>"));
 }
 
-void tst_ConfigurationDocument_device::opcUaOption()
+void tst_configurationdocument_device::opcUaOption()
 {
     // The options in the document are all there are, whatever the flag says.
     const CDeviceElement device = deviceIn(
@@ -270,5 +270,5 @@ void tst_ConfigurationDocument_device::opcUaOption()
     QCOMPARE(device.options(), QStringList{u"-v"_s});
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationDocument_device)
+QTEST_GUILESS_MAIN(tst_configurationdocument_device)
 #include "tst_configurationdocument_device.moc"

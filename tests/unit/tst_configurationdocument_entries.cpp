@@ -11,7 +11,7 @@
 using namespace ConfigurationTexts;
 
 /** Files, plug-ins and drives in the document. */
-class tst_ConfigurationDocument_entries : public QObject
+class tst_configurationdocument_entries : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private slots:
     void subDeviceIdentity();
 };
 
-void tst_ConfigurationDocument_entries::paramFileTypes_data()
+void tst_configurationdocument_entries::paramFileTypes_data()
 {
     QTest::addColumn<QByteArray>("attribute");
     QTest::addColumn<int>("type");
@@ -57,7 +57,7 @@ void tst_ConfigurationDocument_entries::paramFileTypes_data()
     QTest::newRow("attribute in upper case") << QByteArray(" Type=\"VornParameters\"") << -1;
 }
 
-void tst_ConfigurationDocument_entries::paramFileTypes()
+void tst_configurationdocument_entries::paramFileTypes()
 {
     QFETCH(QByteArray, attribute);
     QFETCH(int, type);
@@ -72,7 +72,7 @@ void tst_ConfigurationDocument_entries::paramFileTypes()
     QCOMPARE(file.paramFiles().constFirst().driveId(), -1);
 }
 
-void tst_ConfigurationDocument_entries::entriesAtAnyDepth()
+void tst_configurationdocument_entries::entriesAtAnyDepth()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(configDocument("   <ParameterFiles>\n"
@@ -114,7 +114,7 @@ void tst_ConfigurationDocument_entries::entriesAtAnyDepth()
     QVERIFY(file.paramFiles().isEmpty());
 }
 
-void tst_ConfigurationDocument_entries::emptyEntries()
+void tst_configurationdocument_entries::emptyEntries()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(configDocument("   <FPGA_FileNames>\n    <File/>\n"
@@ -129,7 +129,7 @@ void tst_ConfigurationDocument_entries::emptyEntries()
     QCOMPARE(file.additionalFiles().constFirst().fileName(), u"b"_s);
 }
 
-void tst_ConfigurationDocument_entries::entryNames_data()
+void tst_configurationdocument_entries::entryNames_data()
 {
     QTest::addColumn<QByteArray>("entry");
     QTest::addColumn<QString>("fileName");
@@ -146,7 +146,7 @@ void tst_ConfigurationDocument_entries::entryNames_data()
         << QByteArray("<A/><File><Name>a</Name></File>") << u"a"_s;
 }
 
-void tst_ConfigurationDocument_entries::entryNames()
+void tst_configurationdocument_entries::entryNames()
 {
     QFETCH(QByteArray, entry);
     QFETCH(QString, fileName);
@@ -158,7 +158,7 @@ void tst_ConfigurationDocument_entries::entryNames()
     QCOMPARE(file.additionalFiles().value(0).fileName(), fileName);
 }
 
-void tst_ConfigurationDocument_entries::singleFileHolders_data()
+void tst_configurationdocument_entries::singleFileHolders_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
@@ -178,7 +178,7 @@ void tst_ConfigurationDocument_entries::singleFileHolders_data()
         << QByteArray(written + "    <A/>\n");
 }
 
-void tst_ConfigurationDocument_entries::singleFileHolders()
+void tst_configurationdocument_entries::singleFileHolders()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
@@ -194,7 +194,7 @@ void tst_ConfigurationDocument_entries::singleFileHolders()
     QCOMPARE(bytesOf(file), holder(after));
 }
 
-void tst_ConfigurationDocument_entries::pluginPriority_data()
+void tst_configurationdocument_entries::pluginPriority_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<int>("priority");
@@ -210,7 +210,7 @@ void tst_ConfigurationDocument_entries::pluginPriority_data()
     QTest::newRow("empty") << QByteArray() << notSet;
 }
 
-void tst_ConfigurationDocument_entries::pluginPriority()
+void tst_configurationdocument_entries::pluginPriority()
 {
     QFETCH(QByteArray, text);
     QFETCH(int, priority);
@@ -226,7 +226,7 @@ void tst_ConfigurationDocument_entries::pluginPriority()
     QVERIFY(file.plugins() == plugins);
 }
 
-void tst_ConfigurationDocument_entries::subDeviceType_data()
+void tst_configurationdocument_entries::subDeviceType_data()
 {
     QTest::addColumn<QByteArray>("attribute");
     QTest::addColumn<bool>("isKD2");
@@ -244,7 +244,7 @@ void tst_ConfigurationDocument_entries::subDeviceType_data()
     QTest::newRow("attribute in upper case") << QByteArray(" Type=\"KD2_drive\"") << false;
 }
 
-void tst_ConfigurationDocument_entries::subDeviceType()
+void tst_configurationdocument_entries::subDeviceType()
 {
     QFETCH(QByteArray, attribute);
     QFETCH(bool, isKD2);
@@ -274,7 +274,7 @@ void tst_ConfigurationDocument_entries::subDeviceType()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationDocument_entries::unknownTypeIsWrittenFirst()
+void tst_configurationdocument_entries::unknownTypeIsWrittenFirst()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(document("")));
@@ -293,7 +293,7 @@ void tst_ConfigurationDocument_entries::unknownTypeIsWrittenFirst()
     QCOMPARE(file.deviceDomElement().childNodes().size(), 1);
 }
 
-void tst_ConfigurationDocument_entries::subDeviceOrder()
+void tst_configurationdocument_entries::subDeviceOrder()
 {
     CDeviceElement device;
     CSubDeviceKD3Element subDevice;
@@ -316,7 +316,7 @@ void tst_ConfigurationDocument_entries::subDeviceOrder()
     QVERIFY(back == device);
 }
 
-void tst_ConfigurationDocument_entries::driveNumbers_data()
+void tst_configurationdocument_entries::driveNumbers_data()
 {
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<QString>("numbers");
@@ -345,7 +345,7 @@ void tst_ConfigurationDocument_entries::driveNumbers_data()
         << QStringList{u"0"_s, u"254"_s, QString(), QString()} << u"0 254 1 2"_s << 2;
 }
 
-void tst_ConfigurationDocument_entries::driveNumbers()
+void tst_configurationdocument_entries::driveNumbers()
 {
     QFETCH(QStringList, texts);
     QFETCH(QString, numbers);
@@ -376,7 +376,7 @@ void tst_ConfigurationDocument_entries::driveNumbers()
     QVERIFY(catcher.criticals().isEmpty());
 }
 
-void tst_ConfigurationDocument_entries::tooManySubDevices()
+void tst_configurationdocument_entries::tooManySubDevices()
 {
     QByteArray content;
     for (int i = 0; i < 258; ++i) {
@@ -393,7 +393,7 @@ void tst_ConfigurationDocument_entries::tooManySubDevices()
     QVERIFY(catcher.warnings().at(257).contains(u"'s257'"_s));
 }
 
-void tst_ConfigurationDocument_entries::subDeviceNamesInWarnings_data()
+void tst_configurationdocument_entries::subDeviceNamesInWarnings_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -403,7 +403,7 @@ void tst_ConfigurationDocument_entries::subDeviceNamesInWarnings_data()
     QTest::newRow("quotes") << u"'Feed'"_s;
 }
 
-void tst_ConfigurationDocument_entries::subDeviceNamesInWarnings()
+void tst_configurationdocument_entries::subDeviceNamesInWarnings()
 {
     QFETCH(QString, name);
 
@@ -418,7 +418,7 @@ void tst_ConfigurationDocument_entries::subDeviceNamesInWarnings()
                          + u"' has no drive number of its own and gets 42."_s});
 }
 
-void tst_ConfigurationDocument_entries::busId_data()
+void tst_configurationdocument_entries::busId_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<unsigned int>("busId");
@@ -431,7 +431,7 @@ void tst_ConfigurationDocument_entries::busId_data()
     QTest::newRow("empty") << QByteArray() << 0u;
 }
 
-void tst_ConfigurationDocument_entries::busId()
+void tst_configurationdocument_entries::busId()
 {
     QFETCH(QByteArray, text);
     QTEST(deviceIn(deviceDocument("  <SubDevice>\n   <DriveNo>0</DriveNo>\n   <BusId>" + text
@@ -441,7 +441,7 @@ void tst_ConfigurationDocument_entries::busId()
           "busId");
 }
 
-void tst_ConfigurationDocument_entries::subDeviceIdentity()
+void tst_configurationdocument_entries::subDeviceIdentity()
 {
     const CDeviceElement device = deviceIn(
         deviceDocument("  <HardwareId>KD3:Device:1:2:3</HardwareId>\n"
@@ -460,5 +460,5 @@ void tst_ConfigurationDocument_entries::subDeviceIdentity()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationDocument_entries)
+QTEST_GUILESS_MAIN(tst_configurationdocument_entries)
 #include "tst_configurationdocument_entries.moc"

@@ -26,7 +26,7 @@ const QString PathRemoved =
 
 } // namespace
 
-class tst_ConfigurationFile10 : public QObject
+class tst_configurationfile10 : public QObject
 {
     Q_OBJECT
 
@@ -71,13 +71,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_ConfigurationFile10::init()
+void tst_configurationfile10::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_ConfigurationFile10::fresh()
+void tst_configurationfile10::fresh()
 {
     RecordingLog log;
     CDeviceConfigurationFile10 file(&log);
@@ -87,7 +87,7 @@ void tst_ConfigurationFile10::fresh()
     QVERIFY(isWithoutDocument(file));
 }
 
-void tst_ConfigurationFile10::createNewDocument_data()
+void tst_configurationfile10::createNewDocument_data()
 {
     QTest::addColumn<bool>("withLog");
     QTest::addColumn<QString>("author");
@@ -97,7 +97,7 @@ void tst_ConfigurationFile10::createNewDocument_data()
     QTest::newRow("log without author") << true << QString();
 }
 
-void tst_ConfigurationFile10::createNewDocument()
+void tst_configurationfile10::createNewDocument()
 {
     QFETCH(bool, withLog);
     QFETCH(QString, author);
@@ -128,7 +128,7 @@ void tst_ConfigurationFile10::createNewDocument()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::createNewDocumentReplaces()
+void tst_configurationfile10::createNewDocumentReplaces()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(fullDocument()));
@@ -138,7 +138,7 @@ void tst_ConfigurationFile10::createNewDocumentReplaces()
     QCOMPARE(file.metaData().author(), QString());
 }
 
-void tst_ConfigurationFile10::open()
+void tst_configurationfile10::open()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -149,7 +149,7 @@ void tst_ConfigurationFile10::open()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::load()
+void tst_configurationfile10::load()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -160,7 +160,7 @@ void tst_ConfigurationFile10::load()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::openThroughInterface()
+void tst_configurationfile10::openThroughInterface()
 {
     const std::unique_ptr<ICDeviceConfigurationFile> file(
         ICDeviceConfigurationFile::instance(nullptr));
@@ -178,7 +178,7 @@ void tst_ConfigurationFile10::openThroughInterface()
     QCOMPARE(other->currentFileVersion(), u"1.0"_s);
 }
 
-void tst_ConfigurationFile10::openFails_data()
+void tst_configurationfile10::openFails_data()
 {
     QTest::addColumn<QString>("fileName");
 
@@ -193,7 +193,7 @@ void tst_ConfigurationFile10::openFails_data()
     }
 }
 
-void tst_ConfigurationFile10::openFails()
+void tst_configurationfile10::openFails()
 {
     QFETCH(QString, fileName);
 
@@ -217,7 +217,7 @@ void tst_ConfigurationFile10::openFails()
     }
 }
 
-void tst_ConfigurationFile10::loadFails_data()
+void tst_configurationfile10::loadFails_data()
 {
     QTest::addColumn<QByteArray>("buffer");
 
@@ -229,7 +229,7 @@ void tst_ConfigurationFile10::loadFails_data()
     QTest::newRow("zero bytes behind") << emptyDocument() + QByteArray(2, '\0');
 }
 
-void tst_ConfigurationFile10::loadFails()
+void tst_configurationfile10::loadFails()
 {
     QFETCH(QByteArray, buffer);
 
@@ -252,7 +252,7 @@ void tst_ConfigurationFile10::loadFails()
     }
 }
 
-void tst_ConfigurationFile10::failureLeavesNullHandle()
+void tst_configurationfile10::failureLeavesNullHandle()
 {
     // Whatever the reason, the handle on the document is null when there is none.
     const MessageCatcher catcher;
@@ -268,7 +268,7 @@ void tst_ConfigurationFile10::failureLeavesNullHandle()
     QVERIFY(file.domDocument().isNull());
 }
 
-void tst_ConfigurationFile10::failureLeavesHandlesOfCallers()
+void tst_configurationfile10::failureLeavesHandlesOfCallers()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -278,7 +278,7 @@ void tst_ConfigurationFile10::failureLeavesHandlesOfCallers()
     QVERIFY(!document.documentElement().firstChildElement(u"Device"_s).isNull());
 }
 
-void tst_ConfigurationFile10::failureDoesNotStick()
+void tst_configurationfile10::failureDoesNotStick()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -294,7 +294,7 @@ void tst_ConfigurationFile10::failureDoesNotStick()
     QCOMPARE(file.currentFileVersion(), u"1.0"_s);
 }
 
-void tst_ConfigurationFile10::save()
+void tst_configurationfile10::save()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -310,7 +310,7 @@ void tst_ConfigurationFile10::save()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10::saveFails_data()
+void tst_configurationfile10::saveFails_data()
 {
     QTest::addColumn<QString>("relativePath");
     QTest::addColumn<bool>("hasDocument");
@@ -320,7 +320,7 @@ void tst_ConfigurationFile10::saveFails_data()
     QTest::newRow("directory") << u"."_s << true;
 }
 
-void tst_ConfigurationFile10::saveFails()
+void tst_configurationfile10::saveFails()
 {
     QFETCH(QString, relativePath);
     QFETCH(bool, hasDocument);
@@ -341,7 +341,7 @@ void tst_ConfigurationFile10::saveFails()
     QCOMPARE(bytesOf(file), hasDocument ? fullDocument() : QByteArray());
 }
 
-void tst_ConfigurationFile10::saveKeepsOldFile()
+void tst_configurationfile10::saveKeepsOldFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), fullDocument()));
@@ -354,7 +354,7 @@ void tst_ConfigurationFile10::saveKeepsOldFile()
     QCOMPARE(Files::names(m_directory->path()), QStringList{u"a.3deco"_s});
 }
 
-void tst_ConfigurationFile10::translations_data()
+void tst_configurationfile10::translations_data()
 {
     QTest::addColumn<QString>("occasion");
     QTest::addColumn<QString>("message");
@@ -366,7 +366,7 @@ void tst_ConfigurationFile10::translations_data()
     QTest::newRow("project path") << u"path"_s << PathRemoved.arg(u"odict.xml"_s);
 }
 
-void tst_ConfigurationFile10::translations()
+void tst_configurationfile10::translations()
 {
     QFETCH(QString, occasion);
     QFETCH(QString, message);
@@ -392,7 +392,7 @@ void tst_ConfigurationFile10::translations()
     QCOMPARE(catcher.messages().last().text, QStringLiteral("<%1>").arg(message));
 }
 
-void tst_ConfigurationFile10::translationOfBase()
+void tst_configurationfile10::translationOfBase()
 {
     const MarkingTranslator translator("CDeviceConfigurationFile");
     const MessageCatcher catcher;
@@ -406,7 +406,7 @@ void tst_ConfigurationFile10::translationOfBase()
                           Later}));
 }
 
-void tst_ConfigurationFile10::projectPaths_data()
+void tst_configurationfile10::projectPaths_data()
 {
     QTest::addColumn<QString>("deviceName");
     QTest::addColumn<QString>("projectPath");
@@ -431,7 +431,7 @@ void tst_ConfigurationFile10::projectPaths_data()
     QTest::newRow("name as a pattern") << u"P.*"_s << u"Press/"_s << false;
 }
 
-void tst_ConfigurationFile10::projectPaths()
+void tst_configurationfile10::projectPaths()
 {
     QFETCH(QString, deviceName);
     QFETCH(QString, projectPath);
@@ -479,7 +479,7 @@ void tst_ConfigurationFile10::projectPaths()
     QVERIFY(file.faultTextFile() == faultText);
 }
 
-void tst_ConfigurationFile10::projectPathMessages()
+void tst_configurationfile10::projectPathMessages()
 {
     RecordingLog log;
     const MessageCatcher catcher;
@@ -495,5 +495,5 @@ void tst_ConfigurationFile10::projectPathMessages()
     QCOMPARE(log.entries().constFirst().second, PathRemoved.arg(u"f.xml"_s));
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationFile10)
+QTEST_GUILESS_MAIN(tst_configurationfile10)
 #include "tst_configurationfile10.moc"

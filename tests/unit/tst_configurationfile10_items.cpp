@@ -12,7 +12,7 @@
 using namespace FullDocument;
 
 /** Getters and setters of single parts. */
-class tst_ConfigurationFile10_items : public QObject
+class tst_configurationfile10_items : public QObject
 {
     Q_OBJECT
 
@@ -45,13 +45,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_ConfigurationFile10_items::init()
+void tst_configurationfile10_items::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_ConfigurationFile10_items::gettersCreateNothing_data()
+void tst_configurationfile10_items::gettersCreateNothing_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -70,7 +70,7 @@ void tst_ConfigurationFile10_items::gettersCreateNothing_data()
     QTest::newRow("unknown content") << Files::read(dataPath(u"valid/unknown-content.3deco"_s));
 }
 
-void tst_ConfigurationFile10_items::gettersCreateNothing()
+void tst_configurationfile10_items::gettersCreateNothing()
 {
     QFETCH(QByteArray, bytes);
 
@@ -94,7 +94,7 @@ void tst_ConfigurationFile10_items::gettersCreateNothing()
     QCOMPARE(bytesOf(file), before);
 }
 
-void tst_ConfigurationFile10_items::gettersWithoutDocument()
+void tst_configurationfile10_items::gettersWithoutDocument()
 {
     const MessageCatcher catcher;
     const CDeviceConfigurationFile10 file(nullptr);
@@ -128,7 +128,7 @@ void tst_ConfigurationFile10_items::gettersWithoutDocument()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_ConfigurationFile10_items::settersWithoutDocument_data()
+void tst_configurationfile10_items::settersWithoutDocument_data()
 {
     QTest::addColumn<int>("index");
 
@@ -139,7 +139,7 @@ void tst_ConfigurationFile10_items::settersWithoutDocument_data()
     QTest::newRow("setConfiguration") << -1;
 }
 
-void tst_ConfigurationFile10_items::settersWithoutDocument()
+void tst_configurationfile10_items::settersWithoutDocument()
 {
     QFETCH(int, index);
     const auto set = [index](ICDeviceConfigurationFile &file) {
@@ -158,7 +158,7 @@ void tst_ConfigurationFile10_items::settersWithoutDocument()
     QVERIFY(isWithoutDocument(file));
 }
 
-void tst_ConfigurationFile10_items::settersFromNothing()
+void tst_configurationfile10_items::settersFromNothing()
 {
     // In a new document every setter creates what it needs; those that remove find nothing.
     for (const ConfigurationItems::Setter &setter : ConfigurationItems::setters()) {
@@ -173,7 +173,7 @@ void tst_ConfigurationFile10_items::settersFromNothing()
     }
 }
 
-void tst_ConfigurationFile10_items::configurationDetour()
+void tst_configurationfile10_items::configurationDetour()
 {
     // What the document does not carry comes back as by default.
     CDeviceElement device = SampleConfiguration::device();
@@ -195,7 +195,7 @@ void tst_ConfigurationFile10_items::configurationDetour()
     QVERIFY(read == SampleConfiguration::device());
 }
 
-void tst_ConfigurationFile10_items::description()
+void tst_configurationfile10_items::description()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -211,7 +211,7 @@ void tst_ConfigurationFile10_items::description()
     QCOMPARE(bytesOf(file).count("<!--Project description-->"), 1);
 }
 
-void tst_ConfigurationFile10_items::singleFiles_data()
+void tst_configurationfile10_items::singleFiles_data()
 {
     QTest::addColumn<int>("which");
     QTest::addColumn<QByteArray>("tag");
@@ -221,7 +221,7 @@ void tst_ConfigurationFile10_items::singleFiles_data()
     QTest::newRow("EtherCAT master") << 2 << QByteArray("EtherCatMaster");
 }
 
-void tst_ConfigurationFile10_items::singleFiles()
+void tst_configurationfile10_items::singleFiles()
 {
     QFETCH(int, which);
     QFETCH(QByteArray, tag);
@@ -262,7 +262,7 @@ void tst_ConfigurationFile10_items::singleFiles()
     QVERIFY(get() == bare);
 }
 
-void tst_ConfigurationFile10_items::paramFiles()
+void tst_configurationfile10_items::paramFiles()
 {
     using SampleConfiguration::paramFile;
     CDeviceConfigurationFile10 file(nullptr);
@@ -297,7 +297,7 @@ void tst_ConfigurationFile10_items::paramFiles()
     QVERIFY(list.isEmpty());
 }
 
-void tst_ConfigurationFile10_items::paramFilesAreIdentified()
+void tst_configurationfile10_items::paramFilesAreIdentified()
 {
     using SampleConfiguration::paramFile;
     CDeviceConfigurationFile10 file(nullptr);
@@ -326,7 +326,7 @@ void tst_ConfigurationFile10_items::paramFilesAreIdentified()
     QVERIFY(!file.containsParamFile(present));
 }
 
-void tst_ConfigurationFile10_items::paramFilesRefused()
+void tst_configurationfile10_items::paramFilesRefused()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -338,7 +338,7 @@ void tst_ConfigurationFile10_items::paramFilesRefused()
     QVERIFY(file.addParamFile(u"a"_s, NvrnGlobal::PARAM_FILE_UNDEFINED));
 }
 
-void tst_ConfigurationFile10_items::fpgaFiles()
+void tst_configurationfile10_items::fpgaFiles()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -363,7 +363,7 @@ void tst_ConfigurationFile10_items::fpgaFiles()
     QVERIFY(file.fpgaFiles().isEmpty());
 }
 
-void tst_ConfigurationFile10_items::setActiveFpgaFile_data()
+void tst_configurationfile10_items::setActiveFpgaFile_data()
 {
     QTest::addColumn<QStringList>("before");
     QTest::addColumn<QString>("name");
@@ -389,7 +389,7 @@ void tst_ConfigurationFile10_items::setActiveFpgaFile_data()
         << QStringList{u"ab"_s} << u"b"_s << QStringList{u"b"_s, u"ab"_s};
 }
 
-void tst_ConfigurationFile10_items::setActiveFpgaFile()
+void tst_configurationfile10_items::setActiveFpgaFile()
 {
     QFETCH(QStringList, before);
     QFETCH(QString, name);
@@ -406,7 +406,7 @@ void tst_ConfigurationFile10_items::setActiveFpgaFile()
     QCOMPARE(file.activeFpgaFile(), name);
 }
 
-void tst_ConfigurationFile10_items::additionalFiles()
+void tst_configurationfile10_items::additionalFiles()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -437,7 +437,7 @@ void tst_ConfigurationFile10_items::additionalFiles()
     QVERIFY(file.additionalFiles().isEmpty());
 }
 
-void tst_ConfigurationFile10_items::plugins()
+void tst_configurationfile10_items::plugins()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -455,7 +455,7 @@ void tst_ConfigurationFile10_items::plugins()
     QVERIFY(list.isEmpty());
 }
 
-void tst_ConfigurationFile10_items::executionPlugin()
+void tst_configurationfile10_items::executionPlugin()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -466,7 +466,7 @@ void tst_ConfigurationFile10_items::executionPlugin()
     QCOMPARE(bytesOf(file).count("<ExecutionPlugin>"), 1);
 }
 
-void tst_ConfigurationFile10_items::opcUa()
+void tst_configurationfile10_items::opcUa()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.createNewDocument());
@@ -488,5 +488,5 @@ void tst_ConfigurationFile10_items::opcUa()
     QVERIFY(file.options().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationFile10_items)
+QTEST_GUILESS_MAIN(tst_configurationfile10_items)
 #include "tst_configurationfile10_items.moc"

@@ -12,7 +12,7 @@
 using namespace FullDocument;
 
 /** What is said about documents of other versions. */
-class tst_ConfigurationFile10_versions : public QObject
+class tst_configurationfile10_versions : public QObject
 {
     Q_OBJECT
 
@@ -36,13 +36,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_ConfigurationFile10_versions::init()
+void tst_configurationfile10_versions::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_ConfigurationFile10_versions::versions_data()
+void tst_configurationfile10_versions::versions_data()
 {
     QTest::addColumn<QByteArray>("attribute");
     QTest::addColumn<QStringList>("warnings");
@@ -65,7 +65,7 @@ void tst_ConfigurationFile10_versions::versions_data()
     QTest::newRow("missing") << QByteArray() << none;
 }
 
-void tst_ConfigurationFile10_versions::versions()
+void tst_configurationfile10_versions::versions()
 {
     QFETCH(QByteArray, attribute);
     QFETCH(QStringList, warnings);
@@ -91,7 +91,7 @@ void tst_ConfigurationFile10_versions::versions()
     }
 }
 
-void tst_ConfigurationFile10_versions::versionIsSaved()
+void tst_configurationfile10_versions::versionIsSaved()
 {
     const MessageCatcher catcher;
     CDeviceConfigurationFile10 file(nullptr);
@@ -103,7 +103,7 @@ void tst_ConfigurationFile10_versions::versionIsSaved()
     QCOMPARE(catcher.warnings(), QStringList{Later});
 }
 
-void tst_ConfigurationFile10_versions::versionErrorDirectly_data()
+void tst_configurationfile10_versions::versionErrorDirectly_data()
 {
     QTest::addColumn<QString>("required");
     QTest::addColumn<QString>("existing");
@@ -120,7 +120,7 @@ void tst_ConfigurationFile10_versions::versionErrorDirectly_data()
     QTest::newRow("neither is a revision") << u"x"_s << u"y"_s << none << false;
 }
 
-void tst_ConfigurationFile10_versions::versionErrorDirectly()
+void tst_configurationfile10_versions::versionErrorDirectly()
 {
     QFETCH(QString, required);
     QFETCH(QString, existing);
@@ -136,12 +136,12 @@ void tst_ConfigurationFile10_versions::versionErrorDirectly()
     QCOMPARE(file.currentFileVersion(), converts ? existing : u"before"_s);
 }
 
-void tst_ConfigurationFile10_versions::versionErrorOfBase_data()
+void tst_configurationfile10_versions::versionErrorOfBase_data()
 {
     versionErrorDirectly_data();
 }
 
-void tst_ConfigurationFile10_versions::versionErrorOfBase()
+void tst_configurationfile10_versions::versionErrorOfBase()
 {
     QFETCH(QString, required);
     QFETCH(QString, existing);
@@ -164,5 +164,5 @@ void tst_ConfigurationFile10_versions::versionErrorOfBase()
     QCOMPARE(file.currentFileVersion(), converts ? existing : u"before"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationFile10_versions)
+QTEST_GUILESS_MAIN(tst_configurationfile10_versions)
 #include "tst_configurationfile10_versions.moc"

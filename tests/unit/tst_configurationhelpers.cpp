@@ -24,7 +24,7 @@ const char *const FileContent = "<Name>n</Name><Comment>c</Comment>"
 
 } // namespace
 
-class tst_ConfigurationHelpers : public QObject
+class tst_configurationhelpers : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private slots:
     void buildersIntoNull();
 };
 
-void tst_ConfigurationHelpers::factory()
+void tst_configurationhelpers::factory()
 {
     const std::unique_ptr<ICDeviceConfigurationFile> file(
         ICDeviceConfigurationFile::instance(nullptr));
@@ -75,7 +75,7 @@ void tst_ConfigurationHelpers::factory()
     QCOMPARE(ICDeviceConfigurationFile::defaultFileName(), u"DeviceConfiguration.3deco"_s);
 }
 
-void tst_ConfigurationHelpers::find_data()
+void tst_configurationhelpers::find_data()
 {
     QTest::addColumn<QString>("finder");
     QTest::addColumn<QString>("in");
@@ -123,7 +123,7 @@ void tst_ConfigurationHelpers::find_data()
         << u"ethercat"_s << u"second config"_s << QString();
 }
 
-void tst_ConfigurationHelpers::find()
+void tst_configurationhelpers::find()
 {
     QFETCH(QString, finder);
     QFETCH(QString, in);
@@ -145,7 +145,7 @@ void tst_ConfigurationHelpers::find()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::findInConfig_data()
+void tst_configurationhelpers::findInConfig_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("found");
@@ -158,7 +158,7 @@ void tst_ConfigurationHelpers::findInConfig_data()
     QTest::newRow("no tag") << QString() << QString();
 }
 
-void tst_ConfigurationHelpers::findInConfig()
+void tst_configurationhelpers::findInConfig()
 {
     QFETCH(QString, tag);
     QFETCH(QString, found);
@@ -172,7 +172,7 @@ void tst_ConfigurationHelpers::findInConfig()
     QVERIFY(file.findElementInConfigElement(tag, file.byId(u"group"_s)).isNull());
 }
 
-void tst_ConfigurationHelpers::findWithoutDocument()
+void tst_configurationhelpers::findWithoutDocument()
 {
     const CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.findDeviceElement().isNull());
@@ -186,7 +186,7 @@ void tst_ConfigurationHelpers::findWithoutDocument()
     QVERIFY(file.findEtherCatMasterElement().isNull());
 }
 
-void tst_ConfigurationHelpers::create()
+void tst_configurationhelpers::create()
 {
     HelperFile file;
     const QByteArray before = file.bytes();
@@ -204,7 +204,7 @@ void tst_ConfigurationHelpers::create()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::createFromNothing()
+void tst_configurationhelpers::createFromNothing()
 {
     const struct {
         Creator creator;
@@ -233,7 +233,7 @@ void tst_ConfigurationHelpers::createFromNothing()
     QCOMPARE(text(file.findDeviceElement()), u"<Device/>"_s);
 }
 
-void tst_ConfigurationHelpers::createBelowGivenElement()
+void tst_configurationhelpers::createBelowGivenElement()
 {
     HelperFile file;
     const QDomElement group = file.byId(u"device of group"_s);
@@ -244,7 +244,7 @@ void tst_ConfigurationHelpers::createBelowGivenElement()
     QCOMPARE(config.childNodes().size(), 2);
 }
 
-void tst_ConfigurationHelpers::createWithoutDocument()
+void tst_configurationhelpers::createWithoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.deviceDomElement().isNull());
@@ -253,7 +253,7 @@ void tst_ConfigurationHelpers::createWithoutDocument()
     QVERIFY(file.pluginsDomElement(QDomElement()).isNull());
 }
 
-void tst_ConfigurationHelpers::appendFile()
+void tst_configurationhelpers::appendFile()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"files"_s);
@@ -266,7 +266,7 @@ void tst_ConfigurationHelpers::appendFile()
                  + u"<File><Name/><Comment/><DeviceDir/><ProjectDir/></File></Files>"_s);
 }
 
-void tst_ConfigurationHelpers::appendParamFile_data()
+void tst_configurationhelpers::appendParamFile_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("type");
@@ -280,7 +280,7 @@ void tst_ConfigurationHelpers::appendParamFile_data()
     QTest::newRow("below undefined") << u"a"_s << -2 << QString();
 }
 
-void tst_ConfigurationHelpers::appendParamFile()
+void tst_configurationhelpers::appendParamFile()
 {
     QFETCH(QString, name);
     QFETCH(int, type);
@@ -305,7 +305,7 @@ void tst_ConfigurationHelpers::appendParamFile()
     }
 }
 
-void tst_ConfigurationHelpers::appendPlugin()
+void tst_configurationhelpers::appendPlugin()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"plugins"_s);
@@ -318,7 +318,7 @@ void tst_ConfigurationHelpers::appendPlugin()
              u"</Plugins>"_s);
 }
 
-void tst_ConfigurationHelpers::appendFileString()
+void tst_configurationhelpers::appendFileString()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"files"_s);
@@ -329,7 +329,7 @@ void tst_ConfigurationHelpers::appendFileString()
              u"<File><Name>a.bit</Name></File></Files>"_s);
 }
 
-void tst_ConfigurationHelpers::writersFillInPlace()
+void tst_configurationhelpers::writersFillInPlace()
 {
     HelperFile file;
     const QByteArray old = "<File x=\"1\"><!--c--><Name>old</Name><Other/></File>";
@@ -363,7 +363,7 @@ void tst_ConfigurationHelpers::writersFillInPlace()
     QCOMPARE(text(untouched), QString::fromLatin1(old));
 }
 
-void tst_ConfigurationHelpers::writersIntoNull()
+void tst_configurationhelpers::writersIntoNull()
 {
     HelperFile file;
     const QByteArray before = file.bytes();
@@ -380,7 +380,7 @@ void tst_ConfigurationHelpers::writersIntoNull()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::insertFile()
+void tst_configurationhelpers::insertFile()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"files"_s);
@@ -402,7 +402,7 @@ void tst_ConfigurationHelpers::insertFile()
     QVERIFY(files == (QList<CFileElement>{sampleFile(), other}));
 }
 
-void tst_ConfigurationHelpers::insertParamFile()
+void tst_configurationhelpers::insertParamFile()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"params"_s);
@@ -424,7 +424,7 @@ void tst_ConfigurationHelpers::insertParamFile()
     QCOMPARE(list.childNodes().size(), 3);
 }
 
-void tst_ConfigurationHelpers::insertParamFileInvalid()
+void tst_configurationhelpers::insertParamFileInvalid()
 {
     HelperFile file;
     QDomElement list = file.byId(u"params"_s);
@@ -435,7 +435,7 @@ void tst_ConfigurationHelpers::insertParamFileInvalid()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_ConfigurationHelpers::insertPlugin()
+void tst_configurationhelpers::insertPlugin()
 {
     HelperFile file;
     const QDomElement list = file.byId(u"plugins"_s);
@@ -449,7 +449,7 @@ void tst_ConfigurationHelpers::insertPlugin()
             == (QList<CPluginElement>{plugin(u"a"_s, u"3"_s, 3), plugin(u"b"_s, u"2"_s, 2)}));
 }
 
-void tst_ConfigurationHelpers::setLists()
+void tst_configurationhelpers::setLists()
 {
     HelperFile file;
     const QDomElement parent = file.append("<P><A/><Files x=\"1\"><File/></Files><B/></P>");
@@ -468,7 +468,7 @@ void tst_ConfigurationHelpers::setLists()
     QCOMPARE(parent.lastChildElement().tagName(), u"Names"_s);
 }
 
-void tst_ConfigurationHelpers::descriptionElement()
+void tst_configurationhelpers::descriptionElement()
 {
     HelperFile file;
     const QDomElement element = file.append("<Description x=\"1\"><Other/></Description>");
@@ -487,7 +487,7 @@ void tst_ConfigurationHelpers::descriptionElement()
     QVERIFY(read == CDescriptionElement());
 }
 
-void tst_ConfigurationHelpers::deviceElementOfOtherTag()
+void tst_configurationhelpers::deviceElementOfOtherTag()
 {
     HelperFile file;
     CDeviceElement device = SampleConfiguration::device();
@@ -502,7 +502,7 @@ void tst_ConfigurationHelpers::deviceElementOfOtherTag()
     QVERIFY(device == SampleConfiguration::device());
 }
 
-void tst_ConfigurationHelpers::buildersIntoNull_data()
+void tst_configurationhelpers::buildersIntoNull_data()
 {
     QTest::addColumn<QString>("builder");
 
@@ -513,7 +513,7 @@ void tst_ConfigurationHelpers::buildersIntoNull_data()
     }
 }
 
-void tst_ConfigurationHelpers::buildersIntoNull()
+void tst_configurationhelpers::buildersIntoNull()
 {
     QFETCH(QString, builder);
 
@@ -541,5 +541,5 @@ void tst_ConfigurationHelpers::buildersIntoNull()
     QCOMPARE(file.bytes(), before);
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationHelpers)
+QTEST_GUILESS_MAIN(tst_configurationhelpers)
 #include "tst_configurationhelpers.moc"

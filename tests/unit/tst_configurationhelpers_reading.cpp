@@ -13,7 +13,7 @@ Q_DECLARE_METATYPE(NvrnGlobal::EParamFileType)
 Q_DECLARE_METATYPE(NDeviceConf::EDeviceClass)
 
 /** What the helpers read, and the texts for types and classes. */
-class tst_ConfigurationHelpers_reading : public QObject
+class tst_configurationhelpers_reading : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private slots:
     void strToDeviceClass();
 };
 
-void tst_ConfigurationHelpers_reading::readFile_data()
+void tst_configurationhelpers_reading::readFile_data()
 {
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<QString>("name");
@@ -56,7 +56,7 @@ void tst_ConfigurationHelpers_reading::readFile_data()
                                 << QString();
 }
 
-void tst_ConfigurationHelpers_reading::readFile()
+void tst_configurationhelpers_reading::readFile()
 {
     QFETCH(QByteArray, xml);
     QFETCH(QString, name);
@@ -77,7 +77,7 @@ void tst_ConfigurationHelpers_reading::readFile()
     QVERIFY(readName.isEmpty());
 }
 
-void tst_ConfigurationHelpers_reading::readParamFile()
+void tst_configurationhelpers_reading::readParamFile()
 {
     HelperFile file;
     CParamFileElement read = SampleConfiguration::paramFiles().constFirst();
@@ -102,7 +102,7 @@ void tst_ConfigurationHelpers_reading::readParamFile()
     QVERIFY(read.isNull());
 }
 
-void tst_ConfigurationHelpers_reading::readPlugin_data()
+void tst_configurationhelpers_reading::readPlugin_data()
 {
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<QString>("name");
@@ -119,7 +119,7 @@ void tst_ConfigurationHelpers_reading::readPlugin_data()
                                 << notSet;
 }
 
-void tst_ConfigurationHelpers_reading::readPlugin()
+void tst_configurationhelpers_reading::readPlugin()
 {
     QFETCH(QByteArray, xml);
     QFETCH(QString, name);
@@ -133,7 +133,7 @@ void tst_ConfigurationHelpers_reading::readPlugin()
     QVERIFY(read.isNull());
 }
 
-void tst_ConfigurationHelpers_reading::readLists()
+void tst_configurationhelpers_reading::readLists()
 {
     HelperFile file;
     const QDomElement list = file.append("<Files>"
@@ -156,7 +156,7 @@ void tst_ConfigurationHelpers_reading::readLists()
     QCOMPARE(names, (QStringList{u"a"_s, QString(), QString(), u"b"_s}));
 }
 
-void tst_ConfigurationHelpers_reading::readListsOfNull()
+void tst_configurationhelpers_reading::readListsOfNull()
 {
     const HelperFile file;
     QList<CFileElement> files = {sampleFile()};
@@ -176,7 +176,7 @@ void tst_ConfigurationHelpers_reading::readListsOfNull()
     QVERIFY(subDevices.isEmpty());
 }
 
-void tst_ConfigurationHelpers_reading::typeToStr_data()
+void tst_configurationhelpers_reading::typeToStr_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("text");
@@ -199,14 +199,14 @@ void tst_ConfigurationHelpers_reading::typeToStr_data()
     QTest::newRow("largest") << std::numeric_limits<int>::max() << u"Undefined"_s;
 }
 
-void tst_ConfigurationHelpers_reading::typeToStr()
+void tst_configurationhelpers_reading::typeToStr()
 {
     QFETCH(int, type);
     const HelperFile file;
     QTEST(file.typeToStr(static_cast<NvrnGlobal::EParamFileType>(type)), "text");
 }
 
-void tst_ConfigurationHelpers_reading::strToType_data()
+void tst_configurationhelpers_reading::strToType_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("type");
@@ -233,14 +233,14 @@ void tst_ConfigurationHelpers_reading::strToType_data()
     QTest::newRow("null") << QString() << -1;
 }
 
-void tst_ConfigurationHelpers_reading::strToType()
+void tst_configurationhelpers_reading::strToType()
 {
     QFETCH(QString, text);
     const HelperFile file;
     QTEST(static_cast<int>(file.strToType(text)), "type");
 }
 
-void tst_ConfigurationHelpers_reading::deviceClassToStr_data()
+void tst_configurationhelpers_reading::deviceClassToStr_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("text");
@@ -252,14 +252,14 @@ void tst_ConfigurationHelpers_reading::deviceClassToStr_data()
     QTest::newRow("negative") << -1 << u"Undefined"_s;
 }
 
-void tst_ConfigurationHelpers_reading::deviceClassToStr()
+void tst_configurationhelpers_reading::deviceClassToStr()
 {
     QFETCH(int, number);
     const HelperFile file;
     QTEST(file.deviceClassToStr(static_cast<NDeviceConf::EDeviceClass>(number)), "text");
 }
 
-void tst_ConfigurationHelpers_reading::strToDeviceClass_data()
+void tst_configurationhelpers_reading::strToDeviceClass_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("number");
@@ -276,12 +276,12 @@ void tst_ConfigurationHelpers_reading::strToDeviceClass_data()
     QTest::newRow("null") << QString() << 0;
 }
 
-void tst_ConfigurationHelpers_reading::strToDeviceClass()
+void tst_configurationhelpers_reading::strToDeviceClass()
 {
     QFETCH(QString, text);
     const HelperFile file;
     QTEST(static_cast<int>(file.strToDeviceClass(text)), "number");
 }
 
-QTEST_GUILESS_MAIN(tst_ConfigurationHelpers_reading)
+QTEST_GUILESS_MAIN(tst_configurationhelpers_reading)
 #include "tst_configurationhelpers_reading.moc"

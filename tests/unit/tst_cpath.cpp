@@ -5,7 +5,7 @@
 
 Q_DECLARE_METATYPE(CFTPath::EEntryPoint)
 
-class tst_CPath : public QObject
+class tst_cpath : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private slots:
     void fromPath();
 };
 
-void tst_CPath::separators_data()
+void tst_cpath::separators_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("withEnd");
@@ -49,7 +49,7 @@ void tst_CPath::separators_data()
     row("non-Latin", "\xe8\xbb\xb8", "\xe8\xbb\xb8/", "/\xe8\xbb\xb8", "\xe8\xbb\xb8");
 }
 
-void tst_CPath::separators()
+void tst_cpath::separators()
 {
     QFETCH(QString, path);
     QTEST(CPath::ensurePathSeparatorAtEnd(path), "withEnd");
@@ -57,7 +57,7 @@ void tst_CPath::separators()
     QTEST(CPath::removePathSeparatorAtStart(path), "withoutStart");
 }
 
-void tst_CPath::directoryNames_data()
+void tst_cpath::directoryNames_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -76,14 +76,14 @@ void tst_CPath::directoryNames_data()
     QTest::newRow("bin") << CFTPath::PATH_BIN;
 }
 
-void tst_CPath::directoryNames()
+void tst_cpath::directoryNames()
 {
     QFETCH(QString, name);
     const QRegularExpression relativeDirectory(QStringLiteral("\\A([A-Za-z0-9_-]+/)+\\z"));
     QVERIFY2(relativeDirectory.match(name).hasMatch(), qPrintable(name));
 }
 
-void tst_CPath::roots_data()
+void tst_cpath::roots_data()
 {
     QTest::addColumn<CFTPath::EEntryPoint>("entryPoint");
     QTest::addColumn<int>("number");
@@ -102,7 +102,7 @@ void tst_CPath::roots_data()
                                   << opt + CPath::CPATH_PLUGINS;
 }
 
-void tst_CPath::roots()
+void tst_cpath::roots()
 {
     QFETCH(CFTPath::EEntryPoint, entryPoint);
     QFETCH(QString, root);
@@ -123,7 +123,7 @@ void tst_CPath::roots()
     }
 }
 
-void tst_CPath::unknownEntryPoint_data()
+void tst_cpath::unknownEntryPoint_data()
 {
     QTest::addColumn<int>("number");
 
@@ -134,13 +134,13 @@ void tst_CPath::unknownEntryPoint_data()
     QTest::newRow("smallest") << std::numeric_limits<int>::min();
 }
 
-void tst_CPath::unknownEntryPoint()
+void tst_cpath::unknownEntryPoint()
 {
     QFETCH(int, number);
     QVERIFY(CFTPath::toPath(static_cast<CFTPath::EEntryPoint>(number)).isEmpty());
 }
 
-void tst_CPath::fromPath_data()
+void tst_cpath::fromPath_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<CFTPath::EEntryPoint>("entryPoint");
@@ -185,11 +185,11 @@ void tst_CPath::fromPath_data()
                              << CFTPath::ENTRY_POINT_OPT_PLUGINS;
 }
 
-void tst_CPath::fromPath()
+void tst_cpath::fromPath()
 {
     QFETCH(QString, path);
     QTEST(CFTPath::fromPath(path), "entryPoint");
 }
 
-QTEST_GUILESS_MAIN(tst_CPath)
+QTEST_GUILESS_MAIN(tst_cpath)
 #include "tst_cpath.moc"

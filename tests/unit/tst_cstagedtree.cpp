@@ -47,7 +47,7 @@ QStringList portrait(const QString &root)
 
 } // namespace
 
-class tst_CStagedTree : public QObject
+class tst_cstagedtree : public QObject
 {
     Q_OBJECT
 
@@ -471,5 +471,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CStagedTree)
+QTEST_GUILESS_MAIN(tst_cstagedtree)
 #include "tst_cstagedtree.moc"

@@ -16,7 +16,7 @@
 using namespace StagedTrees;
 
 /** What is left when a tree cannot be made: sources that change, full disks, other runs. */
-class tst_CStagedTree_failures : public QObject
+class tst_cstagedtree_failures : public QObject
 {
     Q_OBJECT
 
@@ -311,5 +311,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CStagedTree_failures)
+QTEST_GUILESS_MAIN(tst_cstagedtree_failures)
 #include "tst_cstagedtree_failures.moc"

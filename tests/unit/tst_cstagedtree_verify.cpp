@@ -62,7 +62,7 @@ using Change = std::function<void(const QDir &root)>;
 Q_DECLARE_METATYPE(Change)
 
 /** What is missing, surplus or changed in a tree or an archive. */
-class tst_CStagedTree_verify : public QObject
+class tst_cstagedtree_verify : public QObject
 {
     Q_OBJECT
 
@@ -389,5 +389,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CStagedTree_verify)
+QTEST_GUILESS_MAIN(tst_cstagedtree_verify)
 #include "tst_cstagedtree_verify.moc"

@@ -65,7 +65,7 @@ QStringList relativePaths(const QStringList &paths)
 
 } // namespace
 
-class tst_CStagingPlan : public QObject
+class tst_cstagingplan : public QObject
 {
     Q_OBJECT
 
@@ -416,5 +416,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CStagingPlan)
+QTEST_GUILESS_MAIN(tst_cstagingplan)
 #include "tst_cstagingplan.moc"

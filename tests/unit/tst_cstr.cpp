@@ -2,7 +2,7 @@
 
 #include <QtTest>
 
-class tst_CStr : public QObject
+class tst_cstr : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private slots:
     void withoutOk();
 };
 
-void tst_CStr::revision_data()
+void tst_cstr::revision_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<quint32>("number");
@@ -34,7 +34,7 @@ void tst_CStr::revision_data()
     QTest::newRow("largest") << QStringLiteral("4293.999.999") << 4293999999u;
 }
 
-void tst_CStr::revision()
+void tst_cstr::revision()
 {
     QFETCH(QString, text);
     bool ok = false;
@@ -42,7 +42,7 @@ void tst_CStr::revision()
     QVERIFY(ok);
 }
 
-void tst_CStr::order_data()
+void tst_cstr::order_data()
 {
     QTest::addColumn<QString>("lower");
     QTest::addColumn<QString>("higher");
@@ -61,7 +61,7 @@ void tst_CStr::order_data()
     }
 }
 
-void tst_CStr::order()
+void tst_cstr::order()
 {
     QFETCH(QString, lower);
     QFETCH(QString, higher);
@@ -72,7 +72,7 @@ void tst_CStr::order()
     QVERIFY(higherOk);
 }
 
-void tst_CStr::reject_data()
+void tst_cstr::reject_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -112,7 +112,7 @@ void tst_CStr::reject_data()
     QTest::newRow("null character behind") << QStringLiteral("1.0") + QChar(QChar::Null);
 }
 
-void tst_CStr::reject()
+void tst_cstr::reject()
 {
     QFETCH(QString, text);
     bool ok = true;
@@ -120,11 +120,11 @@ void tst_CStr::reject()
     QVERIFY(!ok);
 }
 
-void tst_CStr::withoutOk()
+void tst_cstr::withoutOk()
 {
     QCOMPARE(CStr::stringToRevision(QStringLiteral("2.3")), 2003000u);
     QCOMPARE(CStr::stringToRevision(QStringLiteral("2.3x")), 0u);
 }
 
-QTEST_GUILESS_MAIN(tst_CStr)
+QTEST_GUILESS_MAIN(tst_cstr)
 #include "tst_cstr.moc"

@@ -10,7 +10,7 @@
 
 using namespace SampleXmlFile;
 
-class tst_CXmlAbstractVornFile : public QObject
+class tst_cxmlabstractvornfile : public QObject
 {
     Q_OBJECT
 
@@ -53,13 +53,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_CXmlAbstractVornFile::init()
+void tst_cxmlabstractvornfile::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_CXmlAbstractVornFile::withoutDocument()
+void tst_cxmlabstractvornfile::withoutDocument()
 {
     RecordingLog log;
     const TestFile file(&log);
@@ -71,7 +71,7 @@ void tst_CXmlAbstractVornFile::withoutDocument()
     QVERIFY(log.entries().isEmpty());
 }
 
-void tst_CXmlAbstractVornFile::createNewDocument()
+void tst_cxmlabstractvornfile::createNewDocument()
 {
     TestFile file;
     QVERIFY(file.createNewDocument(Type, Version));
@@ -79,7 +79,7 @@ void tst_CXmlAbstractVornFile::createNewDocument()
     QVERIFY(file.metaData().isNull());
 }
 
-void tst_CXmlAbstractVornFile::createNewDocumentReplaces()
+void tst_cxmlabstractvornfile::createNewDocumentReplaces()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <Device/>\n")));
@@ -87,7 +87,7 @@ void tst_CXmlAbstractVornFile::createNewDocumentReplaces()
     QCOMPARE(file.bytes(), Declaration + "<Other version=\"2.5\"/>\n");
 }
 
-void tst_CXmlAbstractVornFile::createNewDocumentNames_data()
+void tst_cxmlabstractvornfile::createNewDocumentNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("accepted");
@@ -116,7 +116,7 @@ void tst_CXmlAbstractVornFile::createNewDocumentNames_data()
     row("ordinal mark", "\xc2\xaa", false);
 }
 
-void tst_CXmlAbstractVornFile::createNewDocumentNames()
+void tst_cxmlabstractvornfile::createNewDocumentNames()
 {
     QFETCH(QString, name);
     QFETCH(bool, accepted);
@@ -132,7 +132,7 @@ void tst_CXmlAbstractVornFile::createNewDocumentNames()
     }
 }
 
-void tst_CXmlAbstractVornFile::openBuffer()
+void tst_cxmlabstractvornfile::openBuffer()
 {
     const MessageCatcher catcher;
     TestFile file;
@@ -143,7 +143,7 @@ void tst_CXmlAbstractVornFile::openBuffer()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CXmlAbstractVornFile::openFile()
+void tst_cxmlabstractvornfile::openFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), document(" <Device/>\n")));
@@ -157,7 +157,7 @@ void tst_CXmlAbstractVornFile::openFile()
     QCOMPARE(file.bytes(), document(" <Device/>\n"));
 }
 
-void tst_CXmlAbstractVornFile::openFileFails_data()
+void tst_cxmlabstractvornfile::openFileFails_data()
 {
     QTest::addColumn<QString>("relativePath");
 
@@ -167,7 +167,7 @@ void tst_CXmlAbstractVornFile::openFileFails_data()
     QTest::newRow("name with place markers") << text("%1 %2.3deco");
 }
 
-void tst_CXmlAbstractVornFile::openFileFails()
+void tst_cxmlabstractvornfile::openFileFails()
 {
     QFETCH(QString, relativePath);
 
@@ -190,7 +190,7 @@ void tst_CXmlAbstractVornFile::openFileFails()
     QCOMPARE(Files::names(m_directory->path()), QStringList());
 }
 
-void tst_CXmlAbstractVornFile::wrongDocumentType_data()
+void tst_cxmlabstractvornfile::wrongDocumentType_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -202,7 +202,7 @@ void tst_CXmlAbstractVornFile::wrongDocumentType_data()
     QTest::newRow("below another root") << QByteArray("<R><VornDeviceConfig version=\"1.0\"/></R>");
 }
 
-void tst_CXmlAbstractVornFile::wrongDocumentType()
+void tst_cxmlabstractvornfile::wrongDocumentType()
 {
     QFETCH(QByteArray, bytes);
 
@@ -219,7 +219,7 @@ void tst_CXmlAbstractVornFile::wrongDocumentType()
     QVERIFY(file.versionErrors.isEmpty());
 }
 
-void tst_CXmlAbstractVornFile::version_data()
+void tst_cxmlabstractvornfile::version_data()
 {
     QTest::addColumn<QByteArray>("attributes");
     QTest::addColumn<QStringList>("versionErrors");
@@ -240,7 +240,7 @@ void tst_CXmlAbstractVornFile::version_data()
     row("attribute in other case", " Version=\"1.0\"", "1.0/");
 }
 
-void tst_CXmlAbstractVornFile::version()
+void tst_cxmlabstractvornfile::version()
 {
     QFETCH(QByteArray, attributes);
     QFETCH(QStringList, versionErrors);
@@ -256,7 +256,7 @@ void tst_CXmlAbstractVornFile::version()
     QCOMPARE(file.root().attribute(text("version")), Version);
 }
 
-void tst_CXmlAbstractVornFile::versionRefused()
+void tst_cxmlabstractvornfile::versionRefused()
 {
     const MessageCatcher catcher;
     TestFile file;
@@ -271,7 +271,7 @@ void tst_CXmlAbstractVornFile::versionRefused()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CXmlAbstractVornFile::failedOpenDropsDocument_data()
+void tst_cxmlabstractvornfile::failedOpenDropsDocument_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -281,7 +281,7 @@ void tst_CXmlAbstractVornFile::failedOpenDropsDocument_data()
     QTest::newRow("other type") << QByteArray("<Other/>");
 }
 
-void tst_CXmlAbstractVornFile::failedOpenDropsDocument()
+void tst_cxmlabstractvornfile::failedOpenDropsDocument()
 {
     QFETCH(QByteArray, bytes);
 
@@ -297,7 +297,7 @@ void tst_CXmlAbstractVornFile::failedOpenDropsDocument()
     QCOMPARE(file.bytes(), document(" <Device/>\n"));
 }
 
-void tst_CXmlAbstractVornFile::metaData()
+void tst_cxmlabstractvornfile::metaData()
 {
     CXMLMetaData data;
     data.setAuthor(text("A. Engineer"));
@@ -326,7 +326,7 @@ void tst_CXmlAbstractVornFile::metaData()
     QCOMPARE(back.root().elementsByTagName(text("Head")).size(), 1);
 }
 
-void tst_CXmlAbstractVornFile::metaDataOfElement()
+void tst_cxmlabstractvornfile::metaDataOfElement()
 {
     CXMLMetaData data;
     data.setComment(text("of the device"));
@@ -348,7 +348,7 @@ void tst_CXmlAbstractVornFile::metaDataOfElement()
     QVERIFY(!ok);
 }
 
-void tst_CXmlAbstractVornFile::metaDataWithoutHead()
+void tst_cxmlabstractvornfile::metaDataWithoutHead()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <Author>x</Author>\n")));
@@ -359,7 +359,7 @@ void tst_CXmlAbstractVornFile::metaDataWithoutHead()
     QVERIFY(ok);
 }
 
-void tst_CXmlAbstractVornFile::metaDataKeepsUnknown()
+void tst_cxmlabstractvornfile::metaDataKeepsUnknown()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <Head a=\"1\">\n"
@@ -380,7 +380,7 @@ void tst_CXmlAbstractVornFile::metaDataKeepsUnknown()
                       " </Head>\n"));
 }
 
-void tst_CXmlAbstractVornFile::elements()
+void tst_cxmlabstractvornfile::elements()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <A>1</A>\n <A>2</A>\n <B>\n  <C/>\n </B>\n")));
@@ -397,7 +397,7 @@ void tst_CXmlAbstractVornFile::elements()
     QCOMPARE(file.bytes(), document(" <A>1</A>\n <A>2</A>\n <B>\n  <C/>\n  <E/>\n </B>\n <D/>\n"));
 }
 
-void tst_CXmlAbstractVornFile::elementsWithoutDocument()
+void tst_cxmlabstractvornfile::elementsWithoutDocument()
 {
     TestFile file;
     QVERIFY(file.domElement(text("A"), QDomElement()).isNull());
@@ -410,7 +410,7 @@ void tst_CXmlAbstractVornFile::elementsWithoutDocument()
     QVERIFY(file.domDocument().isNull());
 }
 
-void tst_CXmlAbstractVornFile::nodeValues()
+void tst_cxmlabstractvornfile::nodeValues()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <A b=\"1\">old<!-- c --><B>below</B></A>\n")));
@@ -430,7 +430,7 @@ void tst_CXmlAbstractVornFile::nodeValues()
     QCOMPARE(file.getNodeValue(text("B"), a), text("-2147483648"));
 }
 
-void tst_CXmlAbstractVornFile::gettersCreateNothing()
+void tst_cxmlabstractvornfile::gettersCreateNothing()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <A/>\n")));
@@ -445,5 +445,5 @@ void tst_CXmlAbstractVornFile::gettersCreateNothing()
     QCOMPARE(file.bytes(), before);
 }
 
-QTEST_GUILESS_MAIN(tst_CXmlAbstractVornFile)
+QTEST_GUILESS_MAIN(tst_cxmlabstractvornfile)
 #include "tst_cxmlabstractvornfile.moc"

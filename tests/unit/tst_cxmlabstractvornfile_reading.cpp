@@ -73,7 +73,7 @@ const Malformed MalformedFiles[] = {
 } // namespace
 
 /** What is read, and what is refused, with its place. */
-class tst_CXmlAbstractVornFile_reading : public QObject
+class tst_cxmlabstractvornfile_reading : public QObject
 {
     Q_OBJECT
 
@@ -108,13 +108,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_CXmlAbstractVornFile_reading::init()
+void tst_cxmlabstractvornfile_reading::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_CXmlAbstractVornFile_reading::malformed_data()
+void tst_cxmlabstractvornfile_reading::malformed_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<int>("column");
@@ -124,7 +124,7 @@ void tst_CXmlAbstractVornFile_reading::malformed_data()
     }
 }
 
-void tst_CXmlAbstractVornFile_reading::malformed()
+void tst_cxmlabstractvornfile_reading::malformed()
 {
     QFETCH(int, line);
     QFETCH(int, column);
@@ -156,7 +156,7 @@ void tst_CXmlAbstractVornFile_reading::malformed()
     QCOMPARE(bufferError, error.mid(prefix));
 }
 
-void tst_CXmlAbstractVornFile_reading::everyMalformedFileIsTested()
+void tst_cxmlabstractvornfile_reading::everyMalformedFileIsTested()
 {
     QStringList tested;
     for (const Malformed &row : MalformedFiles) {
@@ -166,7 +166,7 @@ void tst_CXmlAbstractVornFile_reading::everyMalformedFileIsTested()
     QCOMPARE(QDir(invalidDirectory()).entryList(QDir::Files, QDir::Name), tested);
 }
 
-void tst_CXmlAbstractVornFile_reading::nesting_data()
+void tst_cxmlabstractvornfile_reading::nesting_data()
 {
     QTest::addColumn<int>("depth");
     QTest::addColumn<bool>("accepted");
@@ -177,7 +177,7 @@ void tst_CXmlAbstractVornFile_reading::nesting_data()
     QTest::newRow("far too deep") << 200000 << false;
 }
 
-void tst_CXmlAbstractVornFile_reading::nesting()
+void tst_cxmlabstractvornfile_reading::nesting()
 {
     QFETCH(int, depth);
     QFETCH(bool, accepted);
@@ -192,7 +192,7 @@ void tst_CXmlAbstractVornFile_reading::nesting()
     QCOMPARE(catcher.criticals().size(), accepted ? 0 : 1);
 }
 
-void tst_CXmlAbstractVornFile_reading::encodings_data()
+void tst_cxmlabstractvornfile_reading::encodings_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -210,7 +210,7 @@ void tst_CXmlAbstractVornFile_reading::encodings_data()
     QTest::newRow("Windows line ends") << Declaration.trimmed() + "\r\n" + rest + "\r\n";
 }
 
-void tst_CXmlAbstractVornFile_reading::encodings()
+void tst_cxmlabstractvornfile_reading::encodings()
 {
     QFETCH(QByteArray, bytes);
 
@@ -221,7 +221,7 @@ void tst_CXmlAbstractVornFile_reading::encodings()
     QCOMPARE(file.bytes(), document(" <Name>\xc3\xbc</Name>\n"));
 }
 
-void tst_CXmlAbstractVornFile_reading::survives_data()
+void tst_cxmlabstractvornfile_reading::survives_data()
 {
     QTest::addColumn<QByteArray>("bytes");
 
@@ -271,7 +271,7 @@ void tst_CXmlAbstractVornFile_reading::survives_data()
         << document(" <A>\xc2\x85\xe2\x80\xa8</A>\n");
 }
 
-void tst_CXmlAbstractVornFile_reading::survives()
+void tst_cxmlabstractvornfile_reading::survives()
 {
     QFETCH(QByteArray, bytes);
 
@@ -281,7 +281,7 @@ void tst_CXmlAbstractVornFile_reading::survives()
     QCOMPARE(file.bytes(), bytes);
 }
 
-void tst_CXmlAbstractVornFile_reading::normalised_data()
+void tst_cxmlabstractvornfile_reading::normalised_data()
 {
     QTest::addColumn<QByteArray>("read");
     QTest::addColumn<QByteArray>("written");
@@ -300,7 +300,7 @@ void tst_CXmlAbstractVornFile_reading::normalised_data()
         << document(" <A a=\"1\n2\t3\"/>\n") << document(" <A a=\"1 2 3\"/>\n");
 }
 
-void tst_CXmlAbstractVornFile_reading::normalised()
+void tst_cxmlabstractvornfile_reading::normalised()
 {
     QFETCH(QByteArray, read);
     QFETCH(QByteArray, written);
@@ -314,7 +314,7 @@ void tst_CXmlAbstractVornFile_reading::normalised()
     QCOMPARE(file.bytes(), written);
 }
 
-void tst_CXmlAbstractVornFile_reading::attributesAreSorted()
+void tst_cxmlabstractvornfile_reading::attributesAreSorted()
 {
     // QDom keeps attributes in a hash, whose order differs from process to process.
     QStringList names;
@@ -335,7 +335,7 @@ void tst_CXmlAbstractVornFile_reading::attributesAreSorted()
     QCOMPARE(file.bytes(), document(" <A" + expected + "/>\n"));
 }
 
-void tst_CXmlAbstractVornFile_reading::textsSurvive_data()
+void tst_cxmlabstractvornfile_reading::textsSurvive_data()
 {
     QTest::addColumn<QString>("value");
 
@@ -367,7 +367,7 @@ void tst_CXmlAbstractVornFile_reading::textsSurvive_data()
     QTest::newRow("long") << QString(200000, QLatin1Char('x')) + text(" \n<&>");
 }
 
-void tst_CXmlAbstractVornFile_reading::textsSurvive()
+void tst_cxmlabstractvornfile_reading::textsSurvive()
 {
     QFETCH(QString, value);
 
@@ -391,7 +391,7 @@ void tst_CXmlAbstractVornFile_reading::textsSurvive()
     QCOMPARE(back.bytes(), Files::read(path()));
 }
 
-void tst_CXmlAbstractVornFile_reading::positions()
+void tst_cxmlabstractvornfile_reading::positions()
 {
     const QByteArray bytes = "<?xml version=\"1.0\"?>\n<!-- \xC3\xA9 -->\n"
                              "<VornDeviceConfig version=\"1.0\">\r\n"
@@ -424,7 +424,7 @@ void tst_CXmlAbstractVornFile_reading::positions()
     QCOMPARE(place(firstB), Place(4, 11));
 }
 
-void tst_CXmlAbstractVornFile_reading::positionsOfOtherElements()
+void tst_cxmlabstractvornfile_reading::positionsOfOtherElements()
 {
     const MessageCatcher catcher;
     TestFile file;
@@ -456,5 +456,5 @@ void tst_CXmlAbstractVornFile_reading::positionsOfOtherElements()
     QVERIFY(!isKnown(file.root()));
 }
 
-QTEST_GUILESS_MAIN(tst_CXmlAbstractVornFile_reading)
+QTEST_GUILESS_MAIN(tst_cxmlabstractvornfile_reading)
 #include "tst_cxmlabstractvornfile_reading.moc"

@@ -15,7 +15,7 @@
 using namespace SampleXmlFile;
 
 /** What is written, and what stays when it cannot be. */
-class tst_CXmlAbstractVornFile_saving : public QObject
+class tst_cxmlabstractvornfile_saving : public QObject
 {
     Q_OBJECT
 
@@ -60,13 +60,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_CXmlAbstractVornFile_saving::init()
+void tst_cxmlabstractvornfile_saving::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_CXmlAbstractVornFile_saving::layout()
+void tst_cxmlabstractvornfile_saving::layout()
 {
     TestFile file;
     QVERIFY(file.createNewDocument(Type, Version));
@@ -90,7 +90,7 @@ void tst_CXmlAbstractVornFile_saving::layout()
                       " </Device>\n"));
 }
 
-void tst_CXmlAbstractVornFile_saving::markupSetByHandle_data()
+void tst_cxmlabstractvornfile_saving::markupSetByHandle_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("value");
@@ -118,7 +118,7 @@ void tst_CXmlAbstractVornFile_saving::markupSetByHandle_data()
     row("attribute name with a quote", "attribute", "a\"", false);
 }
 
-void tst_CXmlAbstractVornFile_saving::markupSetByHandle()
+void tst_cxmlabstractvornfile_saving::markupSetByHandle()
 {
     QFETCH(QString, kind);
     QFETCH(QString, value);
@@ -156,7 +156,7 @@ void tst_CXmlAbstractVornFile_saving::markupSetByHandle()
     }
 }
 
-void tst_CXmlAbstractVornFile_saving::unwritableText_data()
+void tst_cxmlabstractvornfile_saving::unwritableText_data()
 {
     QTest::addColumn<QString>("value");
 
@@ -177,7 +177,7 @@ void tst_CXmlAbstractVornFile_saving::unwritableText_data()
     QTest::newRow("U+FFFF") << QString(QChar(0xffff));
 }
 
-void tst_CXmlAbstractVornFile_saving::unwritableText()
+void tst_cxmlabstractvornfile_saving::unwritableText()
 {
     QFETCH(QString, value);
 
@@ -213,7 +213,7 @@ void tst_CXmlAbstractVornFile_saving::unwritableText()
 }
 
 /** Searched from the beginning of the text for each of them, this would not end. */
-void tst_CXmlAbstractVornFile_saving::manyUnwritableCharacters()
+void tst_cxmlabstractvornfile_saving::manyUnwritableCharacters()
 {
     const int half = 500000;
     TestFile file;
@@ -229,7 +229,7 @@ void tst_CXmlAbstractVornFile_saving::manyUnwritableCharacters()
     QVERIFY(buffer.isEmpty());
 }
 
-void tst_CXmlAbstractVornFile_saving::limitsOfSaving_data()
+void tst_cxmlabstractvornfile_saving::limitsOfSaving_data()
 {
     QTest::addColumn<int>("fileSize");
     QTest::addColumn<int>("depth");
@@ -248,7 +248,7 @@ void tst_CXmlAbstractVornFile_saving::limitsOfSaving_data()
 }
 
 /** What could not be read again is not written. */
-void tst_CXmlAbstractVornFile_saving::limitsOfSaving()
+void tst_cxmlabstractvornfile_saving::limitsOfSaving()
 {
     QFETCH(int, fileSize);
     QFETCH(int, depth);
@@ -281,7 +281,7 @@ void tst_CXmlAbstractVornFile_saving::limitsOfSaving()
     }
 }
 
-void tst_CXmlAbstractVornFile_saving::saveTwice()
+void tst_cxmlabstractvornfile_saving::saveTwice()
 {
     TestFile file;
     QVERIFY(file.openBytes(document(" <A b=\"2\" a=\"1\">x</A>\n")));
@@ -298,7 +298,7 @@ void tst_CXmlAbstractVornFile_saving::saveTwice()
     QCOMPARE(reopened.bytes(), file.bytes());
 }
 
-void tst_CXmlAbstractVornFile_saving::saveAfterChange_data()
+void tst_cxmlabstractvornfile_saving::saveAfterChange_data()
 {
     QTest::addColumn<QByteArray>("content");
 
@@ -310,7 +310,7 @@ void tst_CXmlAbstractVornFile_saving::saveAfterChange_data()
     QTest::newRow("device with an element") << QByteArray(" <Device>\n  <A/>\n </Device>\n");
 }
 
-void tst_CXmlAbstractVornFile_saving::saveAfterChange()
+void tst_cxmlabstractvornfile_saving::saveAfterChange()
 {
     QFETCH(QByteArray, content);
 
@@ -324,7 +324,7 @@ void tst_CXmlAbstractVornFile_saving::saveAfterChange()
     QCOMPARE(reopened.bytes(), saved);
 }
 
-void tst_CXmlAbstractVornFile_saving::saveReplacesFile()
+void tst_cxmlabstractvornfile_saving::saveReplacesFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), QByteArray(100000, 'x')));
@@ -337,7 +337,7 @@ void tst_CXmlAbstractVornFile_saving::saveReplacesFile()
     QVERIFY(catcher.messages().isEmpty());
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithOtherName()
+void tst_cxmlabstractvornfile_saving::saveWithOtherName()
 {
     TestFile file;
     QVERIFY(file.openBytes(Declaration
@@ -358,7 +358,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithOtherName()
     QCOMPARE(file.bytes(), before);
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails_data()
+void tst_cxmlabstractvornfile_saving::saveWithOtherNameFails_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -368,7 +368,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails_data()
     QTest::newRow("mark") << text("a><b");
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails()
+void tst_cxmlabstractvornfile_saving::saveWithOtherNameFails()
 {
     QFETCH(QString, name);
 
@@ -382,7 +382,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithOtherNameFails()
     QCOMPARE(Files::read(path()), QByteArray("old"));
 }
 
-void tst_CXmlAbstractVornFile_saving::saveWithoutDocument()
+void tst_cxmlabstractvornfile_saving::saveWithoutDocument()
 {
     RecordingLog log;
     const MessageCatcher catcher;
@@ -408,7 +408,7 @@ void tst_CXmlAbstractVornFile_saving::saveWithoutDocument()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveFails_data()
+void tst_cxmlabstractvornfile_saving::saveFails_data()
 {
     QTest::addColumn<QString>("relativePath");
 
@@ -417,7 +417,7 @@ void tst_CXmlAbstractVornFile_saving::saveFails_data()
     QTest::newRow("file in place of directory") << text("file/a.3deco");
 }
 
-void tst_CXmlAbstractVornFile_saving::saveFails()
+void tst_cxmlabstractvornfile_saving::saveFails()
 {
     QFETCH(QString, relativePath);
 
@@ -440,7 +440,7 @@ void tst_CXmlAbstractVornFile_saving::saveFails()
     QCOMPARE(Files::read(path(text("elsewhere"))), document(" <Device/>\n"));
 }
 
-void tst_CXmlAbstractVornFile_saving::saveOnFullDisk()
+void tst_cxmlabstractvornfile_saving::saveOnFullDisk()
 {
     const MessageCatcher catcher;
     const QByteArray old = document(" <Old/>\n");
@@ -463,7 +463,7 @@ void tst_CXmlAbstractVornFile_saving::saveOnFullDisk()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveThroughLink()
+void tst_cxmlabstractvornfile_saving::saveThroughLink()
 {
     QVERIFY(QDir(m_directory->path()).mkdir(text("directory")));
     const QString target = path(text("directory/target.3deco"));
@@ -478,7 +478,7 @@ void tst_CXmlAbstractVornFile_saving::saveThroughLink()
     QCOMPARE(Files::names(path(text("directory"))), QStringList{text("target.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveIntoReadOnlyDirectory()
+void tst_cxmlabstractvornfile_saving::saveIntoReadOnlyDirectory()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), QByteArray(1000, 'x')));
@@ -501,7 +501,7 @@ void tst_CXmlAbstractVornFile_saving::saveIntoReadOnlyDirectory()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveReadOnlyFile()
+void tst_cxmlabstractvornfile_saving::saveReadOnlyFile()
 {
     const MessageCatcher catcher;
     QVERIFY(Files::write(path(), "old"));
@@ -517,7 +517,7 @@ void tst_CXmlAbstractVornFile_saving::saveReadOnlyFile()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::saveThatFailsAtTheLastStep()
+void tst_cxmlabstractvornfile_saving::saveThatFailsAtTheLastStep()
 {
     // In a sticky directory everybody may add files, but replace only their own: the new content is
     // complete beside the old, and cannot take its name.
@@ -545,7 +545,7 @@ void tst_CXmlAbstractVornFile_saving::saveThatFailsAtTheLastStep()
     QCOMPARE(Files::names(m_directory->path()), QStringList{text("a.3deco")});
 }
 
-void tst_CXmlAbstractVornFile_saving::permissions_data()
+void tst_cxmlabstractvornfile_saving::permissions_data()
 {
     QTest::addColumn<int>("mode");
 
@@ -555,7 +555,7 @@ void tst_CXmlAbstractVornFile_saving::permissions_data()
     QTest::newRow("everybody writes") << 0x6066;
 }
 
-void tst_CXmlAbstractVornFile_saving::permissions()
+void tst_cxmlabstractvornfile_saving::permissions()
 {
     QFETCH(int, mode);
     const QFileDevice::Permissions wanted(mode);
@@ -578,7 +578,7 @@ void tst_CXmlAbstractVornFile_saving::permissions()
     QCOMPARE(QFile::permissions(path(text("old"))) & mask, wanted);
 }
 
-void tst_CXmlAbstractVornFile_saving::permissionsOfOldFileStay()
+void tst_cxmlabstractvornfile_saving::permissionsOfOldFileStay()
 {
     const QFileDevice::Permissions mask(0x7077);
     const QFileDevice::Permissions old(0x6020);
@@ -591,5 +591,5 @@ void tst_CXmlAbstractVornFile_saving::permissionsOfOldFileStay()
     QCOMPARE(QFile::permissions(path()) & mask, old);
 }
 
-QTEST_GUILESS_MAIN(tst_CXmlAbstractVornFile_saving)
+QTEST_GUILESS_MAIN(tst_cxmlabstractvornfile_saving)
 #include "tst_cxmlabstractvornfile_saving.moc"

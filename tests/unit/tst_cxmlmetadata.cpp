@@ -20,7 +20,7 @@ const QString Comment = QStringLiteral("For the press");
 
 } // namespace
 
-class tst_CXMLMetaData : public QObject
+class tst_cxmlmetadata : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private slots:
     void copy();
 };
 
-void tst_CXMLMetaData::accessors()
+void tst_cxmlmetadata::accessors()
 {
     const QDate date(2026, 1, 31);
     const CXMLMetaData data = metaData(Author, date, Comment);
@@ -42,7 +42,7 @@ void tst_CXMLMetaData::accessors()
     QCOMPARE(data.comment(), Comment);
 }
 
-void tst_CXMLMetaData::null_data()
+void tst_cxmlmetadata::null_data()
 {
     QTest::addColumn<CXMLMetaData>("data");
     QTest::addColumn<bool>("isNull");
@@ -57,7 +57,7 @@ void tst_CXMLMetaData::null_data()
     QTest::newRow("blank") << metaData(QStringLiteral(" "), QDate(), QString()) << false;
 }
 
-void tst_CXMLMetaData::null()
+void tst_cxmlmetadata::null()
 {
     QFETCH(CXMLMetaData, data);
     QFETCH(bool, isNull);
@@ -66,7 +66,7 @@ void tst_CXMLMetaData::null()
     QCOMPARE(data != CXMLMetaData(), !isNull);
 }
 
-void tst_CXMLMetaData::comparison_data()
+void tst_cxmlmetadata::comparison_data()
 {
     QTest::addColumn<CXMLMetaData>("other");
 
@@ -78,7 +78,7 @@ void tst_CXMLMetaData::comparison_data()
     QTest::newRow("author and comment exchanged") << metaData(Comment, date, Author);
 }
 
-void tst_CXMLMetaData::comparison()
+void tst_cxmlmetadata::comparison()
 {
     QFETCH(CXMLMetaData, other);
     const CXMLMetaData data = metaData(Author, QDate(2026, 1, 31), Comment);
@@ -88,7 +88,7 @@ void tst_CXMLMetaData::comparison()
     QVERIFY(!(data == other));
 }
 
-void tst_CXMLMetaData::copy()
+void tst_cxmlmetadata::copy()
 {
     const CXMLMetaData data = metaData(Author, QDate(2026, 1, 31), Comment);
     CXMLMetaData changed = data;
@@ -98,5 +98,5 @@ void tst_CXMLMetaData::copy()
     QCOMPARE(data.author(), Author);
 }
 
-QTEST_GUILESS_MAIN(tst_CXMLMetaData)
+QTEST_GUILESS_MAIN(tst_cxmlmetadata)
 #include "tst_cxmlmetadata.moc"

@@ -114,7 +114,7 @@ QStringList commands()
 } // namespace
 
 /** The pages hold together, and tell of nothing that is not there. */
-class tst_Docs : public QObject
+class tst_docs : public QObject
 {
     Q_OBJECT
 
@@ -132,7 +132,7 @@ private slots:
     void rulesSeeWhatIsWrong();
 };
 
-void tst_Docs::links_data()
+void tst_docs::links_data()
 {
     QTest::addColumn<QString>("page");
     for (const QString &page : pages()) {
@@ -140,7 +140,7 @@ void tst_Docs::links_data()
     }
 }
 
-void tst_Docs::links()
+void tst_docs::links()
 {
     QFETCH(QString, page);
     const QString text = read(page);
@@ -159,7 +159,7 @@ void tst_Docs::links()
     }
 }
 
-void tst_Docs::everyPageIsReachable()
+void tst_docs::everyPageIsReachable()
 {
     QStringList toRead = {u"docs/README.md"_s};
     QSet<QString> reached = {toRead.constFirst()};
@@ -179,13 +179,13 @@ void tst_Docs::everyPageIsReachable()
     QVERIFY(reached.size() > 10);
 }
 
-void tst_Docs::paths_data()
+void tst_docs::paths_data()
 {
     links_data();
 }
 
 /** What looks like a path of ours in back-quotes is one. */
-void tst_Docs::paths()
+void tst_docs::paths()
 {
     QFETCH(QString, page);
     static const QRegularExpression path(QStringLiteral(
@@ -209,7 +209,7 @@ void tst_Docs::paths()
 
 /** The list of public headers, which the pages of Doxygen are made from, names only what is there.
  */
-void tst_Docs::publicHeadersExist()
+void tst_docs::publicHeadersExist()
 {
     static const QRegularExpression header(u"^ +([a-z]+/\\w+\\.h)$"_s,
                                            QRegularExpression::MultilineOption);
@@ -237,7 +237,7 @@ void tst_Docs::publicHeadersExist()
     }
 }
 
-void tst_Docs::jsonSchemas_data()
+void tst_docs::jsonSchemas_data()
 {
     QTest::addColumn<QString>("path");
     for (const QString &path : files(u"schemas"_s, u"json"_s)) {
@@ -245,7 +245,7 @@ void tst_Docs::jsonSchemas_data()
     }
 }
 
-void tst_Docs::jsonSchemas()
+void tst_docs::jsonSchemas()
 {
     QFETCH(QString, path);
     QVERIFY2(path.endsWith(u".schema.json"_s), "The name does not tell that it is a schema.");
@@ -262,7 +262,7 @@ void tst_Docs::jsonSchemas()
              "There is neither a command nor a format of that name.");
 }
 
-void tst_Docs::everyCommandHasASchema()
+void tst_docs::everyCommandHasASchema()
 {
     QVERIFY(commands().size() > 10);
     for (const QString &command : commands()) {
@@ -276,7 +276,7 @@ void tst_Docs::everyCommandHasASchema()
 }
 
 /** The example of docs/formats/streams.md. */
-void tst_Docs::bytesOfTheStream()
+void tst_docs::bytesOfTheStream()
 {
     static const QRegularExpression line(u"^    ((?:[0-9a-f]{2} +)+) "_s,
                                          QRegularExpression::MultilineOption);
@@ -290,7 +290,7 @@ void tst_Docs::bytesOfTheStream()
     QCOMPARE(bytes.toHex(), StreamBytes::toBytes(file).toHex());
 }
 
-void tst_Docs::rulesSeeWhatIsWrong()
+void tst_docs::rulesSeeWhatIsWrong()
 {
     QCOMPARE(linkTargets(u"[a](b.md) `[c](d)` and\n\n    [e](f)\n\n[`g`](h.h#i)"_s),
              (QStringList{u"b.md"_s, u"h.h#i"_s}));
@@ -301,5 +301,5 @@ void tst_Docs::rulesSeeWhatIsWrong()
     QCOMPARE(anchor(u"How it's `read`, once"_s), u"how-its-read-once"_s);
 }
 
-QTEST_APPLESS_MAIN(tst_Docs)
+QTEST_APPLESS_MAIN(tst_docs)
 #include "tst_docs.moc"

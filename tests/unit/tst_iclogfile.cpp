@@ -30,7 +30,7 @@ QList<QByteArray> entriesIn(const QString &path)
 
 } // namespace
 
-class tst_ICLogfile : public QObject
+class tst_iclogfile : public QObject
 {
     Q_OBJECT
 
@@ -57,20 +57,20 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_ICLogfile::initTestCase()
+void tst_iclogfile::initTestCase()
 {
     // Stamps are in UTC wherever the program runs.
     qputenv("TZ", "Asia/Kathmandu");
     QCoreApplication::setApplicationName(QStringLiteral("log test"));
 }
 
-void tst_ICLogfile::init()
+void tst_iclogfile::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_ICLogfile::levelNames_data()
+void tst_iclogfile::levelNames_data()
 {
     QTest::addColumn<ICLogfile::ELevel>("level");
     QTest::addColumn<QString>("constant");
@@ -89,7 +89,7 @@ void tst_ICLogfile::levelNames_data()
     row(ICLogfile::LEVEL_DEBUG, NvrnGlobal::SYSLOG_DEBUG_STR, "debug");
 }
 
-void tst_ICLogfile::levelNames()
+void tst_iclogfile::levelNames()
 {
     QFETCH(ICLogfile::ELevel, level);
     QFETCH(QString, constant);
@@ -104,7 +104,7 @@ void tst_ICLogfile::levelNames()
              (QList<QByteArray>{QStringLiteral("[%1] text").arg(name).toUtf8(), QByteArray()}));
 }
 
-void tst_ICLogfile::levelOrder()
+void tst_iclogfile::levelOrder()
 {
     // Levels are ordered from the most to the least severe.
     QVERIFY(ICLogfile::LEVEL_EMERG < ICLogfile::LEVEL_CRIT);
@@ -112,7 +112,7 @@ void tst_ICLogfile::levelOrder()
     QVERIFY(ICLogfile::LEVEL_WARNING < ICLogfile::LEVEL_DEBUG);
 }
 
-void tst_ICLogfile::line_data()
+void tst_iclogfile::line_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("entry");
@@ -133,7 +133,7 @@ void tst_ICLogfile::line_data()
                           << QByteArray("[info] ") + QByteArray(100000, 'x');
 }
 
-void tst_ICLogfile::line()
+void tst_iclogfile::line()
 {
     QFETCH(QString, text);
     QFETCH(QByteArray, entry);
@@ -144,7 +144,7 @@ void tst_ICLogfile::line()
     QCOMPARE(entriesIn(path()), (QList<QByteArray>{entry, QByteArray()}));
 }
 
-void tst_ICLogfile::timeStamp()
+void tst_iclogfile::timeStamp()
 {
     const std::unique_ptr<ICLogfile> log(ICLogfile::instance(path()));
     const QDateTime before = QDateTime::currentDateTimeUtc();
@@ -162,7 +162,7 @@ void tst_ICLogfile::timeStamp()
     QVERIFY(stamp <= after);
 }
 
-void tst_ICLogfile::appends()
+void tst_iclogfile::appends()
 {
     QVERIFY(Files::write(path(), "an older line\n"));
     {
@@ -177,7 +177,7 @@ void tst_ICLogfile::appends()
                                 QByteArray()}));
 }
 
-void tst_ICLogfile::createsMissingFile()
+void tst_iclogfile::createsMissingFile()
 {
     const std::unique_ptr<ICLogfile> log(ICLogfile::instance(path()));
     QVERIFY(log != nullptr);
@@ -185,7 +185,7 @@ void tst_ICLogfile::createsMissingFile()
     QCOMPARE(Files::names(m_directory->path()), QStringList{QStringLiteral("device.log")});
 }
 
-void tst_ICLogfile::unwritablePathIsSilent_data()
+void tst_iclogfile::unwritablePathIsSilent_data()
 {
     QTest::addColumn<QString>("relativePath");
 
@@ -193,7 +193,7 @@ void tst_ICLogfile::unwritablePathIsSilent_data()
     QTest::newRow("directory") << QStringLiteral(".");
 }
 
-void tst_ICLogfile::unwritablePathIsSilent()
+void tst_iclogfile::unwritablePathIsSilent()
 {
     QFETCH(QString, relativePath);
 
@@ -212,7 +212,7 @@ void tst_ICLogfile::unwritablePathIsSilent()
     }
 }
 
-void tst_ICLogfile::author_data()
+void tst_iclogfile::author_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("author");
@@ -223,14 +223,14 @@ void tst_ICLogfile::author_data()
     QTest::newRow("blank") << QStringLiteral(" ") << QStringLiteral(" ");
 }
 
-void tst_ICLogfile::author()
+void tst_iclogfile::author()
 {
     QFETCH(QString, given);
     const std::unique_ptr<ICLogfile> log(ICLogfile::instance(path(), given));
     QTEST(log->author(), "author");
 }
 
-void tst_ICLogfile::linesDoNotMix()
+void tst_iclogfile::linesDoNotMix()
 {
     // Two threads share a log; two more have one of their own on the same file, as processes do.
     const int threadCount = 4;
@@ -264,5 +264,5 @@ void tst_ICLogfile::linesDoNotMix()
     QCOMPARE(entries, expected);
 }
 
-QTEST_GUILESS_MAIN(tst_ICLogfile)
+QTEST_GUILESS_MAIN(tst_iclogfile)
 #include "tst_iclogfile.moc"

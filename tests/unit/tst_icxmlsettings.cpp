@@ -53,7 +53,7 @@ const QString Sample = QStringLiteral("<S><!--c-->"
 
 } // namespace
 
-class tst_ICXmlSettings : public QObject
+class tst_icxmlsettings : public QObject
 {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ private slots:
     void gettersChangeNothing();
 };
 
-void tst_ICXmlSettings::typeNames_data()
+void tst_icxmlsettings::typeNames_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("typeName");
@@ -112,7 +112,7 @@ void tst_ICXmlSettings::typeNames_data()
         << QVariant(false) << text("BOOLEAN") << TAG_SETTINGS_TYPE_BOOL << TAG_SETTINGS_VAL_FALSE;
 }
 
-void tst_ICXmlSettings::typeNames()
+void tst_icxmlsettings::typeNames()
 {
     QFETCH(QVariant, value);
     QFETCH(QString, typeName);
@@ -131,7 +131,7 @@ void tst_ICXmlSettings::typeNames()
     QCOMPARE(element.text(), valueText);
 }
 
-void tst_ICXmlSettings::roundTrip_data()
+void tst_icxmlsettings::roundTrip_data()
 {
     QTest::addColumn<QVariant>("value");
 
@@ -165,7 +165,7 @@ void tst_ICXmlSettings::roundTrip_data()
     QTest::newRow("BOOLEAN false") << QVariant(false);
 }
 
-void tst_ICXmlSettings::roundTrip()
+void tst_icxmlsettings::roundTrip()
 {
     QFETCH(QVariant, value);
 
@@ -189,7 +189,7 @@ void tst_ICXmlSettings::roundTrip()
     QCOMPARE(other->value(text("n")).userType(), value.userType());
 }
 
-void tst_ICXmlSettings::read_data()
+void tst_icxmlsettings::read_data()
 {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<QString>("valueText");
@@ -203,7 +203,7 @@ void tst_ICXmlSettings::read_data()
         << text("STRING") << text("TRUE") << QVariant(text("TRUE"));
 }
 
-void tst_ICXmlSettings::read()
+void tst_icxmlsettings::read()
 {
     QFETCH(QString, typeName);
     QFETCH(QString, valueText);
@@ -216,7 +216,7 @@ void tst_ICXmlSettings::read()
     QVERIFY(read == value);
 }
 
-void tst_ICXmlSettings::unreadable_data()
+void tst_icxmlsettings::unreadable_data()
 {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<QString>("valueText");
@@ -257,7 +257,7 @@ void tst_ICXmlSettings::unreadable_data()
     row("BOOLEAN as number", "BOOLEAN", "1");
 }
 
-void tst_ICXmlSettings::unreadable()
+void tst_icxmlsettings::unreadable()
 {
     QFETCH(QString, typeName);
     QFETCH(QString, valueText);
@@ -268,7 +268,7 @@ void tst_ICXmlSettings::unreadable()
     QCOMPARE(fixture.settings->names(), QStringList{text("n")});
 }
 
-void tst_ICXmlSettings::refusedTypes_data()
+void tst_icxmlsettings::refusedTypes_data()
 {
     QTest::addColumn<QVariant>("value");
 
@@ -280,7 +280,7 @@ void tst_ICXmlSettings::refusedTypes_data()
     QTest::newRow("map") << QVariant(QVariantMap());
 }
 
-void tst_ICXmlSettings::refusedTypes()
+void tst_icxmlsettings::refusedTypes()
 {
     QFETCH(QVariant, value);
 
@@ -291,7 +291,7 @@ void tst_ICXmlSettings::refusedTypes()
     QCOMPARE(fixture.written(), before);
 }
 
-void tst_ICXmlSettings::refusedNames()
+void tst_icxmlsettings::refusedNames()
 {
     Fixture fixture(Sample);
     const QString before = fixture.written();
@@ -300,7 +300,7 @@ void tst_ICXmlSettings::refusedNames()
     QCOMPARE(fixture.written(), before);
 }
 
-void tst_ICXmlSettings::nullElement()
+void tst_icxmlsettings::nullElement()
 {
     const std::unique_ptr<ICXmlSettings> settings(ICXmlSettings::instance(QDomElement()));
     QVERIFY(settings != nullptr);
@@ -310,7 +310,7 @@ void tst_ICXmlSettings::nullElement()
     QVERIFY(!settings->remove(text("a")));
 }
 
-void tst_ICXmlSettings::names()
+void tst_icxmlsettings::names()
 {
     Fixture fixture(Sample);
     QCOMPARE(fixture.settings->names(), (QStringList{text("a"), text("b")}));
@@ -322,7 +322,7 @@ void tst_ICXmlSettings::names()
     QCOMPARE(fixture.settings->value(text("A")), QVariant(1));
 }
 
-void tst_ICXmlSettings::replaces()
+void tst_icxmlsettings::replaces()
 {
     Fixture fixture(Sample);
     QVERIFY(fixture.settings->setValue(text("a"), QVariant(true)));
@@ -334,7 +334,7 @@ void tst_ICXmlSettings::replaces()
     QVERIFY(fixture.document.documentElement().firstChild().isComment());
 }
 
-void tst_ICXmlSettings::unitAndComment()
+void tst_icxmlsettings::unitAndComment()
 {
     Fixture fixture(Sample);
     QCOMPARE(fixture.settings->unit(text("a")), text("mm"));
@@ -354,7 +354,7 @@ void tst_ICXmlSettings::unitAndComment()
     QCOMPARE(fixture.settings->unit(text("a")), text("mm"));
 }
 
-void tst_ICXmlSettings::unknownName()
+void tst_icxmlsettings::unknownName()
 {
     Fixture fixture(Sample);
     const QString before = fixture.written();
@@ -369,7 +369,7 @@ void tst_ICXmlSettings::unknownName()
     QCOMPARE(fixture.written(), before);
 }
 
-void tst_ICXmlSettings::remove()
+void tst_icxmlsettings::remove()
 {
     Fixture fixture(Sample);
     QVERIFY(fixture.settings->remove(text("a")));
@@ -379,7 +379,7 @@ void tst_ICXmlSettings::remove()
     QVERIFY(!fixture.document.documentElement().firstChildElement(text("Other")).isNull());
 }
 
-void tst_ICXmlSettings::gettersChangeNothing()
+void tst_icxmlsettings::gettersChangeNothing()
 {
     const Fixture fixture(Sample);
     const QString before = fixture.written();
@@ -392,5 +392,5 @@ void tst_ICXmlSettings::gettersChangeNothing()
     QCOMPARE(fixture.written(), before);
 }
 
-QTEST_GUILESS_MAIN(tst_ICXmlSettings)
+QTEST_GUILESS_MAIN(tst_icxmlsettings)
 #include "tst_icxmlsettings.moc"

@@ -135,7 +135,7 @@ bool isAllowed(const QString &file, const QString &included)
 } // namespace
 
 /** Includes point downwards only, and nothing looks into the imported libraries. */
-class tst_Includes : public QObject
+class tst_includes : public QObject
 {
     Q_OBJECT
 
@@ -148,7 +148,7 @@ private Q_SLOTS:
     void ruleSeesPrivateHeaders();
 };
 
-void tst_Includes::directions_data()
+void tst_includes::directions_data()
 {
     QTest::addColumn<QString>("file");
     const QDir root(QStringLiteral(VRN_SOURCE_DIR "/src"));
@@ -165,7 +165,7 @@ void tst_Includes::directions_data()
     QVERIFY(count > 80);
 }
 
-void tst_Includes::directions()
+void tst_includes::directions()
 {
     QFETCH(QString, file);
     const QString source = read(sourcePath(file));
@@ -189,7 +189,7 @@ void tst_Includes::directions()
 }
 
 /** A new room needs its place in the order. */
-void tst_Includes::roomsAreKnown()
+void tst_includes::roomsAreKnown()
 {
     QStringList present = QDir(sourcePath(QStringLiteral("commissioning")))
                               .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
@@ -202,7 +202,7 @@ void tst_Includes::roomsAreKnown()
     QCOMPARE(present, known);
 }
 
-void tst_Includes::ruleSeesWrongDirections()
+void tst_includes::ruleSeesWrongDirections()
 {
     const QString header = QStringLiteral("devicefiles/CDeviceFileSystem.h");
     QVERIFY(!isAllowed(QStringLiteral("elements/CDeviceBaseElement.h"), header));
@@ -210,7 +210,7 @@ void tst_Includes::ruleSeesWrongDirections()
     QVERIFY(isAllowed(QStringLiteral("elements/CDeviceBaseElementFiles.cpp"), header));
 }
 
-void tst_Includes::ruleSeesWrongRooms()
+void tst_includes::ruleSeesWrongRooms()
 {
     const QString check = QStringLiteral("commissioning/check/CConfigurationCheck.cpp");
     QVERIFY(isAllowedInRoom(check, QStringLiteral("commissioning/CConfigurationItems.h")));
@@ -222,7 +222,7 @@ void tst_Includes::ruleSeesWrongRooms()
                              QStringLiteral("commissioning/CConfigurationPatch.h")));
 }
 
-void tst_Includes::ruleSeesPrivateHeaders()
+void tst_includes::ruleSeesPrivateHeaders()
 {
     const QString tool = QStringLiteral("tools/main.cpp");
     QVERIFY(!isVisible(tool, QStringLiteral("commissioning/report/HtmlWriter.h")));
@@ -233,5 +233,5 @@ void tst_Includes::ruleSeesPrivateHeaders()
                       QStringLiteral("elements/ElementPaths.h")));
 }
 
-QTEST_APPLESS_MAIN(tst_Includes)
+QTEST_APPLESS_MAIN(tst_includes)
 #include "tst_includes.moc"

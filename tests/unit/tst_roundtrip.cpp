@@ -112,7 +112,7 @@ int readAsChild(const QString &path, const QString &copyPath)
 
 } // namespace
 
-class tst_RoundTrip : public QObject
+class tst_roundtrip : public QObject
 {
     Q_OBJECT
 
@@ -129,13 +129,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_RoundTrip::init()
+void tst_roundtrip::init()
 {
     m_directory = std::make_unique<QTemporaryDir>();
     QVERIFY(m_directory->isValid());
 }
 
-void tst_RoundTrip::freshProcess_data()
+void tst_roundtrip::freshProcess_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("hashSeed");
@@ -146,7 +146,7 @@ void tst_RoundTrip::freshProcess_data()
     QTest::newRow("other locale") << u"tr_TR.UTF-8"_s << QString();
 }
 
-void tst_RoundTrip::freshProcess()
+void tst_roundtrip::freshProcess()
 {
     QFETCH(QString, locale);
     QFETCH(QString, hashSeed);
@@ -194,7 +194,7 @@ void tst_RoundTrip::freshProcess()
     QCOMPARE(Files::names(m_directory->path()), (QStringList{u"a.3deco"_s, u"copy.3deco"_s}));
 }
 
-void tst_RoundTrip::savingTwice()
+void tst_roundtrip::savingTwice()
 {
     const std::unique_ptr<ICDeviceConfigurationFile> file(
         ICDeviceConfigurationFile::instance(nullptr));
@@ -215,7 +215,7 @@ void tst_RoundTrip::savingTwice()
     QCOMPARE(Files::read(path(u"3"_s)), Files::read(path(u"1"_s)));
 }
 
-void tst_RoundTrip::writingWhatWasRead()
+void tst_roundtrip::writingWhatWasRead()
 {
     const std::unique_ptr<ICDeviceConfigurationFile> file(
         ICDeviceConfigurationFile::instance(nullptr));
@@ -237,7 +237,7 @@ int main(int argc, char *argv[])
         const QStringList arguments = QCoreApplication::arguments();
         return readAsChild(arguments.at(2), arguments.at(3));
     }
-    tst_RoundTrip test;
+    tst_roundtrip test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -87,7 +87,7 @@ void addChangeColumns()
 } // namespace
 
 /** The schemas accept what the library writes, and nothing that it would not write. */
-class tst_Schemas : public QObject
+class tst_schemas : public QObject
 {
     Q_OBJECT
 
@@ -113,14 +113,14 @@ private:
     void checkChange(const QByteArray &document, const char *schema);
 };
 
-void tst_Schemas::initTestCase()
+void tst_schemas::initTestCase()
 {
     if (QStandardPaths::findExecutable(u"xmllint"_s).isEmpty()) {
         QSKIP("There is no xmllint.", 0);
     }
 }
 
-void tst_Schemas::schemas_data()
+void tst_schemas::schemas_data()
 {
     QTest::addColumn<QString>("schema");
     QTest::addColumn<QByteArray>("document");
@@ -147,7 +147,7 @@ void tst_Schemas::schemas_data()
                       "<SubDevice><DriveNo>0</DriveNo></SubDevice></Device></VornDeviceSettings>");
 }
 
-void tst_Schemas::schemas()
+void tst_schemas::schemas()
 {
     QFETCH(QString, schema);
     QFETCH(QByteArray, document);
@@ -160,7 +160,7 @@ void tst_Schemas::schemas()
     QVERIFY(text.count("<xs:documentation") > 5);
 }
 
-void tst_Schemas::files_data()
+void tst_schemas::files_data()
 {
     QTest::addColumn<QString>("schema");
     QTest::addColumn<QString>("path");
@@ -178,7 +178,7 @@ void tst_Schemas::files_data()
     addFiles(SettingsSchema, u"examples/packaging-line"_s, u"3conf"_s);
 }
 
-void tst_Schemas::files()
+void tst_schemas::files()
 {
     QFETCH(QString, schema);
     QFETCH(QString, path);
@@ -190,7 +190,7 @@ void tst_Schemas::files()
     QVERIFY2(verdict.isValid != holdsForeignContent, qPrintable(verdict.findings));
 }
 
-void tst_Schemas::brokenFiles_data()
+void tst_schemas::brokenFiles_data()
 {
     QTest::addColumn<QString>("schema");
     QTest::addColumn<QString>("path");
@@ -209,7 +209,7 @@ void tst_Schemas::brokenFiles_data()
     QVERIFY(count > 60);
 }
 
-void tst_Schemas::brokenFiles()
+void tst_schemas::brokenFiles()
 {
     QFETCH(QString, schema);
     QFETCH(QString, path);
@@ -217,7 +217,7 @@ void tst_Schemas::brokenFiles()
     QVERIFY(!validate(Files::read(path), schema).isValid);
 }
 
-void tst_Schemas::written_data()
+void tst_schemas::written_data()
 {
     QTest::addColumn<std::function<void(Document &)>>("write");
     using Write = std::function<void(Document &)>;
@@ -313,7 +313,7 @@ void tst_Schemas::written_data()
     }
 }
 
-void tst_Schemas::written()
+void tst_schemas::written()
 {
     QFETCH(std::function<void(Document &)>, write);
     Document file(nullptr);
@@ -326,7 +326,7 @@ void tst_Schemas::written()
     QVERIFY2(verdict.isValid, qPrintable(verdict.findings));
 }
 
-void tst_Schemas::writtenSettings()
+void tst_schemas::writtenSettings()
 {
     CDeviceSettings settings = SampleSettings::settings(u"Größe <&>"_s);
     for (int number = 0; number < 256; ++number) {
@@ -344,7 +344,7 @@ void tst_Schemas::writtenSettings()
     }
 }
 
-void tst_Schemas::anyOrder_data()
+void tst_schemas::anyOrder_data()
 {
     QTest::addColumn<QString>("schema");
     QTest::addColumn<QByteArray>("document");
@@ -355,7 +355,7 @@ void tst_Schemas::anyOrder_data()
                               << testData(u"settings/valid/full.3conf"_s);
 }
 
-void tst_Schemas::anyOrder()
+void tst_schemas::anyOrder()
 {
     QFETCH(QString, schema);
     QFETCH(QByteArray, document);
@@ -367,7 +367,7 @@ void tst_Schemas::anyOrder()
 }
 
 /** One change in a valid document; it stays valid when no finding is told. */
-void tst_Schemas::checkChange(const QByteArray &document, const char *schema)
+void tst_schemas::checkChange(const QByteArray &document, const char *schema)
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
@@ -379,7 +379,7 @@ void tst_Schemas::checkChange(const QByteArray &document, const char *schema)
     QVERIFY2(verdict.findings.contains(finding), qPrintable(verdict.findings));
 }
 
-void tst_Schemas::configuration_data()
+void tst_schemas::configuration_data()
 {
     addChangeColumns();
     const char *const notExpected = "This element is not expected";
@@ -537,12 +537,12 @@ void tst_Schemas::configuration_data()
     addChange("hardware identity, escaped", "8A:3:2:1", "8%003aA:3:2:1");
 }
 
-void tst_Schemas::configuration()
+void tst_schemas::configuration()
 {
     checkChange(testData(u"configuration/valid/full.3deco"_s), ConfigurationSchema);
 }
 
-void tst_Schemas::settings_data()
+void tst_schemas::settings_data()
 {
     addChangeColumns();
     const char *const notExpected = "This element is not expected";
@@ -587,10 +587,10 @@ void tst_Schemas::settings_data()
     addChange("date empty", "2026-01-31", "");
 }
 
-void tst_Schemas::settings()
+void tst_schemas::settings()
 {
     checkChange(testData(u"settings/valid/full.3conf"_s), SettingsSchema);
 }
 
-QTEST_GUILESS_MAIN(tst_Schemas)
+QTEST_GUILESS_MAIN(tst_schemas)
 #include "tst_schemas.moc"

@@ -15,7 +15,7 @@ const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
 } // namespace
 
 /** The commands on the configuration document, and what all commands have in common. */
-class tst_VrnDevice : public QObject
+class tst_vrndevice : public QObject
 {
     Q_OBJECT
 
@@ -50,18 +50,18 @@ private:
     QScopedPointer<QTemporaryDir> m_directory;
 };
 
-void tst_VrnDevice::init()
+void tst_vrndevice::init()
 {
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
 }
 
-void tst_VrnDevice::copyExample()
+void tst_vrndevice::copyExample()
 {
     QVERIFY(Tool::copyExample(FileName, m_directory->path()));
 }
 
-void tst_VrnDevice::usage_data()
+void tst_vrndevice::usage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
@@ -121,7 +121,7 @@ void tst_VrnDevice::usage_data()
     row("no number", "add-drive x --type KD3_drive --id first", 2, "", "0 to 254");
 }
 
-void tst_VrnDevice::usage()
+void tst_vrndevice::usage()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
@@ -136,7 +136,7 @@ void tst_VrnDevice::usage()
     QVERIFY(QDir(m_directory->path()).isEmpty());
 }
 
-void tst_VrnDevice::helpOfEveryCommand()
+void tst_vrndevice::helpOfEveryCommand()
 {
     for (const char *name :
          {"add",           "add-drive",     "apply",        "check",   "diff",
@@ -156,7 +156,7 @@ void tst_VrnDevice::helpOfEveryCommand()
     }
 }
 
-void tst_VrnDevice::newCreatesAConfiguration()
+void tst_vrndevice::newCreatesAConfiguration()
 {
     const SResult result =
         run({QStringLiteral("new"), path(), QStringLiteral("--class"), QStringLiteral("kc2"),
@@ -173,7 +173,7 @@ void tst_VrnDevice::newCreatesAConfiguration()
     QCOMPARE(file.description().name(), QStringLiteral("Hügel"));
 }
 
-void tst_VrnDevice::newKeepsAnExistingFile()
+void tst_vrndevice::newKeepsAnExistingFile()
 {
     copyExample();
     const QByteArray before = Files::read(path());
@@ -184,7 +184,7 @@ void tst_VrnDevice::newKeepsAnExistingFile()
     QCOMPARE(Files::read(path()), before);
 }
 
-void tst_VrnDevice::newReportsWhatCannotBeWritten()
+void tst_vrndevice::newReportsWhatCannotBeWritten()
 {
     const SResult result = run({QStringLiteral("new"), QStringLiteral("missing/x.3deco"),
                                 QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
@@ -193,7 +193,7 @@ void tst_VrnDevice::newReportsWhatCannotBeWritten()
     QVERIFY(result.output.isEmpty());
 }
 
-void tst_VrnDevice::showPrintsATree()
+void tst_vrndevice::showPrintsATree()
 {
     copyExample();
     const SResult result = run({QStringLiteral("show"), path()});
@@ -208,7 +208,7 @@ void tst_VrnDevice::showPrintsATree()
     }
 }
 
-void tst_VrnDevice::showPrintsJson()
+void tst_vrndevice::showPrintsJson()
 {
     copyExample();
     const SResult result = run({QStringLiteral("show"), QStringLiteral("--json"), path()});
@@ -222,7 +222,7 @@ void tst_VrnDevice::showPrintsJson()
     QCOMPARE(old.value(QStringLiteral("files")).toArray().size(), 4);
 }
 
-void tst_VrnDevice::addDriveTakesTheNextFreeNumber()
+void tst_vrndevice::addDriveTakesTheNextFreeNumber()
 {
     copyExample();
     const SResult result =
@@ -239,7 +239,7 @@ void tst_VrnDevice::addDriveTakesTheNextFreeNumber()
     QVERIFY(device.subDevice(3).isKD3());
 }
 
-void tst_VrnDevice::addDriveWithNumberAndName()
+void tst_vrndevice::addDriveWithNumberAndName()
 {
     copyExample();
     const SResult result =
@@ -252,7 +252,7 @@ void tst_VrnDevice::addDriveWithNumberAndName()
     QCOMPARE(drive.value(QStringLiteral("type")).toString(), QStringLiteral("KD2_drive"));
 }
 
-void tst_VrnDevice::addDriveRefusesANumberInUse()
+void tst_vrndevice::addDriveRefusesANumberInUse()
 {
     copyExample();
     const QByteArray before = Files::read(path());
@@ -263,7 +263,7 @@ void tst_VrnDevice::addDriveRefusesANumberInUse()
     QCOMPARE(Files::read(path()), before);
 }
 
-void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
+void tst_vrndevice::addDriveKeepsTheRestOfTheDocument()
 {
     copyExample();
     QByteArray content = Files::read(path());
@@ -288,7 +288,7 @@ void tst_VrnDevice::addDriveKeepsTheRestOfTheDocument()
     QCOMPARE(Files::read(path()), content);
 }
 
-void tst_VrnDevice::placeListsEveryFile()
+void tst_vrndevice::placeListsEveryFile()
 {
     copyExample();
     CDeviceConfigurationFile10 file(nullptr);
@@ -321,7 +321,7 @@ void tst_VrnDevice::placeListsEveryFile()
              QStringLiteral("/velkor/configurations/STD/conf/"));
 }
 
-void tst_VrnDevice::unreadableInput_data()
+void tst_vrndevice::unreadableInput_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QByteArray>("content");
@@ -343,7 +343,7 @@ void tst_VrnDevice::unreadableInput_data()
     }
 }
 
-void tst_VrnDevice::unreadableInput()
+void tst_vrndevice::unreadableInput()
 {
     QFETCH(QString, command);
     QFETCH(QByteArray, content);
@@ -360,7 +360,7 @@ void tst_VrnDevice::unreadableInput()
     QCOMPARE(Files::read(path()), content);
 }
 
-void tst_VrnDevice::exampleIsComplete()
+void tst_vrndevice::exampleIsComplete()
 {
     const QDir project = Tool::exampleDirectory();
     CDeviceConfigurationFile10 file(nullptr);
@@ -378,5 +378,5 @@ void tst_VrnDevice::exampleIsComplete()
     QCOMPARE(saved, Files::read(project.filePath(FileName)));
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDevice)
+QTEST_GUILESS_MAIN(tst_vrndevice)
 #include "tst_vrndevice.moc"

@@ -69,7 +69,7 @@ QString lastLine(const QString &text)
 } // namespace
 
 /** What the command prints and returns; what it finds is tested with CConfigurationCheck. */
-class tst_VrnDeviceCheck : public QObject
+class tst_vrndevice_check : public QObject
 {
     Q_OBJECT
 
@@ -94,7 +94,7 @@ private Q_SLOTS:
     void rules();
 };
 
-void tst_VrnDeviceCheck::exitCodes_data()
+void tst_vrndevice_check::exitCodes_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
@@ -122,7 +122,7 @@ void tst_VrnDeviceCheck::exitCodes_data()
     row("project without directory", {valid, u"--project"_s}, 2);
 }
 
-void tst_VrnDeviceCheck::exitCodes()
+void tst_vrndevice_check::exitCodes()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
@@ -130,7 +130,7 @@ void tst_VrnDeviceCheck::exitCodes()
     QCOMPARE(check(QStringList(u"--json"_s) + arguments).exitCode, exitCode);
 }
 
-void tst_VrnDeviceCheck::textOfAFinding()
+void tst_vrndevice_check::textOfAFinding()
 {
     const QString path = BrokenDocuments::path(u"class-in-capitals"_s);
     const SResult result = check({path});
@@ -148,7 +148,7 @@ void tst_VrnDeviceCheck::textOfAFinding()
     QVERIFY2(found.output.contains(u"\n    found: mode=\"fast\"\n"_s), qPrintable(found.output));
 }
 
-void tst_VrnDeviceCheck::textOfAFindingWithoutPosition()
+void tst_vrndevice_check::textOfAFindingWithoutPosition()
 {
     const QTemporaryDir directory;
     QVERIFY(Files::write(directory.filePath(u"manifest.json"_s), "{}"));
@@ -159,7 +159,7 @@ void tst_VrnDeviceCheck::textOfAFindingWithoutPosition()
              qPrintable(result.output));
 }
 
-void tst_VrnDeviceCheck::summary()
+void tst_vrndevice_check::summary()
 {
     const QString one = BrokenDocuments::path(u"revised-before-created"_s);
     const QString many = BrokenDocuments::path(u"many-faults"_s);
@@ -170,7 +170,7 @@ void tst_VrnDeviceCheck::summary()
     QCOMPARE(lastLine(check({valid, many, one}).output), u"10 errors, 2 warnings in 3 files"_s);
 }
 
-void tst_VrnDeviceCheck::nothingIsWrong()
+void tst_vrndevice_check::nothingIsWrong()
 {
     const QString path = validFile(u"complete"_s);
     const QString minimal = validFile(u"minimal"_s);
@@ -179,7 +179,7 @@ void tst_VrnDeviceCheck::nothingIsWrong()
     QCOMPARE(result.errors, QString());
 }
 
-void tst_VrnDeviceCheck::unreadableFilesAreTold()
+void tst_vrndevice_check::unreadableFilesAreTold()
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath(u"broken.3deco"_s);
@@ -201,7 +201,7 @@ void tst_VrnDeviceCheck::unreadableFilesAreTold()
              qPrintable(other.errors));
 }
 
-void tst_VrnDeviceCheck::standardInput()
+void tst_vrndevice_check::standardInput()
 {
     const SResult valid = checkInput(Files::read(validFile(u"complete"_s)), {u"-"_s});
     QCOMPARE(valid.exitCode, 0);
@@ -214,7 +214,7 @@ void tst_VrnDeviceCheck::standardInput()
              qPrintable(invalid.output));
 }
 
-void tst_VrnDeviceCheck::standardInputThatIsUnreadable()
+void tst_vrndevice_check::standardInputThatIsUnreadable()
 {
     const SResult broken = checkInput("<VornDeviceConfig>", {u"-"_s});
     QCOMPARE(broken.exitCode, 3);
@@ -229,7 +229,7 @@ void tst_VrnDeviceCheck::standardInputThatIsUnreadable()
              "is required.\n"_s);
 }
 
-void tst_VrnDeviceCheck::project()
+void tst_vrndevice_check::project()
 {
     const QDir example = Tool::exampleDirectory();
     const QString path = example.filePath(u"DeviceConfiguration.3deco"_s);
@@ -248,7 +248,7 @@ void tst_VrnDeviceCheck::project()
     }
 }
 
-void tst_VrnDeviceCheck::projectThatIsNone()
+void tst_vrndevice_check::projectThatIsNone()
 {
     const SResult result = check({validFile(u"complete"_s), u"--project"_s, u"/nowhere"_s});
     QCOMPARE(result.exitCode, 3);
@@ -256,7 +256,7 @@ void tst_VrnDeviceCheck::projectThatIsNone()
     QCOMPARE(result.errors, u"vrndevice: error: /nowhere: There is no such directory.\n"_s);
 }
 
-void tst_VrnDeviceCheck::json()
+void tst_vrndevice_check::json()
 {
     const QString path = BrokenDocuments::path(u"revised-before-created"_s);
     const QString valid = validFile(u"complete"_s);
@@ -281,7 +281,7 @@ void tst_VrnDeviceCheck::json()
     QCOMPARE(check({path, valid, u"--json"_s}).json(), expected);
 }
 
-void tst_VrnDeviceCheck::jsonOfUnreadableFiles()
+void tst_vrndevice_check::jsonOfUnreadableFiles()
 {
     const QString error = BrokenDocuments::path(u"file-twice"_s);
     const SResult result = check({u"/nowhere/a"_s, error, u"--json"_s});
@@ -295,7 +295,7 @@ void tst_VrnDeviceCheck::jsonOfUnreadableFiles()
     QVERIFY(result.errors.startsWith(u"vrndevice: error: /nowhere/a: "_s));
 }
 
-void tst_VrnDeviceCheck::controlCharactersAreNotPrinted()
+void tst_vrndevice_check::controlCharactersAreNotPrinted()
 {
     const SResult lines = check({BrokenDocuments::path(u"file-name-with-line-break"_s)});
     QVERIFY2(lines.output.contains(u"    item: files[recipes.csv\\n     ]\n"_s),
@@ -307,7 +307,7 @@ void tst_VrnDeviceCheck::controlCharactersAreNotPrinted()
     QVERIFY2(escapes.output.contains(u"\\u009b31m"_s), qPrintable(escapes.output));
 }
 
-void tst_VrnDeviceCheck::colours()
+void tst_vrndevice_check::colours()
 {
     const QStringList arguments = {BrokenDocuments::path(u"class-in-capitals"_s)};
     const QByteArray red = "\x1b[31merror:\x1b[0m";
@@ -329,7 +329,7 @@ void tst_VrnDeviceCheck::colours()
     QVERIFY(!check(arguments).output.contains(QChar(0x1b)));
 }
 
-void tst_VrnDeviceCheck::thousandFiles()
+void tst_vrndevice_check::thousandFiles()
 {
     const int count = 1000;
     const QTemporaryDir directory;
@@ -349,7 +349,7 @@ void tst_VrnDeviceCheck::thousandFiles()
     QCOMPARE(check(paths + QStringList(u"--json"_s)).json().value(u"warnings"_s).toInt(), count);
 }
 
-void tst_VrnDeviceCheck::help()
+void tst_vrndevice_check::help()
 {
     const SResult result = check({u"--help"_s});
     QCOMPARE(result.exitCode, 0);
@@ -360,7 +360,7 @@ void tst_VrnDeviceCheck::help()
     }
 }
 
-void tst_VrnDeviceCheck::rules()
+void tst_vrndevice_check::rules()
 {
     const SResult text = Tool::run(QDir::tempPath(), {u"rules"_s});
     const SResult json = Tool::run(QDir::tempPath(), {u"rules"_s, u"--json"_s});
@@ -386,6 +386,6 @@ void tst_VrnDeviceCheck::rules()
     QCOMPARE(Tool::run(QDir::tempPath(), {u"rules"_s, u"x"_s}).exitCode, 2);
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceCheck)
+QTEST_GUILESS_MAIN(tst_vrndevice_check)
 
 #include "tst_vrndevice_check.moc"

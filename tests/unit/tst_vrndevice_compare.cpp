@@ -56,7 +56,7 @@ SResult runProgram(const QString &directory, const QString &program, const QStri
 } // namespace
 
 /** The commands that compare, patch and merge configurations, also as git runs them. */
-class tst_VrnDeviceCompare : public QObject
+class tst_vrndevice_compare : public QObject
 {
     Q_OBJECT
 
@@ -112,13 +112,13 @@ private:
     QScopedPointer<QTemporaryDir> m_directory;
 };
 
-void tst_VrnDeviceCompare::init()
+void tst_vrndevice_compare::init()
 {
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
 }
 
-void tst_VrnDeviceCompare::usage_data()
+void tst_vrndevice_compare::usage_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("errors");
@@ -135,7 +135,7 @@ void tst_VrnDeviceCompare::usage_data()
     QTest::newRow("merge, two outputs by option") << u"merge --json -o - a b c"_s << u"--json"_s;
 }
 
-void tst_VrnDeviceCompare::usage()
+void tst_vrndevice_compare::usage()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, errors);
@@ -145,7 +145,7 @@ void tst_VrnDeviceCompare::usage()
     QVERIFY(result.output.isEmpty());
 }
 
-void tst_VrnDeviceCompare::unreadable_data()
+void tst_vrndevice_compare::unreadable_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("errors");
@@ -162,7 +162,7 @@ void tst_VrnDeviceCompare::unreadable_data()
     QTest::newRow("merge, theirs") << u"merge a a bad"_s << u"bad:1:1: "_s;
 }
 
-void tst_VrnDeviceCompare::unreadable()
+void tst_vrndevice_compare::unreadable()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, errors);
@@ -179,7 +179,7 @@ void tst_VrnDeviceCompare::unreadable()
     QCOMPARE(Files::names(m_directory->path()), QStringList({u"a"_s, u"bad"_s, u"patch"_s}));
 }
 
-void tst_VrnDeviceCompare::diffOfEqualOnesIsEmpty()
+void tst_vrndevice_compare::diffOfEqualOnesIsEmpty()
 {
     write(u"a"_s, {});
     write(u"b"_s, {"<Device>|<!-- a comment -->\n\n<Device>"});
@@ -192,7 +192,7 @@ void tst_VrnDeviceCompare::diffOfEqualOnesIsEmpty()
     QCOMPARE(json.json().value(u"changes"_s), QJsonValue(QJsonArray()));
 }
 
-void tst_VrnDeviceCompare::diffTellsChanges()
+void tst_vrndevice_compare::diffTellsChanges()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper, "-trace |", withFile("größe.csv")});
@@ -205,7 +205,7 @@ void tst_VrnDeviceCompare::diffTellsChanges()
     QCOMPARE(result.errors, QString());
 }
 
-void tst_VrnDeviceCompare::diffPrintsAPatch()
+void tst_vrndevice_compare::diffPrintsAPatch()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -219,7 +219,7 @@ void tst_VrnDeviceCompare::diffPrintsAPatch()
     QCOMPARE(changes.at(0).toObject().value(u"path"_s).toString(), u"drive[2].name"_s);
 }
 
-void tst_VrnDeviceCompare::diffReadsStandardInput()
+void tst_vrndevice_compare::diffReadsStandardInput()
 {
     write(u"a"_s, {});
     const QByteArray other = changed(example(), {Gripper});
@@ -230,7 +230,7 @@ void tst_VrnDeviceCompare::diffReadsStandardInput()
     QCOMPARE(result.output, u"drive 2: name GRIPPER -> Gluer\n"_s);
 }
 
-void tst_VrnDeviceCompare::applyMakesTheChanges()
+void tst_vrndevice_compare::applyMakesTheChanges()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper, withFile("r.csv")});
@@ -256,14 +256,14 @@ void tst_VrnDeviceCompare::applyMakesTheChanges()
                           {u"mismatches"_s, QJsonArray()}}));
 }
 
-void tst_VrnDeviceCompare::applyReadsStandardInput_data()
+void tst_vrndevice_compare::applyReadsStandardInput_data()
 {
     QTest::addColumn<bool>("isPatch");
     QTest::newRow("the patch") << true;
     QTest::newRow("the configuration") << false;
 }
 
-void tst_VrnDeviceCompare::applyReadsStandardInput()
+void tst_vrndevice_compare::applyReadsStandardInput()
 {
     QFETCH(bool, isPatch);
     write(u"a"_s, {});
@@ -280,7 +280,7 @@ void tst_VrnDeviceCompare::applyReadsStandardInput()
     }
 }
 
-void tst_VrnDeviceCompare::applySavesElsewhere()
+void tst_vrndevice_compare::applySavesElsewhere()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -293,7 +293,7 @@ void tst_VrnDeviceCompare::applySavesElsewhere()
     QCOMPARE(printed.output.toUtf8(), Files::read(path(u"b"_s)));
 }
 
-void tst_VrnDeviceCompare::applyToAnotherConfiguration()
+void tst_vrndevice_compare::applyToAnotherConfiguration()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper, Stacker});
@@ -319,7 +319,7 @@ void tst_VrnDeviceCompare::applyToAnotherConfiguration()
     QCOMPARE(Files::read(path(u"c"_s)), before);
 }
 
-void tst_VrnDeviceCompare::applyTriesOnly()
+void tst_vrndevice_compare::applyTriesOnly()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -333,7 +333,7 @@ void tst_VrnDeviceCompare::applyTriesOnly()
     QCOMPARE(result.exitCode, 1);
 }
 
-void tst_VrnDeviceCompare::applyThatCannotSave()
+void tst_vrndevice_compare::applyThatCannotSave()
 {
     write(u"a"_s, {});
     write(u"b"_s, {Gripper});
@@ -344,7 +344,7 @@ void tst_VrnDeviceCompare::applyThatCannotSave()
     QCOMPARE(result.output, QString());
 }
 
-void tst_VrnDeviceCompare::mergeIntoOurs()
+void tst_vrndevice_compare::mergeIntoOurs()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {Stacker});
@@ -360,7 +360,7 @@ void tst_VrnDeviceCompare::mergeIntoOurs()
     QCOMPARE(run({u"diff"_s, u"ours"_s, u"expected"_s}).exitCode, 0);
 }
 
-void tst_VrnDeviceCompare::mergeThatTakesNothing()
+void tst_vrndevice_compare::mergeThatTakesNothing()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {"<Device>|<Device   >", Stacker});
@@ -371,7 +371,7 @@ void tst_VrnDeviceCompare::mergeThatTakesNothing()
     QCOMPARE(Files::read(path(u"ours"_s)), ours);
 }
 
-void tst_VrnDeviceCompare::mergeElsewhere()
+void tst_vrndevice_compare::mergeElsewhere()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {Stacker});
@@ -383,7 +383,7 @@ void tst_VrnDeviceCompare::mergeElsewhere()
     QCOMPARE(Files::read(path(u"out"_s)), ours);
 }
 
-void tst_VrnDeviceCompare::mergeToStandardOutput()
+void tst_vrndevice_compare::mergeToStandardOutput()
 {
     write(u"base"_s, {});
     write(u"theirs"_s, {Gripper});
@@ -394,7 +394,7 @@ void tst_VrnDeviceCompare::mergeToStandardOutput()
     QVERIFY(result.errors.contains(u"drive 2: name: base Gluer, ours CLAMP, theirs GRIPPER"_s));
 }
 
-void tst_VrnDeviceCompare::mergeWithConflicts()
+void tst_vrndevice_compare::mergeWithConflicts()
 {
     write(u"base"_s, {});
     write(u"ours"_s, {Gripper});
@@ -426,7 +426,7 @@ void tst_VrnDeviceCompare::mergeWithConflicts()
                   {u"details"_s, QJsonArray{u"file recipes.csv: comment Box formats -> All"_s}}}));
 }
 
-void tst_VrnDeviceCompare::mergeThatCannotSave()
+void tst_vrndevice_compare::mergeThatCannotSave()
 {
     write(u"base"_s, {});
     write(u"theirs"_s, {Gripper});
@@ -437,7 +437,7 @@ void tst_VrnDeviceCompare::mergeThatCannotSave()
     QCOMPARE(Files::read(path(u"base"_s)), example());
 }
 
-bool tst_VrnDeviceCompare::commit(const QList<QByteArray> &replacements) const
+bool tst_vrndevice_compare::commit(const QList<QByteArray> &replacements) const
 {
     const QByteArray content = changed(example(), replacements);
     return !content.isEmpty() && Files::write(path(u"line.3deco"_s), content)
@@ -446,7 +446,7 @@ bool tst_VrnDeviceCompare::commit(const QList<QByteArray> &replacements) const
 }
 
 /** A repository that is set up as docs/merging.md tells, with the example in it. */
-bool tst_VrnDeviceCompare::startRepository() const
+bool tst_vrndevice_compare::startRepository() const
 {
     const QString tool = u"'%1'"_s.arg(QStringLiteral(VRN_TOOL));
     const QList<QStringList> settings = {
@@ -468,8 +468,8 @@ bool tst_VrnDeviceCompare::startRepository() const
 }
 
 /** Two branches that start from the example; "ours" is in hand. */
-bool tst_VrnDeviceCompare::branch(const QList<QByteArray> &ours,
-                                  const QList<QByteArray> &theirs) const
+bool tst_vrndevice_compare::branch(const QList<QByteArray> &ours,
+                                   const QList<QByteArray> &theirs) const
 {
     return startRepository() && git({u"checkout"_s, u"-q"_s, u"-b"_s, u"theirs"_s}).exitCode == 0
         && commit(theirs) && git({u"checkout"_s, u"-q"_s, u"ours"_s}).exitCode == 0 && commit(ours);
@@ -480,7 +480,7 @@ bool tst_VrnDeviceCompare::branch(const QList<QByteArray> &ours,
         QSKIP("git is not installed", 0); \
     }
 
-void tst_VrnDeviceCompare::gitMergesWhatLinesCannot()
+void tst_vrndevice_compare::gitMergesWhatLinesCannot()
 {
     NEED_GIT()
     QVERIFY(branch({withFile("ours.csv")}, {withFile("theirs.csv")}));
@@ -498,7 +498,7 @@ void tst_VrnDeviceCompare::gitMergesWhatLinesCannot()
     QCOMPARE(run({u"diff"_s, u"line.3deco"_s, u"expected"_s}).output, QString());
 }
 
-void tst_VrnDeviceCompare::gitReportsAConflict()
+void tst_vrndevice_compare::gitReportsAConflict()
 {
     NEED_GIT()
     QVERIFY(branch({Gripper}, {Clamp, Stacker}));
@@ -514,7 +514,7 @@ void tst_VrnDeviceCompare::gitReportsAConflict()
     QVERIFY(file.open(path(u"line.3deco"_s)));
 }
 
-void tst_VrnDeviceCompare::gitKeepsOursThatCannotBeRead()
+void tst_vrndevice_compare::gitKeepsOursThatCannotBeRead()
 {
     NEED_GIT()
     QVERIFY(branch({Gripper}, {"<Device>|<Devic>"}));
@@ -524,7 +524,7 @@ void tst_VrnDeviceCompare::gitKeepsOursThatCannotBeRead()
     QCOMPARE(Files::read(path(u"line.3deco"_s)), changed(example(), {Gripper}));
 }
 
-void tst_VrnDeviceCompare::gitShowsItems()
+void tst_vrndevice_compare::gitShowsItems()
 {
     NEED_GIT()
     QVERIFY(startRepository());
@@ -535,7 +535,7 @@ void tst_VrnDeviceCompare::gitShowsItems()
              qPrintable(result.output));
 }
 
-void tst_VrnDeviceCompare::gitShowsDifferences()
+void tst_vrndevice_compare::gitShowsDifferences()
 {
     NEED_GIT()
     QVERIFY(startRepository());
@@ -545,5 +545,5 @@ void tst_VrnDeviceCompare::gitShowsDifferences()
              qPrintable(result.output + result.errors));
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceCompare)
+QTEST_GUILESS_MAIN(tst_vrndevice_compare)
 #include "tst_vrndevice_compare.moc"

@@ -100,7 +100,7 @@ bool eachHasItems(const QJsonObject &node)
 } // namespace
 
 /** The commands that show a configuration with its findings: report and tree. */
-class tst_VrnDeviceReport : public QObject
+class tst_vrndevice_report : public QObject
 {
     Q_OBJECT
 
@@ -142,18 +142,18 @@ private:
     QScopedPointer<QTemporaryDir> m_directory;
 };
 
-void tst_VrnDeviceReport::init()
+void tst_vrndevice_report::init()
 {
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
 }
 
-void tst_VrnDeviceReport::copyExample()
+void tst_vrndevice_report::copyExample()
 {
     QVERIFY(Tool::copyExample(FileName, m_directory->path()));
 }
 
-void tst_VrnDeviceReport::changeExample(const QByteArray &before, const QByteArray &after)
+void tst_vrndevice_report::changeExample(const QByteArray &before, const QByteArray &after)
 {
     if (!QFile::exists(path())) {
         copyExample();
@@ -163,7 +163,7 @@ void tst_VrnDeviceReport::changeExample(const QByteArray &before, const QByteArr
     QVERIFY(Files::write(path(), content.replace(before, after)));
 }
 
-QByteArray tst_VrnDeviceReport::libraryPage() const
+QByteArray tst_vrndevice_report::libraryPage() const
 {
     CDeviceConfigurationFile10 file(nullptr);
     CConfigurationCheck check;
@@ -174,7 +174,7 @@ QByteArray tst_VrnDeviceReport::libraryPage() const
     return CConfigurationReport(overview, check.findings()).toHtml();
 }
 
-void tst_VrnDeviceReport::reportIsThatOfTheLibrary()
+void tst_vrndevice_report::reportIsThatOfTheLibrary()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     const SResult result = run({u"report"_s, FileName, u"-o"_s, u"out.html"_s});
@@ -187,7 +187,7 @@ void tst_VrnDeviceReport::reportIsThatOfTheLibrary()
     QVERIFY(page == libraryPage());
 }
 
-void tst_VrnDeviceReport::reportToStandardOutput()
+void tst_vrndevice_report::reportToStandardOutput()
 {
     copyExample();
     const QString page = QString::fromUtf8(libraryPage());
@@ -199,7 +199,7 @@ void tst_VrnDeviceReport::reportToStandardOutput()
     QCOMPARE(Files::names(m_directory->path()), QStringList{FileName});
 }
 
-void tst_VrnDeviceReport::reportAsJson()
+void tst_vrndevice_report::reportAsJson()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     const SResult result = run({u"report"_s, FileName, u"--output"_s, u"out.html"_s, u"--json"_s});
@@ -213,7 +213,7 @@ void tst_VrnDeviceReport::reportAsJson()
     QVERIFY(QFile::exists(m_directory->filePath(u"out.html"_s)));
 }
 
-void tst_VrnDeviceReport::reportReplacesAFile()
+void tst_vrndevice_report::reportReplacesAFile()
 {
     copyExample();
     const QString out = m_directory->filePath(u"out.html"_s);
@@ -223,7 +223,7 @@ void tst_VrnDeviceReport::reportReplacesAFile()
     QCOMPARE(Files::names(m_directory->path()), (QStringList{FileName, u"out.html"_s}));
 }
 
-void tst_VrnDeviceReport::reportKeepsTheFileThatItCannotReplace()
+void tst_vrndevice_report::reportKeepsTheFileThatItCannotReplace()
 {
     copyExample();
     const SResult missing = run({u"report"_s, FileName, u"-o"_s, u"missing/out.html"_s});
@@ -236,7 +236,7 @@ void tst_VrnDeviceReport::reportKeepsTheFileThatItCannotReplace()
     QCOMPARE(Files::names(m_directory->path()), QStringList{FileName});
 }
 
-void tst_VrnDeviceReport::reportFindsMissingFiles()
+void tst_vrndevice_report::reportFindsMissingFiles()
 {
     const QString project = Tool::exampleDirectory().path();
     const QString file = Tool::exampleDirectory().filePath(FileName);
@@ -252,7 +252,7 @@ void tst_VrnDeviceReport::reportFindsMissingFiles()
     QVERIFY(linesFrom(tree.output, u"recipes.csv"_s).value(3).contains(u"error:"_s));
 }
 
-void tst_VrnDeviceReport::treeNamesEveryPlace()
+void tst_vrndevice_report::treeNamesEveryPlace()
 {
     copyExample();
     CDeviceConfigurationFile10 file(nullptr);
@@ -275,7 +275,7 @@ void tst_VrnDeviceReport::treeNamesEveryPlace()
     }
 }
 
-void tst_VrnDeviceReport::treeShowsFindings()
+void tst_vrndevice_report::treeShowsFindings()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     changeExample("<Class>kd3</Class>", "<Class>kd4</Class>");
@@ -298,7 +298,7 @@ void tst_VrnDeviceReport::treeShowsFindings()
     QCOMPARE(result.output.count(u"error: "_s), 5);
 }
 
-void tst_VrnDeviceReport::treeOfUnusualTexts()
+void tst_vrndevice_report::treeOfUnusualTexts()
 {
     changeExample("<Comment>Gantry axis</Comment>",
                   "<Comment>two\nlines, \xC2\x9B"
@@ -316,7 +316,7 @@ void tst_VrnDeviceReport::treeOfUnusualTexts()
     QVERIFY(file.value(2).endsWith(u"project: -"_s));
 }
 
-void tst_VrnDeviceReport::treeAsJson()
+void tst_vrndevice_report::treeAsJson()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     CDeviceConfigurationFile10 file(nullptr);
@@ -341,7 +341,7 @@ void tst_VrnDeviceReport::treeAsJson()
     QCOMPARE(allTexts(root, u"findings"_s, u"item"_s), QStringList{u"drive[2][2].driveNo"_s});
 }
 
-void tst_VrnDeviceReport::treeWithoutDevice()
+void tst_vrndevice_report::treeWithoutDevice()
 {
     QVERIFY(Files::write(path(), "<VornDeviceConfig version=\"1.0\"/>"));
     const SResult tree = run({u"tree"_s, FileName});
@@ -354,7 +354,7 @@ void tst_VrnDeviceReport::treeWithoutDevice()
 }
 
 /** Without the places and the findings it is what show prints, line by line. */
-void tst_VrnDeviceReport::showIsTheSameTree()
+void tst_vrndevice_report::showIsTheSameTree()
 {
     if (!PseudoTerminal().isOpen()) {
         QSKIP("There are no pseudo-terminals here.", 0);
@@ -372,7 +372,7 @@ void tst_VrnDeviceReport::showIsTheSameTree()
     QCOMPARE(show.output.remove(QLatin1Char('\r')), lines.join(QLatin1Char('\n')));
 }
 
-void tst_VrnDeviceReport::colours_data()
+void tst_vrndevice_report::colours_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<bool>("isTerminal");
@@ -394,7 +394,7 @@ void tst_VrnDeviceReport::colours_data()
     QTest::newRow("terminal, NO_COLOR empty") << none << true << u""_s << true;
 }
 
-void tst_VrnDeviceReport::colours()
+void tst_vrndevice_report::colours()
 {
     QFETCH(QStringList, options);
     QFETCH(bool, isTerminal);
@@ -417,7 +417,7 @@ void tst_VrnDeviceReport::colours()
     QVERIFY(result.output.contains(u"drive-number-twice"_s));
 }
 
-void tst_VrnDeviceReport::standardInput()
+void tst_vrndevice_report::standardInput()
 {
     copyExample();
     SSurroundings around;
@@ -430,7 +430,7 @@ void tst_VrnDeviceReport::standardInput()
 }
 
 /** What reading tells on standard error elsewhere stands beside the item here. */
-void tst_VrnDeviceReport::warningsStandInTheFindings()
+void tst_vrndevice_report::warningsStandInTheFindings()
 {
     changeExample("<DriveNo>1</DriveNo>", "<DriveNo>2</DriveNo>");
     changeExample("PackagingLine/opt/velkor/conf/", "Elsewhere/");
@@ -442,7 +442,7 @@ void tst_VrnDeviceReport::warningsStandInTheFindings()
     }
 }
 
-void tst_VrnDeviceReport::usage_data()
+void tst_vrndevice_report::usage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("errors");
@@ -467,7 +467,7 @@ void tst_VrnDeviceReport::usage_data()
         << QStringList{u"tree"_s, FileName, u"--color"_s, u"red"_s} << u"--color must be"_s;
 }
 
-void tst_VrnDeviceReport::usage()
+void tst_vrndevice_report::usage()
 {
     QFETCH(QStringList, arguments);
     copyExample();
@@ -481,7 +481,7 @@ void tst_VrnDeviceReport::usage()
     QCOMPARE(Files::read(path()), before);
 }
 
-void tst_VrnDeviceReport::unreadableInput_data()
+void tst_vrndevice_report::unreadableInput_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("errors");
@@ -501,7 +501,7 @@ void tst_VrnDeviceReport::unreadableInput_data()
     }
 }
 
-void tst_VrnDeviceReport::unreadableInput()
+void tst_vrndevice_report::unreadableInput()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, errors);
@@ -518,5 +518,5 @@ void tst_VrnDeviceReport::unreadableInput()
     QVERIFY(!QFile::exists(m_directory->filePath(u"out.html"_s)));
 }
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceReport)
+QTEST_GUILESS_MAIN(tst_vrndevice_report)
 #include "tst_vrndevice_report.moc"

@@ -12,7 +12,7 @@
 #include <signal.h>
 #include <sys/stat.h>
 
-class tst_VrnDeviceStaging : public QObject
+class tst_vrndevice_staging : public QObject
 {
     Q_OBJECT
 
@@ -320,5 +320,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_VrnDeviceStaging)
+QTEST_GUILESS_MAIN(tst_vrndevice_staging)
 #include "tst_vrndevice_staging.moc"

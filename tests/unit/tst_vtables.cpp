@@ -244,7 +244,7 @@ private:
 } // namespace
 
 /** Compares the compiled tables of virtual operations with tests/data/vtables.txt. */
-class tst_VTables : public QObject
+class tst_vtables : public QObject
 {
     Q_OBJECT
 
@@ -260,7 +260,7 @@ private:
     Table m_table;
 };
 
-void tst_VTables::initTestCase()
+void tst_vtables::initTestCase()
 {
     // Keeps the linker from dropping the library.
     const CDeviceConfigurationFile10 file(nullptr);
@@ -270,7 +270,7 @@ void tst_VTables::initTestCase()
     QVERIFY(m_table.classes().size() > 15);
 }
 
-void tst_VTables::slotOrder_data()
+void tst_vtables::slotOrder_data()
 {
     QTest::addColumn<QString>("className");
     for (const QString &className : m_table.classes().keys()) {
@@ -278,7 +278,7 @@ void tst_VTables::slotOrder_data()
     }
 }
 
-void tst_VTables::slotOrder()
+void tst_vtables::slotOrder()
 {
     QFETCH(QString, className);
     const QStringList expected = m_table.classes().value(className).slotFunctions;
@@ -296,14 +296,14 @@ void tst_VTables::slotOrder()
     }
 }
 
-void tst_VTables::plainClasses()
+void tst_vtables::plainClasses()
 {
     for (const QString &className : m_table.plainClasses()) {
         QVERIFY2(compiledSlots(className).isEmpty(), qPrintable(className));
     }
 }
 
-void tst_VTables::everyPolymorphicClassIsListed()
+void tst_vtables::everyPolymorphicClassIsListed()
 {
     for (const QString &folderName : {QStringLiteral("elements"), QStringLiteral("configfile"),
                                       QStringLiteral("devicefiles"), QStringLiteral("settings")}) {
@@ -316,7 +316,7 @@ void tst_VTables::everyPolymorphicClassIsListed()
     }
 }
 
-void tst_VTables::comparisonSeesDifferences()
+void tst_vtables::comparisonSeesDifferences()
 {
     // Two overloads differ only in their arguments; the comparison must tell them apart.
     const QStringList compiled = compiledSlots(QStringLiteral("CBaseElement"));
@@ -328,5 +328,5 @@ void tst_VTables::comparisonSeesDifferences()
     QCOMPARE(byText, byIdentity + 1);
 }
 
-QTEST_APPLESS_MAIN(tst_VTables)
+QTEST_APPLESS_MAIN(tst_vtables)
 #include "tst_vtables.moc"
