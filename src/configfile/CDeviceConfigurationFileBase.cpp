@@ -3,9 +3,9 @@
 #include "imported/CMessageBoardHelper.h"
 #include "imported/CStr.h"
 #include "vocabulary/NVornXmlTags.h"
+#include "vocabulary/Texts.h"
 #include "vocabulary/TextTables.h"
 
-#include <QCoreApplication>
 #include <QDomDocument>
 
 #include <bitset>
@@ -17,11 +17,7 @@ namespace {
 const QLatin1Char OptionSeparator(' ');
 const int DriveNumbers = 256;
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile)
-};
+using DeviceConfigurationFileTexts::Texts;
 
 /** Gives each sub-device a drive number of its own, whatever the document says. */
 class DriveNumberKeeper

@@ -2,9 +2,9 @@
 
 #include "commissioning/check/ConfigurationRules.h"
 #include "commissioning/check/DocumentCheck.h"
+#include "commissioning/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -13,11 +13,7 @@
 
 namespace {
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationCheck)
-};
+using ConfigurationCheckTexts::Texts;
 
 /** A document that is to be checked: its version is a finding, and no message to the user. */
 class CheckedFile : public CDeviceConfigurationFile10

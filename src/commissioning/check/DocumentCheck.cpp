@@ -1,12 +1,12 @@
 #include "commissioning/check/DocumentCheck.h"
 
 #include "commissioning/CConfigurationItems.h"
+#include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "imported/CDomDoc.h"
 #include "imported/CStr.h"
 #include "vocabulary/NVornXmlTags.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QRegExp>
 
@@ -19,11 +19,7 @@ using namespace NVornXmlTags;
 
 namespace {
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationCheck)
-};
+using ConfigurationCheckTexts::Texts;
 
 const QLatin1Char Separator('/');
 const QLatin1Char Blank(' ');

@@ -2,8 +2,8 @@
 
 #include "commissioning/compare/ConfigurationChanges.h"
 #include "commissioning/compare/ConfigurationWords.h"
+#include "commissioning/Texts.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -13,10 +13,7 @@ using ConfigurationWords::shown;
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationMerge)
-};
+using ConfigurationMergeTexts::Texts;
 
 using SConflict = CConfigurationMerge::SConflict;
 

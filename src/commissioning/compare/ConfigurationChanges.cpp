@@ -2,8 +2,8 @@
 
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/Texts.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -15,10 +15,7 @@ using ItemPath::joined;
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
+using ConfigurationPatchTexts::Texts;
 
 const QString TypeItem = QStringLiteral("type");
 

@@ -1,15 +1,12 @@
 #include "commissioning/compare/ConfigurationWords.h"
 
-#include <QCoreApplication>
+#include "commissioning/Texts.h"
 
 #include <algorithm>
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
+using ConfigurationPatchTexts::Texts;
 
 /** A word of a path, and what stands for it; the text is translated when it is used. */
 struct SWord {

@@ -2,10 +2,10 @@
 
 #include "commissioning/items/ItemPath.h"
 #include "commissioning/items/NearestName.h"
+#include "commissioning/Texts.h"
 #include "elements/CDeviceElement.h"
 #include "vocabulary/NVornXmlTags.h"
 
-#include <QCoreApplication>
 #include <QDate>
 #include <QHash>
 #include <QRegularExpression>
@@ -18,10 +18,7 @@ using ItemPath::joined;
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationItems)
-};
+using ConfigurationItemsTexts::Texts;
 
 const QLatin1Char Hyphen('-');
 

@@ -1,13 +1,10 @@
 #include "commissioning/items/ItemPath.h"
 
-#include <QCoreApplication>
+#include "commissioning/Texts.h"
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationItems)
-};
+using ConfigurationItemsTexts::Texts;
 
 const QLatin1Char KeyBegin('[');
 const QLatin1Char KeyEnd(']');

@@ -3,8 +3,8 @@
 #include "commissioning/CItemFindings.h"
 #include "commissioning/report/DeviceDrawing.h"
 #include "commissioning/report/HtmlWriter.h"
+#include "commissioning/Texts.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -14,11 +14,7 @@ using namespace NvrnDeviceCore;
 
 namespace {
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationReport)
-};
+using ConfigurationReportTexts::Texts;
 
 using Element = HtmlWriter::Element;
 using SFile = CConfigurationOverview::SFile;

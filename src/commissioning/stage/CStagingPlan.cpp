@@ -1,10 +1,10 @@
 #include "commissioning/CStagingPlan.h"
 
 #include "commissioning/CDeviceManifest.h"
+#include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "storage/Descriptor.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QMap>
 
@@ -17,10 +17,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagingPlan)
-};
+using StagingPlanTexts::Texts;
 
 const QLatin1Char Separator('/');
 

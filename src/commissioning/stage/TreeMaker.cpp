@@ -3,10 +3,10 @@
 #include "commissioning/stage/DeviceArchive.h"
 #include "commissioning/stage/TreeComparison.h"
 #include "commissioning/stage/TreeConstants.h"
+#include "commissioning/Texts.h"
 #include "storage/Descriptor.h"
 #include "storage/FileStorage.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QMap>
@@ -21,10 +21,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagedTree)
-};
+using StagedTreeTexts::Texts;
 
 QString shown(const QByteArray &name)
 {
