@@ -187,6 +187,7 @@ const TextTables::Table<CNetworkSettings::ENtpMode> &ntpModes()
     return table;
 }
 
+/** The keys in the order of the file, each with the lines of comment before it: one long table. */
 const QList<SKey> &keys()
 {
     using S = CNetworkSettings;

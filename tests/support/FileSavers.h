@@ -3,13 +3,19 @@
 #include "devicefiles/CDeviceOSReleaseFile.h"
 #include "imported/CXmlAbstractVornFile.h"
 #include "settings/CNetworkSettingsFile.h"
+#include "support/Files.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 
 #include <QByteArray>
 #include <QDomElement>
 #include <QFile>
+#include <QObject>
 #include <QString>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
 
 #include <grp.h>
 #include <sys/stat.h>
@@ -128,5 +134,34 @@ inline QByteArray linkTarget(const QString &path)
     const ssize_t size = readlink(native(path).constData(), target, sizeof target);
     return size < 0 ? QByteArray() : QByteArray(target, static_cast<int>(size));
 }
+
+/** A directory for the files. */
+class FileSaverTest : public QObject
+{
+protected:
+    /** Called before each test. */
+    void prepare()
+    {
+        m_directory = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_directory->isValid());
+    }
+
+    static void addSavers()
+    {
+        QTest::addColumn<SSaver>("saver");
+        for (const SSaver &saver : Savers) {
+            QTest::newRow(saver.name) << saver;
+        }
+    }
+
+    QString path(const QString &name = u"file"_s) const
+    {
+        return m_directory->path() + u"/"_s + name;
+    }
+
+    QStringList entries(const QString &name = u"."_s) const { return Files::names(path(name)); }
+
+    std::unique_ptr<QTemporaryDir> m_directory;
+};
 
 } // namespace FileSavers

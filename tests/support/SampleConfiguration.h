@@ -236,7 +236,7 @@ struct Setter {
 
 /**
  * Every setter, with a value that is none of SampleConfiguration's; in the sample's document each
- * returns true.
+ * returns true. One long table, a row a setter.
  */
 inline QList<Setter> setters()
 {

@@ -16,67 +16,12 @@
 using namespace StagedTrees;
 
 /** What is left when a tree cannot be made: sources that change, full disks, other runs. */
-class tst_cstagedtree_failures : public QObject
+class tst_cstagedtree_failures : public StagedTreeTest
 {
     Q_OBJECT
 
-    // A project with a few files, from which "root" and "out.tar.gz" beside it are made.
-    std::unique_ptr<QTemporaryDir> m_directory;
-
-    QString at(const QString &path) const { return m_directory->filePath(path); }
-    QString root() const { return at(u"work/root"_s); }
-    QString archive() const { return at(u"work/out.tar.gz"_s); }
-    QStringList beside() const { return Files::names(at(u"work"_s)); }
-
-    CStagingPlan plan(const QStringList &names = {u"a.xml"_s, u"large"_s, u"empty"_s,
-                                                  u"Ünit-Ж.xml"_s}) const
-    {
-        CDeviceElement device;
-        device.setName(u"Line"_s);
-        device.setConfigurationName(u"STD"_s);
-        for (const QString &name : names) {
-            CFileElement file;
-            file.setFileName(name);
-            file.setDevicePath(u'/' + Conf);
-            file.setProjectPath(u"Line"_s);
-            device.appendAdditionalFile(file);
-        }
-        return CStagingPlan(device, {"<document/>", QString()}, at(u"project"_s));
-    }
-
-    CStagedTree::STarget treeTarget(bool mayReplace = false) const
-    {
-        return {root(), mayReplace, QString()};
-    }
-    CStagedTree::STarget archiveTarget() const { return {QString(), false, archive()}; }
-
-    QStringList verified(const QString &path)
-    {
-        CStagedTree tree;
-        return tree.verify(path) ? told(tree) : QStringList{tree.errorText()};
-    }
-
-    bool writeProject(const QString &name, const QByteArray &content) const
-    {
-        return Files::write(at(u"project/Line/"_s + name), content);
-    }
-
 private slots:
-    void init()
-    {
-        m_directory = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir().mkpath(at(u"project/Line"_s)));
-        QVERIFY(QDir().mkpath(at(u"work"_s)));
-        QVERIFY(writeProject(u"a.xml"_s, "content of a"));
-        QVERIFY(writeProject(u"large"_s, Large));
-        QVERIFY(writeProject(u"empty"_s, ""));
-        // The file's own name is UTF-8 in every locale.
-        const QByteArray name = system(at(u"project/Line"_s)) + "/" + u"Ünit-Ж.xml"_s.toUtf8();
-        const int fd = open(name.constData(), O_WRONLY | O_CREAT, 0600);
-        QCOMPARE(write(fd, "unit", 4), 4);
-        QCOMPARE(close(fd), 0);
-        QVERIFY(plan().problems().isEmpty());
-    }
+    void init() { prepare(); }
 
     void changedSourceIsNoticed_data()
     {

@@ -66,12 +66,12 @@ private:
 
 Q_DECLARE_METATYPE(SSaver)
 
-class tst_replacingfiles : public QObject
+class tst_replacingfiles : public FileSaverTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { prepare(); }
 
     void replaces_data();
     void replaces();
@@ -107,31 +107,7 @@ private slots:
     void longestName_data() { addSavers(); }
     void longestName();
     void manyThreads();
-
-private:
-    static void addSavers()
-    {
-        QTest::addColumn<SSaver>("saver");
-        for (const SSaver &saver : Savers) {
-            QTest::newRow(saver.name) << saver;
-        }
-    }
-
-    QString path(const QString &name = u"file"_s) const
-    {
-        return m_directory->path() + u"/"_s + name;
-    }
-
-    QStringList entries(const QString &name = u"."_s) const { return Files::names(path(name)); }
-
-    std::unique_ptr<QTemporaryDir> m_directory;
 };
-
-void tst_replacingfiles::init()
-{
-    m_directory = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_directory->isValid());
-}
 
 void tst_replacingfiles::replaces_data()
 {

@@ -42,12 +42,12 @@ private:
 Q_DECLARE_METATYPE(SSaver)
 
 /** What cannot be replaced and is written in place: read-only directories, devices, pipes. */
-class tst_replacingfiles_inplace : public QObject
+class tst_replacingfiles_inplace : public FileSaverTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { prepare(); }
 
     void inPlace_data();
     void inPlace();
@@ -69,31 +69,7 @@ private slots:
     void pipeWithoutReader();
     void pipeWithReader_data() { addSavers(); }
     void pipeWithReader();
-
-private:
-    static void addSavers()
-    {
-        QTest::addColumn<SSaver>("saver");
-        for (const SSaver &saver : Savers) {
-            QTest::newRow(saver.name) << saver;
-        }
-    }
-
-    QString path(const QString &name = u"file"_s) const
-    {
-        return m_directory->path() + u"/"_s + name;
-    }
-
-    QStringList entries(const QString &name = u"."_s) const { return Files::names(path(name)); }
-
-    std::unique_ptr<QTemporaryDir> m_directory;
 };
-
-void tst_replacingfiles_inplace::init()
-{
-    m_directory = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_directory->isValid());
-}
 
 void tst_replacingfiles_inplace::inPlace_data()
 {

@@ -28,12 +28,12 @@ QStringList items(const QJsonObject &json)
 } // namespace
 
 /** The commands that read and change items, format files, and begin with a template. */
-class tst_vrndevice_items : public QObject
+class tst_vrndevice_items : public ItemCommandTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { prepare(); }
 
     void usage_data();
     void usage();
@@ -61,38 +61,7 @@ private slots:
     void filters();
     void fullDisk_data();
     void fullDisk();
-
-private:
-    SResult run(const QStringList &arguments, const QByteArray &input = QByteArray()) const
-    {
-        QProcess process;
-        process.setWorkingDirectory(m_directory->path());
-        process.start(QStringLiteral(VRN_TOOL), arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        SResult result;
-        if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
-            result.exitCode = process.exitCode();
-        }
-        result.output = QString::fromUtf8(process.readAllStandardOutput());
-        result.errors = QString::fromUtf8(process.readAllStandardError());
-        return result;
-    }
-    QString path(const QString &name = FileName) const { return m_directory->filePath(name); }
-    QByteArray bytes() const { return Files::read(path()); }
-
-    QScopedPointer<QTemporaryDir> m_directory;
-    QByteArray m_example;
 };
-
-void tst_vrndevice_items::init()
-{
-    m_directory.reset(new QTemporaryDir);
-    QVERIFY(m_directory->isValid());
-    QVERIFY(Tool::copyExample(FileName, m_directory->path()));
-    m_example = bytes();
-    QVERIFY(!m_example.isEmpty());
-}
 
 void tst_vrndevice_items::usage_data()
 {
