@@ -2363,50 +2363,6 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
 <context>
     <name>CStagedTree</name>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 ist nicht lesbar: %2</translation>
-    </message>
-    <message>
-        <source>It was cancelled.</source>
-        <translation>Der Vorgang wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <source>%1 is there already, and is not empty.</source>
-        <translation>%1 ist schon da und nicht leer.</translation>
-    </message>
-    <message>
-        <source>%1 is no device tree that can be replaced: %2</source>
-        <translation>%1 ist kein Gerätebaum, der ersetzt werden kann: %2</translation>
-    </message>
-    <message>
-        <source>%1 holds more than a device tree and cannot be replaced: %2</source>
-        <translation>%1 enthält mehr als einen Gerätebaum und kann nicht ersetzt werden: %2</translation>
-    </message>
-    <message>
-        <source>This is no regular file.</source>
-        <translation>Dies ist keine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>It would lie in the tree.</source>
-        <translation>Es läge innerhalb des Baums.</translation>
-    </message>
-    <message>
-        <source>It belongs to the project.</source>
-        <translation>Es gehört zum Projekt.</translation>
-    </message>
-    <message>
-        <source>%1 changed while it was copied.</source>
-        <translation>%1 hat sich während des Kopierens geändert.</translation>
-    </message>
-    <message>
-        <source>%1; everything is in place, but a power cut may undo it</source>
-        <translation>%1; alles ist an seinem Platz, aber ein Stromausfall kann es rückgängig machen</translation>
-    </message>
-    <message>
         <source>There is nothing to be made.</source>
         <translation>Es gibt nichts zu erzeugen.</translation>
     </message>
@@ -2417,6 +2373,10 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>This is neither a directory nor a regular file.</source>
         <translation>Dies ist weder ein Verzeichnis noch eine reguläre Datei.</translation>
+    </message>
+    <message>
+        <source>It was cancelled.</source>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>
     <message>
         <source>It ends too early.</source>
@@ -2433,6 +2393,10 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>The check sum of the archive is wrong.</source>
         <translation>Die Prüfsumme des Archivs ist falsch.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
     </message>
     <message>
         <source>There are too many differences.</source>
@@ -2471,8 +2435,44 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>%1 fehlt.</translation>
     </message>
     <message>
+        <source>This is no regular file.</source>
+        <translation>Dies ist keine reguläre Datei.</translation>
+    </message>
+    <message>
         <source>There is no %1 in the archive.</source>
         <translation>Im Archiv gibt es kein %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no device tree that can be replaced: %2</source>
+        <translation>%1 ist kein Gerätebaum, der ersetzt werden kann: %2</translation>
+    </message>
+    <message>
+        <source>%1 holds more than a device tree and cannot be replaced: %2</source>
+        <translation>%1 enthält mehr als einen Gerätebaum und kann nicht ersetzt werden: %2</translation>
+    </message>
+    <message>
+        <source>It would lie in the tree.</source>
+        <translation>Es läge innerhalb des Baums.</translation>
+    </message>
+    <message>
+        <source>It belongs to the project.</source>
+        <translation>Es gehört zum Projekt.</translation>
+    </message>
+    <message>
+        <source>%1 changed while it was copied.</source>
+        <translation>%1 hat sich während des Kopierens geändert.</translation>
+    </message>
+    <message>
+        <source>%1; everything is in place, but a power cut may undo it</source>
+        <translation>%1; alles ist an seinem Platz, aber ein Stromausfall kann es rückgängig machen</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and is not empty.</source>
+        <translation>%1 ist schon da und nicht leer.</translation>
     </message>
 </context>
 <context>
