@@ -4,8 +4,8 @@
 #include "imported/CMessageBoardHelper.h"
 #include "imported/ICLogfile.h"
 #include "vocabulary/NVornXmlTags.h"
+#include "vocabulary/Texts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QDomDocument>
 
@@ -13,11 +13,7 @@ using namespace NVornXmlTags;
 
 namespace {
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile10)
-};
+using DeviceConfigurationFile10Texts::Texts;
 
 /** Removes an element from its parent; false for a null one. */
 bool remove(const QDomElement &element)

@@ -8,8 +8,8 @@
 #include "imported/CStr.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
+#include "vocabulary/Texts.h"
 
-#include <QCoreApplication>
 #include <QDomDocument>
 
 #include <algorithm>
@@ -21,11 +21,7 @@ namespace {
 
 const QLatin1Char OptionSeparator(' ');
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CDeviceConfigurationFile)
-};
+using DeviceConfigurationFileTexts::Texts;
 
 template <typename Element>
 void setItems(CXmlAbstractVornFile &file, const QVector<SField<Element>> &rows,

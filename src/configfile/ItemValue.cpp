@@ -8,9 +8,9 @@
 #include "storage/XmlCharacters.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
+#include "vocabulary/Texts.h"
 #include "vocabulary/TextTables.h"
 
-#include <QCoreApplication>
 #include <QDate>
 
 #include <algorithm>
@@ -23,10 +23,7 @@ namespace ItemValue {
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(ItemValue)
-};
+using ItemValueTexts::Texts;
 
 const QLatin1Char Space(' ');
 

@@ -1,8 +1,7 @@
 #include "devicefiles/COptionModuleFileName.h"
 
 #include "elements/FieldList.h"
-
-#include <QCoreApplication>
+#include "vocabulary/Texts.h"
 
 #include <tuple>
 
@@ -14,11 +13,7 @@ const QString SlotPrefix = QStringLiteral("OM");
 const QString HardwarePrefix = QStringLiteral("H");
 const QString SoftwarePrefix = QStringLiteral("V");
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(COptionModuleFileName)
-};
+using OptionModuleFileNameTexts::Texts;
 
 // Built for each use: matching changes a QRegExp, and the threads' names are independent.
 

@@ -3,18 +3,13 @@
 #include "imported/CMessageBoardHelper.h"
 #include "imported/CStr.h"
 #include "vocabulary/NVornXmlTags.h"
-
-#include <QCoreApplication>
+#include "vocabulary/Texts.h"
 
 using NvrnGlobal::EFileResult;
 
 namespace {
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CDeviceSettingsFileBase)
-};
+using DeviceSettingsFileBaseTexts::Texts;
 
 } // namespace
 

@@ -3,8 +3,8 @@
 #include "settings/CNetworkSettingsFile.h"
 #include "settings/NetworkText.h"
 #include "vocabulary/NvrnGlobal.h"
+#include "vocabulary/Texts.h"
 
-#include <QCoreApplication>
 #include <QRegExp>
 
 #include <algorithm>
@@ -13,11 +13,7 @@ namespace {
 
 using Check = CNetworkSettingsCheck;
 
-/** The texts of this class, under the context in which they are translated. */
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CNetworkSettingsCheck)
-};
+using NetworkSettingsCheckTexts::Texts;
 
 const uint HighestPort = 65535;
 

@@ -22,8 +22,8 @@ const QStringList Knots = {QStringLiteral("elements/CDeviceBaseElementFiles.cpp"
 
 // The same for the rooms inside commissioning/.
 const QStringList Rooms = {
-    QStringLiteral("items"), QStringLiteral("compare"), QStringLiteral("stage"),
-    QStringLiteral("check"), QStringLiteral("report"),
+    QStringLiteral("items"), QStringLiteral("compare"), QStringLiteral("rules"),
+    QStringLiteral("stage"), QStringLiteral("check"),   QStringLiteral("report"),
 };
 
 QString sourcePath(const QString &file)

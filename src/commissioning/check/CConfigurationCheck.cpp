@@ -2,7 +2,7 @@
 
 #include "commissioning/check/DocumentCheck.h"
 #include "commissioning/rules/ConfigurationRules.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QDir>
@@ -12,6 +12,8 @@
 #include <tuple>
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 /** A document that is to be checked: its version is a finding, and no message to the user. */
 class CheckedFile : public CDeviceConfigurationFile10

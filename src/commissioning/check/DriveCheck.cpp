@@ -1,10 +1,12 @@
 #include "commissioning/check/DriveCheck.h"
 
 #include "commissioning/check/ValueChecks.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "elements/DriveNumbers.h"
 #include "vocabulary/DriveTypes.h"
 #include "vocabulary/NVornXmlTags.h"
+
+using ConfigurationCheckTexts::Texts;
 
 using namespace ConfigurationRules;
 using namespace FaultTexts;

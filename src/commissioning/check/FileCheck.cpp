@@ -1,7 +1,7 @@
 #include "commissioning/check/FileCheck.h"
 
 #include "commissioning/rules/FileRules.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -11,6 +11,8 @@ using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 const QLatin1Char Separator('/');
 

@@ -1,8 +1,10 @@
 #include "commissioning/check/FileListCheck.h"
 
 #include "commissioning/check/ValueChecks.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "vocabulary/NVornXmlTags.h"
+
+using ConfigurationCheckTexts::Texts;
 
 using namespace ConfigurationRules;
 using namespace FaultTexts;

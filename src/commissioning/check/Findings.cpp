@@ -1,11 +1,13 @@
 #include "commissioning/check/Findings.h"
 
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 
 using namespace ConfigurationRules;
 using namespace FaultTexts;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 /** More than anybody reads, and no more than memory holds. */
 const int MostFindings = 100000;

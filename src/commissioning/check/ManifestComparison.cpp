@@ -1,7 +1,7 @@
 #include "commissioning/check/ManifestComparison.h"
 
 #include "commissioning/rules/FileRules.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "storage/FileStorage.h"
 
 #include <QDir>
@@ -11,6 +11,8 @@ using namespace ConfigurationRules;
 using FaultTexts::shown;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 SFault invalid(const QString &reason)
 {

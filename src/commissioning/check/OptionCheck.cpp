@@ -1,7 +1,7 @@
 #include "commissioning/check/OptionCheck.h"
 
 #include "commissioning/check/ValueChecks.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
 
@@ -14,6 +14,8 @@ using namespace FaultTexts;
 using namespace NVornXmlTags;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 const QString OptionList = QStringLiteral("device.options");
 

@@ -2,9 +2,11 @@
 
 #include "commissioning/check/ValueChecks.h"
 #include "commissioning/rules/FileRules.h"
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
+
+using ConfigurationCheckTexts::Texts;
 
 using namespace ConfigurationRules;
 using namespace FaultTexts;

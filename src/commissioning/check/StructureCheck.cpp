@@ -1,6 +1,6 @@
 #include "commissioning/check/StructureCheck.h"
 
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 
 #include <algorithm>
 
@@ -9,6 +9,8 @@ using namespace DocumentStructure;
 using namespace FaultTexts;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 /** Names that belong to XML itself: name spaces, and where a schema is found. */
 bool isOfXml(const QString &attribute)

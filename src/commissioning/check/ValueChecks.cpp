@@ -1,6 +1,6 @@
 #include "commissioning/check/ValueChecks.h"
 
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "elements/CanonicalPaths.h"
 #include "elements/CPluginElement.h"
 #include "imported/CStr.h"
@@ -14,6 +14,8 @@ using namespace FaultTexts;
 using ConfigurationShape::EValue;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 bool isDottedNumber(const QString &text)
 {

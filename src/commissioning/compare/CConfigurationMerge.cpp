@@ -3,9 +3,9 @@
 #include "commissioning/compare/ConfigurationChanges.h"
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -15,10 +15,7 @@ using ConfigurationWords::shown;
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationMerge)
-};
+using ConfigurationMergeTexts::Texts;
 
 using SConflict = CConfigurationMerge::SConflict;
 

@@ -2,8 +2,8 @@
 
 #include "commissioning/compare/ConfigurationChanges.h"
 #include "commissioning/compare/ConfigurationWords.h"
+#include "commissioning/Texts.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,10 +13,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
+using ConfigurationPatchTexts::Texts;
 
 using SChange = CConfigurationPatch::SChange;
 

@@ -2,10 +2,10 @@
 
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 #include "vocabulary/DriveTypes.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -19,10 +19,7 @@ using ItemPath::joined;
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
+using ConfigurationPatchTexts::Texts;
 
 QString nameOf(const SItemPath &path)
 {

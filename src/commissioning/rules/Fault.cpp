@@ -1,10 +1,12 @@
 #include "commissioning/rules/Fault.h"
 
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 
 #include <algorithm>
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 const int LongestShownText = 200;
 

@@ -1,6 +1,6 @@
 #include "commissioning/rules/FileRules.h"
 
-#include "commissioning/rules/Texts.h"
+#include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
 
@@ -10,6 +10,8 @@ using namespace ConfigurationRules;
 using namespace FaultTexts;
 
 namespace {
+
+using ConfigurationCheckTexts::Texts;
 
 const QLatin1Char Separator('/');
 const QLatin1String Up("..");

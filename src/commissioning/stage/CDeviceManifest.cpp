@@ -1,5 +1,6 @@
 #include "commissioning/CDeviceManifest.h"
 
+#include "commissioning/Texts.h"
 #include "elements/CanonicalPaths.h"
 #include "storage/Descriptor.h"
 #include "storage/FileStorage.h"
@@ -21,10 +22,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CDeviceManifest)
-};
+using DeviceManifestTexts::Texts;
 
 const int Version = 1;
 /** From the next number on, several numbers in JSON are read as one. */

@@ -2,9 +2,9 @@
 
 #include "commissioning/stage/TreeComparison.h"
 #include "commissioning/stage/TreeMaker.h"
+#include "commissioning/Texts.h"
 #include "storage/Descriptor.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -14,10 +14,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagedTree)
-};
+using StagedTreeTexts::Texts;
 
 } // namespace
 

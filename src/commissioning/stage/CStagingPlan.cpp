@@ -1,11 +1,11 @@
 #include "commissioning/CStagingPlan.h"
 
 #include "commissioning/rules/FileRules.h"
+#include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
 #include "elements/CanonicalPaths.h"
 #include "storage/CanonicalName.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QMap>
 
@@ -13,10 +13,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagingPlan)
-};
+using StagingPlanTexts::Texts;
 
 const QLatin1Char Separator('/');
 

@@ -1,9 +1,9 @@
 #include "commissioning/stage/DeviceArchive.h"
 
 #include "commissioning/stage/TreeConstants.h"
+#include "commissioning/Texts.h"
 #include "storage/Descriptor.h"
 
-#include <QCoreApplication>
 #include <QtEndian>
 
 #include <array>
@@ -16,10 +16,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagedTree)
-};
+using StagedTreeTexts::Texts;
 
 QString reasonOf(archive *broken)
 {

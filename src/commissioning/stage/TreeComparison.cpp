@@ -2,6 +2,7 @@
 
 #include "commissioning/stage/DeviceArchive.h"
 #include "commissioning/stage/TreeConstants.h"
+#include "commissioning/Texts.h"
 #include "storage/Descriptor.h"
 #include "storage/FileStorage.h"
 
@@ -16,10 +17,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagedTree)
-};
+using StagedTreeTexts::Texts;
 
 const int MostDifferences = 10000;
 const QChar Nul(QChar::Null);

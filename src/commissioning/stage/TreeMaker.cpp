@@ -3,10 +3,11 @@
 #include "commissioning/stage/DeviceArchive.h"
 #include "commissioning/stage/TreeComparison.h"
 #include "commissioning/stage/TreeConstants.h"
+#include "commissioning/Texts.h"
+#include "storage/CanonicalName.h"
 #include "storage/Descriptor.h"
 #include "storage/FileStorage.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QMap>
@@ -21,10 +22,7 @@
 
 namespace {
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CStagedTree)
-};
+using StagedTreeTexts::Texts;
 
 QString shown(const QByteArray &name)
 {
@@ -39,17 +37,6 @@ QString cannotBeWritten(const QString &path, const QString &reason)
 QString cannotBeRead(const QString &path, const QString &reason)
 {
     return Texts::tr("%1 cannot be read: %2").arg(path, reason);
-}
-
-/** Without links; empty, with errno, when nothing is there. */
-QByteArray canonical(const QByteArray &name)
-{
-    char *const resolved = realpath(name.constData(), nullptr);
-    const int error = errno;
-    QByteArray result(resolved);
-    std::free(resolved);
-    errno = error;
-    return result;
 }
 
 QByteArray parentOf(const QByteArray &name)
@@ -73,10 +60,10 @@ QByteArray placeOf(const QString &path)
     }
     struct stat status = {};
     if (lstat(name.constData(), &status) == 0) {
-        return canonical(name);
+        return canonicalName(name);
     }
     const QByteArray parent = parentOf(name);
-    const QByteArray directory = canonical(parent.isEmpty() ? QByteArray(".") : parent);
+    const QByteArray directory = canonicalName(parent.isEmpty() ? QByteArray(".") : parent);
     if (errno != ENOENT && directory.isEmpty()) {
         return QByteArray();
     }
