@@ -307,14 +307,14 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
         if (id < 0) {
             withoutPlace.prepend(index);
             CMessageBoardHelper::setDebugWarning(
-                Texts::tr("The sub-device '%1' is left out: all drive numbers are used.")
+                Texts::tr("The drive '%1' is left out: all drive numbers are in use.")
                     .arg(subDevice.name()),
                 logfile());
             continue;
         }
         subDevice.setDriveId(static_cast<quint8>(id));
         CMessageBoardHelper::setDebugWarning(
-            Texts::tr("The sub-device '%1' has no drive number of its own and gets %2.")
+            Texts::tr("The drive '%1' has no unique drive number and gets %2.")
                 .arg(subDevice.name(), QString::number(id)),
             logfile());
     }
@@ -357,7 +357,7 @@ CDeviceHardwareId CDeviceConfigurationFileBase::hardwareIdIn(const QDomElement &
     CDeviceHardwareId id(text);
     if (id.isNull() && !text.isEmpty()) {
         CMessageBoardHelper::setDebugWarning(
-            Texts::tr("The hardware identity '%1' of '%2' cannot be read.")
+            Texts::tr("The hardware identity '%1' of '%2' is not valid.")
                 .arg(text, getNodeValue(TAG_NAME, element)),
             logfile());
     }

@@ -173,8 +173,8 @@ QString CommandLine::noSuchOption(const QString &given) const
     const bool isShort = !given.startsWith(QLatin1String("--"));
     const QString nearest = nearestName(isShort ? QLatin1Char('-') + given : given, names);
     return nearest.isEmpty()
-        ? Texts::tr("There is no option '%1'.").arg(given)
-        : Texts::tr("There is no option '%1'. Did you mean '%2'?").arg(given, nearest);
+        ? Texts::tr("Unknown option '%1'.").arg(given)
+        : Texts::tr("Unknown option '%1'. Did you mean '%2'?").arg(given, nearest);
 }
 
 /** Takes "-ab", "-aVALUE" and "-a=VALUE"; @p following are the words behind it. */
@@ -272,7 +272,7 @@ QString CommandLine::problem() const
     }
     return index == m_givenArguments.size()
         ? QString()
-        : Texts::tr("The argument '%1' is one too many.").arg(m_givenArguments.at(index));
+        : Texts::tr("Unexpected argument '%1'.").arg(m_givenArguments.at(index));
 }
 
 bool CommandLine::parse(const QStringList &arguments)

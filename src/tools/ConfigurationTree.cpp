@@ -179,7 +179,7 @@ STreeNode deviceNode(const CConfigurationOverview &overview)
     for (const SDrive &drive : overview.drives()) {
         drives.append(driveNode(drive));
     }
-    addGroup(children, Texts::tr("Sub-devices"), {QStringLiteral("drive")}, drives);
+    addGroup(children, Texts::tr("Drives"), {QStringLiteral("drive")}, drives);
     return node;
 }
 

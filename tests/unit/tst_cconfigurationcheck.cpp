@@ -598,7 +598,8 @@ void tst_CConfigurationCheck::projectDirectory()
     CConfigurationCheck check;
     QCOMPARE(check.projectDirectory(), QString());
     QVERIFY(!check.setProjectDirectory(directory.filePath(u"none"_s)));
-    QCOMPARE(check.errorText(), directory.filePath(u"none"_s) + u": There is no such directory."_s);
+    QCOMPARE(check.errorText(),
+             directory.filePath(u"none"_s) + u": The directory does not exist."_s);
     QVERIFY(!check.setProjectDirectory(validFile(u"complete.3deco"_s)));
     QCOMPARE(check.projectDirectory(), QString());
     QVERIFY(check.setProjectDirectory(directory.path()));
@@ -757,48 +758,48 @@ void tst_CConfigurationCheck::texts_data()
         QTest::newRow(name) << message << found << expected << hint;
     };
     row("drive-type-in-lower-case",
-        u"There is no type 'kd2_drive' of drives; the drive is read as 'KD3_drive'."_s,
-        u"kd2_drive"_s, u"KD2_drive, KD3_drive"_s,
-        u"Write 'KD2_drive': capital and small letters matter."_s);
-    row("drive-type-undefined", u"The type of the drive is left open; it is read as 'KD3_drive'."_s,
-        u"UNKNOWN_drive"_s, u"KD2_drive, KD3_drive"_s,
+        u"Unknown drive type 'kd2_drive'; the drive is read as 'KD3_drive'."_s, u"kd2_drive"_s,
+        u"KD2_drive, KD3_drive"_s, u"Write 'KD2_drive'; upper and lower case are distinguished."_s);
+    row("drive-type-undefined",
+        u"The type of the drive is 'Undefined'; it is read as 'KD3_drive'."_s, u"UNKNOWN_drive"_s,
+        u"KD2_drive, KD3_drive"_s,
         u"Write 'KD2_drive' or 'KD3_drive'; the drive is read as 'KD3_drive'."_s);
-    row("drive-number-too-high", u"'256' is no number of a drive."_s, u"256"_s,
-        u"a number from 0 to 254"_s,
-        u"The drive is read with the next number that no other drive has."_s);
-    row("drive-number-unassigned", u"'255' is no number of a drive."_s, u"255"_s,
+    row("drive-number-too-high", u"'256' is not a valid drive number."_s, u"256"_s,
+        u"a number from 0 to 254"_s, u"The drive is read with the next free number."_s);
+    row("drive-number-unassigned", u"'255' is not a valid drive number."_s, u"255"_s,
         u"a number from 0 to 254"_s, u"This number means that no number is assigned."_s);
-    row("drive-number-twice", u"The number 0 is also that of drive[0]."_s, u"00"_s,
-        u"a number of its own"_s,
-        u"The drive is read with the next number that no other drive has."_s);
-    row("class-in-capitals", u"There is no device class 'KD3'; it is read as 'Undefined'."_s,
-        u"KD3"_s, u"kc2, kd3"_s, u"Write 'kd3': capital and small letters matter."_s);
-    row("class-unknown", u"There is no device class 'kd4'; it is read as 'Undefined'."_s, u"kd4"_s,
+    row("drive-number-twice", u"The drive number 0 is already used by drive[0]."_s, u"00"_s,
+        u"a unique number"_s, u"The drive is read with the next free number."_s);
+    row("class-in-capitals", u"Unknown device class 'KD3'; it is read as 'Undefined'."_s, u"KD3"_s,
+        u"kc2, kd3"_s, u"Write 'kd3'; upper and lower case are distinguished."_s);
+    row("class-unknown", u"Unknown device class 'kd4'; it is read as 'Undefined'."_s, u"kd4"_s,
         u"kc2, kd3"_s,
-        u"Write 'kc2' or 'kd3', in small letters; anything else is read as 'Undefined'."_s);
+        u"Write 'kc2' or 'kd3' in lower case; anything else is read as 'Undefined'."_s);
     row("version-later", u"The document was created with a later version."_s, u"1.10"_s, u"1.0"_s,
-        u"The document is read as one of version 1.0; save it anew with this version."_s);
+        u"The document is read as version 1.0; save it again with this version."_s);
     row("version-previous", u"The document was created with a previous version."_s, u"0.9"_s,
-        u"1.0"_s, u"The document is read as one of version 1.0; save it anew with this version."_s);
-    row("element-in-other-case", u"There is no element 'busId'; nobody reads it."_s, u"busId"_s,
+        u"1.0"_s, u"The document is read as version 1.0; save it again with this version."_s);
+    row("element-in-other-case", u"Unknown element 'busId'; it is ignored."_s, u"busId"_s,
         u"HardwareId, Name, Comment, DriveNo, BusId, Param, KD2Param, KD2Logic, KD2Firmware"_s,
-        u"Write 'BusId': capital and small letters matter."_s);
-    row("element-in-a-text", u"There is no element 'b'; nobody reads it."_s, u"b"_s,
-        u"nothing but text"_s, u"Remove the element, or mend its name."_s);
-    row("element-misplaced", u"'Options' is not looked for in 'Device'."_s, u"Options"_s,
-        u"in Config"_s, u"Move the element to where it belongs, or remove it."_s);
-    row("root-in-root", u"'VornDeviceConfig' is not looked for in 'VornDeviceConfig'."_s,
+        u"Write 'BusId'; upper and lower case are distinguished."_s);
+    row("element-in-a-text", u"Unknown element 'b'; it is ignored."_s, u"b"_s, u"only text"_s,
+        u"Remove the element, or correct its name."_s);
+    row("element-misplaced", u"'Options' does not belong in 'Device'; it is ignored."_s,
+        u"Options"_s, u"in Config"_s, u"Move the element to where it belongs, or remove it."_s);
+    row("root-in-root",
+        u"'VornDeviceConfig' does not belong in 'VornDeviceConfig'; it is ignored."_s,
         u"VornDeviceConfig"_s, u"at the top of the document"_s,
         u"Move the element to where it belongs, or remove it."_s);
-    row("text-between-elements", u"'Config' has a text of its own, which nobody reads."_s,
-        u"-trace"_s, u"nothing but elements"_s,
-        u"Remove the text, or put it into the element for which it is meant."_s);
-    row("attribute-unknown", u"The element 'Config' has no attribute 'mode'; nobody reads it."_s,
+    row("text-between-elements", u"'Config' contains text, which is ignored."_s, u"-trace"_s,
+        u"only elements"_s,
+        u"Remove the text, or move it into the element for which it is meant."_s);
+    row("attribute-unknown", u"Unknown attribute 'mode' of the element 'Config'; it is ignored."_s,
         u"mode=\"fast\""_s, u""_s, u"Remove the attribute."_s);
     row("opc-ua-flag-in-capitals", u"'TRUE' is neither true nor false; it is read as false."_s,
-        u"TRUE"_s, u"true, false"_s, u"Write 'true': capital and small letters matter."_s);
+        u"TRUE"_s, u"true, false"_s, u"Write 'true'; upper and lower case are distinguished."_s);
     row("plugin-without-version", u"The plug-in 'motion' has no version."_s, u""_s,
-        u"numbers with dots between them, like 1.3"_s, u"Its file would be 'pi_motion.so.'."_s);
+        u"numbers separated by dots, such as 1.3"_s,
+        u"The file name of the plug-in would be 'pi_motion.so.'."_s);
     row("device-path-without-slash",
         u"The directory 'velkor/recipes/' does not begin with a slash."_s, u"velkor/recipes/"_s,
         u"/velkor/recipes/"_s, u"It is read as '/velkor/recipes/'."_s);
@@ -806,19 +807,20 @@ void tst_CConfigurationCheck::texts_data()
         u"The directory '/velkor/configurations/production/conf/' belongs to the configuration "
         "'production'."_s,
         u"/velkor/configurations/production/conf/"_s, u"a directory of 'production(2)'"_s,
-        u"Was the configuration renamed? Then the directory has to follow."_s);
+        u"If the configuration was renamed, change the directory accordingly."_s);
     row("two-files-in-one-place",
-        u"The file 'recipes.csv' has the same place on the device as that of files[recipes.csv]."_s,
-        u"/velkor/recipes/recipes.csv"_s, u"a place of its own"_s,
-        u"The one that is transferred last overwrites the other one."_s);
+        u"The file 'recipes.csv' has the same place on the device as the file of "
+        u"files[recipes.csv]."_s,
+        u"/velkor/recipes/recipes.csv"_s, u"a unique place"_s,
+        u"The file that is transferred last overwrites the other one."_s);
     row("hardware-id-other-platform",
-        u"The hardware identity 'KD3:Controller 8A:4:7:9' does not fit that of the device."_s,
+        u"The hardware identity 'KD3:Controller 8A:4:7:9' does not match that of the device."_s,
         u"KD3:Controller 8A:4:7:9"_s, u"prefix, name and platform of 'KD3:Controller 8A:3:2:1'"_s,
-        u"Prefix, name and platform of a drive are those of its device; version and revision may "
-        u"differ. Was the drive copied from another device?"_s);
-    row("options-on-lines", u"Options are separated by something other than a blank."_s, u"\n"_s,
-        u"options like -trace with one blank between each two"_s,
-        u"The device takes this for one word."_s);
+        u"A drive must have the prefix, name and platform of its device; version and revision "
+        u"may differ. Check whether the drive was copied from another device."_s);
+    row("options-on-lines", u"Options are separated by something other than a space."_s, u"\n"_s,
+        u"options such as -trace, separated by single spaces"_s,
+        u"The device reads this as one word."_s);
 }
 
 void tst_CConfigurationCheck::texts()

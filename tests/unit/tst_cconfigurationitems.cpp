@@ -267,83 +267,89 @@ void tst_CConfigurationItems::refusedPaths_data()
     const auto row = [](const char *name, const char *path, const char *errorText) {
         QTest::newRow(name) << QString::fromUtf8(path) << QString::fromUtf8(errorText);
     };
-    row("empty", "", "'' is no path: a word is missing at character 1");
-    row("dot alone", ".", "'.' is no path: a word is missing at character 1");
-    row("dot at the start", ".device", "'.device' is no path: a word is missing at character 1");
-    row("dot at the end", "device.", "'device.' is no path: a word is missing at character 8");
-    row("two dots", "device..name", "'device..name' is no path: a word is missing at character 8");
-    row("bracket alone", "[", "'[' is no path: a word is missing at character 1");
-    row("key alone", "[a]", "'[a]' is no path: a word is missing at character 1");
+    row("empty", "", "'' is not a valid path: a word is missing at character 1");
+    row("dot alone", ".", "'.' is not a valid path: a word is missing at character 1");
+    row("dot at the start", ".device",
+        "'.device' is not a valid path: a word is missing at character 1");
+    row("dot at the end", "device.",
+        "'device.' is not a valid path: a word is missing at character 8");
+    row("two dots", "device..name",
+        "'device..name' is not a valid path: a word is missing at character 8");
+    row("bracket alone", "[", "'[' is not a valid path: a word is missing at character 1");
+    row("key alone", "[a]", "'[a]' is not a valid path: a word is missing at character 1");
     row("closing bracket in a word", "files]",
-        "'files]' is no path: a '.' is missing at character 6");
-    row("open key", "files[a", "'files[a' is no path: a ']' is missing at character 8");
-    row("open empty key", "files[", "'files[' is no path: a ']' is missing at character 7");
-    row("escaped end", "files[a\\]", "'files[a\\]' is no path: a ']' is missing at character 10");
+        "'files]' is not a valid path: a '.' is missing at character 6");
+    row("open key", "files[a", "'files[a' is not a valid path: a ']' is missing at character 8");
+    row("open empty key", "files[",
+        "'files[' is not a valid path: a ']' is missing at character 7");
+    row("escaped end", "files[a\\]",
+        "'files[a\\]' is not a valid path: a ']' is missing at character 10");
     row("escape of nothing", "files[a\\",
-        "'files[a\\' is no path: only ']' and '\\' can stand behind a '\\' at character 9");
+        "'files[a\\' is not a valid path: only ']' and '\\' can follow a '\\' at character 9");
     row("escape of a letter", "files[a\\b]",
-        "'files[a\\b]' is no path: only ']' and '\\' can stand behind a '\\' at character 9");
+        "'files[a\\b]' is not a valid path: only ']' and '\\' can follow a '\\' at character 9");
     row("text behind a key", "files[a]name",
-        "'files[a]name' is no path: a '.' is missing at character 9");
+        "'files[a]name' is not a valid path: a '.' is missing at character 9");
     row("third bracket", "files[a][2][2]",
-        "'files[a][2][2]' is no path: a '.' is missing at character 12");
+        "'files[a][2][2]' is not a valid path: a '.' is missing at character 12");
     const char *const counts[] = {"", "0", "1", "-2", "+2", "02", " 2", "2 ", "a", "2147483648"};
     for (const char *count : counts) {
         const QByteArray path = QByteArray("files[a][") + count + "]";
         row(("count '" + QByteArray(count) + "'").constData(), path.constData(),
             ("'" + path
-             + "' is no path: behind a key only a number from 2 on can stand in brackets at "
-               "character 10")
+             + "' is not a valid path: after a key, brackets can only contain a number from 2 on "
+               "at character 10")
                 .constData());
     }
-    row("open count", "files[a][2", "'files[a][2' is no path: a ']' is missing at character 10");
+    row("open count", "files[a][2",
+        "'files[a][2' is not a valid path: a ']' is missing at character 10");
 
     row("unknown word", "colour",
-        "colour: there is no such item; there are description, device, drive, files");
+        "colour: unknown item; expected is one of description, device, drive, files");
     row("unknown word below", "drive[0].colour",
-        "drive[0].colour: there is no such item; there are driveNo, type, hardwareId, name, "
+        "drive[0].colour: unknown item; expected is one of driveNo, type, hardwareId, name, "
         "comment, busId, param");
     row("unknown word of a KD2 drive", "drive[2].colour",
-        "drive[2].colour: there is no such item; there are driveNo, type, hardwareId, name, "
+        "drive[2].colour: unknown item; expected is one of driveNo, type, hardwareId, name, "
         "comment, busId, param, kd2Param, kd2Logic, kd2Firmware");
     row("letter missing", "device.coment",
-        "device.coment: there is no such item; did you mean device.comment?");
+        "device.coment: unknown item; did you mean device.comment?");
     row("other capitals", "device.hardwareID",
-        "device.hardwareID: there is no such item; did you mean device.hardwareId?");
-    row("plural", "drives[0]", "drives[0]: there is no such item; did you mean drive?");
+        "device.hardwareID: unknown item; did you mean device.hardwareId?");
+    row("plural", "drives[0]", "drives[0]: unknown item; did you mean drive?");
     row("nearer of two", "device.opcUaFile",
-        "device.opcUaFile: there is no such item; did you mean device.opcUaFiles?");
+        "device.opcUaFile: unknown item; did you mean device.opcUaFiles?");
     row("short word", "drive[0].x.y",
-        "drive[0].x: there is no such item; there are driveNo, type, hardwareId, name, comment, "
+        "drive[0].x: unknown item; expected is one of driveNo, type, hardwareId, name, comment, "
         "busId, param");
-    row("below an item", "device.name.x", "device.name.x: there is no such item");
-    row("below a key", "files[recipes.csv].name.x",
-        "files[recipes.csv].name.x: there is no such item");
-    row("blank", "device. name", "device. name: there is no such item; did you mean device.name?");
+    row("below an item", "device.name.x", "device.name.x: unknown item");
+    row("below a key", "files[recipes.csv].name.x", "files[recipes.csv].name.x: unknown item");
+    row("blank", "device. name", "device. name: unknown item; did you mean device.name?");
     row("key behind an item", "device.name[3]",
-        "device.name[3]: name is no list, nothing can stand in brackets behind it");
+        "device.name[3]: name is not a list and takes no brackets");
     row("key behind a group", "device[0].name",
-        "device[0]: device is no list, nothing can stand in brackets behind it");
+        "device[0]: device is not a list and takes no brackets");
     row("list without key", "files.comment",
-        "files.comment: an entry of the list must be named, as in files[…]");
+        "files.comment: name an entry of the list, as in files[…]");
     row("list in a group without key", "device.plugins.version",
-        "device.plugins.version: an entry of the list must be named, as in device.plugins[…]");
+        "device.plugins.version: name an entry of the list, as in device.plugins[…]");
 
-    row("no such drive", "drive[7]", "drive[7]: there is no such drive");
-    row("no such second drive", "drive[0][2].name", "drive[0][2]: there is no such drive");
-    row("no such number", "drive[x].name", "drive[x]: there is no such drive");
-    row("no such file", "files[x].comment", "files[x]: there is no such file");
+    row("no such drive", "drive[7]", "drive[7]: the drive does not exist");
+    row("no such second drive", "drive[0][2].name", "drive[0][2]: the drive does not exist");
+    row("no such number", "drive[x].name", "drive[x]: the drive does not exist");
+    row("no such file", "files[x].comment", "files[x]: the file does not exist");
     row("no such parameter file", "device.parameterFiles[x].type",
-        "device.parameterFiles[x]: there is no such parameter file");
-    row("no such image", "device.fpgaFiles[x]", "device.fpgaFiles[x]: there is no such FPGA image");
+        "device.parameterFiles[x]: the parameter file does not exist");
+    row("no such image", "device.fpgaFiles[x]",
+        "device.fpgaFiles[x]: the FPGA image does not exist");
     row("no such OPC UA file", "device.opcUaFiles[x].comment",
-        "device.opcUaFiles[x]: there is no such OPC UA file");
+        "device.opcUaFiles[x]: the OPC UA file does not exist");
     row("no such plug-in", "device.plugins[Motion].version",
-        "device.plugins[Motion]: there is no such plug-in");
+        "device.plugins[Motion]: the plug-in does not exist");
     row("no such option", "device.options[-TRACE]",
-        "device.options[-TRACE]: there is no such option");
+        "device.options[-TRACE]: the option does not exist");
     row("no such second option", "device.options[-trace][2]",
-        "device.options[-trace][2]: there is no such option");
+        "device.options[-trace][2]: the option does not exist");
 }
 
 void tst_CConfigurationItems::refusedPaths()
@@ -544,7 +550,7 @@ void tst_CConfigurationItems::whatIsNotThereIsNotListed()
     for (const QString &path :
          {u"device.comment"_s, u"device.activeFpgaFile"_s, u"device.dictionary"_s,
           u"device.dictionary.name"_s, u"device.faultTextFile"_s, u"description.name"_s}) {
-        const QString expected = path + u": the configuration does not have it"_s;
+        const QString expected = path + u": the configuration does not contain this item"_s;
         QVERIFY(!opened.items.contains(path));
         QCOMPARE(opened.items.errorText(), expected);
         QVERIFY(opened.items.items(path).isEmpty());
@@ -753,7 +759,7 @@ void tst_CConfigurationItems::values_data()
             << path << value << path + u": "_s + reason;
     };
     const QString date = u"description.creationDate"_s;
-    const QString noDate = u"'%1' is no date; one is written as 2026-11-21"_s;
+    const QString noDate = u"'%1' is not a valid date; write one such as 2026-11-21"_s;
     good(date, u""_s);
     good(date, u"2024-02-29"_s);
     for (const QString &value : {u"2025-02-29"_s, u"2026-1-2"_s, u"21.11.2026"_s, u"20261121"_s,
@@ -765,13 +771,13 @@ void tst_CConfigurationItems::values_data()
     }
     for (const QString &value : {u"KD3"_s, u""_s, u"kd4"_s, u"undefined"_s}) {
         bad(u"device.class"_s, value,
-            u"'%1' is no device class; there are kc2, kd3 and Undefined"_s.arg(value));
+            u"unknown device class '%1'; write kc2, kd3 or Undefined"_s.arg(value));
     }
     good(u"device.hardwareId"_s, u""_s);
     good(u"device.hardwareId"_s, u"A:B:65535:0:1"_s);
     for (const QString &value : {u"A"_s, u"A:B:1:2"_s, u"A:B:65536:0:1"_s, u"A:B:1:2:3:4"_s}) {
         bad(u"device.hardwareId"_s, value,
-            u"'%1' is no hardware identity; one is written as "
+            u"'%1' is not a valid hardware identity; write "
             "PREFIX:NAME:PLATFORM:VERSION:REVISION"_s.arg(value));
     }
     good(u"device.opcUaEnabled"_s, u"false"_s);
@@ -783,35 +789,35 @@ void tst_CConfigurationItems::values_data()
     for (const QString &value : {u"-1"_s, u"4294967296"_s, u""_s, u"+1"_s, u"1.0"_s, u"0x10"_s,
                                  u"007"_s, u" 7"_s, u"٣"_s, u"1,000"_s}) {
         bad(u"drive[0].busId"_s, value,
-            u"'%1' is no whole number from 0 to 4294967295"_s.arg(value));
+            u"'%1' is not a whole number from 0 to 4294967295"_s.arg(value));
     }
     good(u"device.plugins[motion].priority"_s, u"0"_s);
     good(u"device.plugins[motion].priority"_s, u"-2147483648"_s);
     good(u"device.plugins[motion].priority"_s, u"2147483647"_s);
     for (const QString &value : {u"2147483648"_s, u"-2147483649"_s, u""_s, u"high"_s, u"-0"_s}) {
         bad(u"device.plugins[motion].priority"_s, value,
-            u"'%1' is no whole number from -2147483648 to 2147483647"_s.arg(value));
+            u"'%1' is not a whole number from -2147483648 to 2147483647"_s.arg(value));
     }
     const QString paramType = u"device.parameterFiles[LineParams].type"_s;
     for (const QString &value : {u"KC2Parameters"_s, u"VornMotorParameters"_s, u"Undefined"_s}) {
         good(paramType, value);
     }
     for (const QString &value : {u"vornparameters"_s, u""_s, u"10"_s}) {
-        bad(paramType, value, u"'%1' is no type of parameter files"_s.arg(value));
+        bad(paramType, value, u"unknown parameter file type '%1'"_s.arg(value));
     }
     good(u"drive[0].type"_s, u"KD2_drive"_s);
     for (const QString &value : {u"UNKNOWN_drive"_s, u"kd2_drive"_s, u""_s}) {
         bad(u"drive[0].type"_s, value,
-            u"'%1' is no type of drives; there are KD2_drive and KD3_drive"_s.arg(value));
+            u"unknown drive type '%1'; write KD2_drive or KD3_drive"_s.arg(value));
     }
     const QString option = u"device.options[-trace]"_s;
     good(option, u"a b=-1 c-d"_s);
     for (const QString &value : {u"-1"_s, u"a -b"_s, u"-"_s}) {
         bad(option, value,
-            u"in '%1' a word begins with '-', which would be an option"_s.arg(value));
+            u"a word in '%1' begins with '-' and would be read as an option"_s.arg(value));
     }
     for (const QString &value : {u" a"_s, u"a  b"_s, u"a\tb"_s, u"a\n"_s, u" "_s}) {
-        bad(option, value, u"the words of an argument are separated by single blanks"_s);
+        bad(option, value, u"separate the words of an argument by single spaces"_s);
     }
     for (const QString &value : {u""_s, u" "_s, u"\t\r\n"_s, u"]]> &amp; <"_s, u"\U0001F600"_s}) {
         good(u"device.comment"_s, value);
@@ -830,11 +836,12 @@ void tst_CConfigurationItems::values_data()
     bad(u"drive[0].param.deviceDir"_s, u"a\u0001"_s, reason.arg(u"0001"_s));
     bad(u"files[recipes.csv].name"_s, u"a\u0001"_s, reason.arg(u"0001"_s));
 
-    bad(u"device.activeFpgaFile"_s, u""_s, u"a name must not be empty"_s);
-    bad(u"device.fpgaFiles[kd3_motion_v11.bit]"_s, u"x"_s, u"this has no value of its own"_s);
+    bad(u"device.activeFpgaFile"_s, u""_s, u"the name must not be empty"_s);
+    bad(u"device.fpgaFiles[kd3_motion_v11.bit]"_s, u"x"_s,
+        u"this path does not lead to a single value"_s);
     for (const QString &path : {u"device"_s, u"files"_s, u"files[recipes.csv]"_s,
                                 u"device.dictionary"_s, u"device.options"_s}) {
-        bad(path, u"x"_s, u"this has no value of its own"_s);
+        bad(path, u"x"_s, u"this path does not lead to a single value"_s);
     }
 }
 
@@ -987,32 +994,34 @@ void tst_CConfigurationItems::rename_data()
     const QString drive = u"drive[1].driveNo"_s;
     const QString option = u"device.options[-trace].name"_s;
     row(file, u"new ].csv"_s, QString());
-    row(file, QString(), u"files[recipes.csv].name: a name must not be empty"_s);
+    row(file, QString(), u"files[recipes.csv].name: the name must not be empty"_s);
     row(u"device.parameterFiles[options].name"_s, u"Other"_s, QString());
     row(u"device.parameterFiles[options].name"_s, u"LineParams"_s,
-        u"device.parameterFiles[LineParams]: there is such a parameter file already"_s);
+        u"device.parameterFiles[LineParams]: the parameter file already exists"_s);
     row(u"device.fpgaFiles[kd3_motion_v11.bit].name"_s, u"x.bit"_s, QString());
     row(u"device.fpgaFiles[kd3_motion_v11.bit].name"_s, u"kd3_motion_v12.bit"_s,
-        u"device.fpgaFiles[kd3_motion_v12.bit]: there is such an FPGA image already"_s);
+        u"device.fpgaFiles[kd3_motion_v12.bit]: the FPGA image already exists"_s);
     row(u"device.opcUaFiles[kd3NodeSet.xml].name"_s, u"x.xml"_s, QString());
     row(u"device.opcUaFiles[kd3NodeSet.xml].name"_s, u"kd3SubSystem.xml"_s,
-        u"device.opcUaFiles[kd3SubSystem.xml]: there is such an OPC UA file already"_s);
+        u"device.opcUaFiles[kd3SubSystem.xml]: the OPC UA file already exists"_s);
     row(u"device.plugins[motion].name"_s, u"m"_s, QString());
     row(u"device.plugins[motion].name"_s, u"CECatMaster"_s,
-        u"device.plugins[CECatMaster]: there is such a plug-in already"_s);
+        u"device.plugins[CECatMaster]: the plug-in already exists"_s);
     row(option, u"-t"_s, QString());
-    row(option, u"-opc"_s, u"device.options[-opc]: there is such an option already"_s);
+    row(option, u"-opc"_s, u"device.options[-opc]: the option already exists"_s);
     for (const QString &value : {u"t"_s, u"-"_s, u"-a b"_s, u""_s, u"-a\t"_s}) {
         row(option, value,
-            option + u": '%1' is no option; one is a word that begins with '-'"_s.arg(value));
+            option
+                + u": '%1' is not a valid option; write a word that begins with '-'"_s.arg(value));
     }
     row(drive, u"1"_s, QString());
     row(drive, u"3"_s, QString());
     row(drive, u"254"_s, QString());
-    row(drive, u"2"_s, u"drive[2]: there is such a drive already"_s);
+    row(drive, u"2"_s, u"drive[2]: the drive already exists"_s);
     for (const QString &value : {u"255"_s, u"-1"_s, u""_s, u"03"_s, u"x"_s, u" 3"_s}) {
         row(drive, value,
-            drive + u": '%1' is no drive number; one is a number from 0 to 254"_s.arg(value));
+            drive
+                + u": '%1' is not a valid drive number; write a number from 0 to 254"_s.arg(value));
     }
 }
 
@@ -1308,31 +1317,32 @@ void tst_CConfigurationItems::failuresChangeNothing_data()
         QTest::newRow(qPrintable((isAdding ? u"add "_s : u"remove "_s) + path))
             << isAdding << path << path + u": "_s + reason;
     };
-    row(true, u"device.name"_s, u"only entries of lists can be added"_s);
-    row(true, u"device.dictionary"_s, u"only entries of lists can be added"_s);
-    row(true, u"files"_s, u"only entries of lists can be added"_s);
-    row(true, u"files[recipes.csv].comment"_s, u"only entries of lists can be added"_s);
-    row(true, u"files[]"_s, u"a name must not be empty"_s);
+    row(true, u"device.name"_s, u"only list entries can be added"_s);
+    row(true, u"device.dictionary"_s, u"only list entries can be added"_s);
+    row(true, u"files"_s, u"only list entries can be added"_s);
+    row(true, u"files[recipes.csv].comment"_s, u"only list entries can be added"_s);
+    row(true, u"files[]"_s, u"the name must not be empty"_s);
     row(true, u"files[a\u0001]"_s, u"the character U+0001 cannot be stored in a configuration"_s);
-    row(true, u"files[recipes.csv]"_s, u"there is such a file already"_s);
-    row(true, u"files[recipes.csv][2]"_s, u"a second entry of the same key cannot be added"_s);
-    row(true, u"drive[0]"_s, u"there is such a drive already"_s);
-    row(true, u"drive[255]"_s, u"'255' is no drive number; one is a number from 0 to 254"_s);
-    row(true, u"drive[x]"_s, u"'x' is no drive number; one is a number from 0 to 254"_s);
-    row(true, u"drive[]"_s, u"'' is no drive number; one is a number from 0 to 254"_s);
-    row(true, u"device.options[-opc]"_s, u"there is such an option already"_s);
+    row(true, u"files[recipes.csv]"_s, u"the file already exists"_s);
+    row(true, u"files[recipes.csv][2]"_s, u"a second entry with the same key cannot be added"_s);
+    row(true, u"drive[0]"_s, u"the drive already exists"_s);
+    row(true, u"drive[255]"_s,
+        u"'255' is not a valid drive number; write a number from 0 to 254"_s);
+    row(true, u"drive[x]"_s, u"'x' is not a valid drive number; write a number from 0 to 254"_s);
+    row(true, u"drive[]"_s, u"'' is not a valid drive number; write a number from 0 to 254"_s);
+    row(true, u"device.options[-opc]"_s, u"the option already exists"_s);
     row(true, u"device.options[opc]"_s,
-        u"'opc' is no option; one is a word that begins with '-'"_s);
-    row(true, u"device.plugins[motion]"_s, u"there is such a plug-in already"_s);
+        u"'opc' is not a valid option; write a word that begins with '-'"_s);
+    row(true, u"device.plugins[motion]"_s, u"the plug-in already exists"_s);
 
-    const QString noItem = u"only single items, entries and files can be removed"_s;
+    const QString noItem = u"only single items, list entries and files can be removed"_s;
     for (const QString &path : {u"device"_s, u"description"_s, u"files"_s, u"drive"_s,
                                 u"device.options"_s, u"device.plugins"_s}) {
         row(false, path, noItem);
     }
-    row(false, u"files[recipes.csv].name"_s, u"the entry cannot be without it"_s);
-    row(false, u"drive[0].driveNo"_s, u"the entry cannot be without it"_s);
-    row(false, u"device.options[-opc].name"_s, u"the entry cannot be without it"_s);
+    row(false, u"files[recipes.csv].name"_s, u"the entry cannot exist without this item"_s);
+    row(false, u"drive[0].driveNo"_s, u"the entry cannot exist without this item"_s);
+    row(false, u"device.options[-opc].name"_s, u"the entry cannot exist without this item"_s);
 }
 
 void tst_CConfigurationItems::failuresChangeNothing()
@@ -1372,7 +1382,7 @@ void tst_CConfigurationItems::withoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     CConfigurationItems items(file);
-    const QString expected = u"There is no configuration."_s;
+    const QString expected = u"The document contains no configuration."_s;
     QVERIFY(items.items().isEmpty());
     QVERIFY(items.entries().isEmpty());
     QVERIFY(items.items(u"device"_s).isEmpty());

@@ -339,17 +339,17 @@ void tst_CConfigurationPatch::refused_data()
     row("item twice",
         withChange("\"change\":\"addEntry\",\"path\":\"files[a]\",\"items\":["
                    "{\"item\":\"a\",\"value\":\"1\"},{\"item\":\"a\",\"value\":\"2\"}]"),
-        "The item \"a\" is told twice");
+        "The item \"a\" occurs more than once");
     row("path twice",
         withChange("\"change\":\"removeItem\",\"path\":\"device.name\",\"before\":\"a\"},"
                    "{\"change\":\"removeItem\",\"path\":\"device.name\",\"before\":\"a\""),
-        "Change 2: \"device.name\" was changed before");
+        "Change 2: \"device.name\" is changed more than once");
     for (const char *path :
          {"", ".", "device.", ".name", "files[", "files[a", "files[a\\\\", "files[a]b", "files[a].",
           "files[a][1]", "files[a][02]", "files[a][x]", "files[a][2", "files[a][99999999999]"}) {
         QTest::addRow("no path: %s", path) << withChange("\"change\":\"removeItem\",\"path\":\""
                                                          + QByteArray(path) + "\",\"before\":\"a\"")
-                                           << u"is no path"_s;
+                                           << u"is not a valid path"_s;
     }
 }
 
@@ -473,15 +473,15 @@ void tst_CConfigurationPatch::mismatch_data()
     row("other value of what is removed", cleared(u"device.comment"_s, u"x"_s),
         u"device: comment is Folding box line 4, hall B, but x is expected."_s);
     row("no such drive", set(u"drive[3].name"_s, QString(), u"GRIPPER"_s),
-        u"drive 3 is not there."_s);
-    row("drive to remove is not there", removed(u"drive[3]"_s), u"drive 3 is not there."_s);
+        u"drive 3 does not exist."_s);
+    row("drive to remove is not there", removed(u"drive[3]"_s), u"drive 3 does not exist."_s);
     row("second entry of a name", removed(u"files[recipes.csv][2]"_s),
-        u"file recipes.csv [2] is not there."_s);
-    row("drive to add is there", added(u"drive[2]"_s), u"drive 2 is there already."_s);
+        u"file recipes.csv [2] does not exist."_s);
+    row("drive to add is there", added(u"drive[2]"_s), u"drive 2 already exists."_s);
     row("single file to add is there", added(u"device.dictionary"_s),
-        u"object dictionary is there already."_s);
+        u"object dictionary already exists."_s);
     row("single file to remove is not there", removed(u"drive[0].kd2Param"_s),
-        u"drive 0: KD2 parameter file is not there."_s);
+        u"drive 0: KD2 parameter file does not exist."_s);
     row("other item of what is removed",
         removed(u"device.plugins[motion]"_s, {{u"priority"_s, u"20"_s}, {u"version"_s, u"3"_s}}),
         u"plug-in motion: version is 2, but 3 is expected."_s);
@@ -490,28 +490,28 @@ void tst_CConfigurationPatch::mismatch_data()
         u"plug-in motion: version is 2, but (empty) is expected."_s);
     row("FPGA image to activate is not there",
         set(u"device.activeFpgaFile"_s, u"kd3_motion_v12.bit"_s, u"x.bit"_s),
-        u"there is no such FPGA image"_s);
-    row("no such item", set(u"device.nme"_s, QString(), u"x"_s), u"there is no such item"_s);
+        u"the FPGA image does not exist"_s);
+    row("no such item", set(u"device.nme"_s, QString(), u"x"_s), u"unknown item"_s);
     row("no class", set(u"device.class"_s, u"kd3"_s, u"kd9"_s), u"'kd9' is no device class"_s);
     row("no text", set(u"device.name"_s, u"PackagingLine"_s, u"a\u0001"_s),
         u"the character U+0001 cannot be stored"_s);
     row("no text of an entry", added(u"files[a]"_s, {{u"comment"_s, QString(QChar(0xd800))}}),
         u"the character U+D800 cannot be stored"_s);
     row("no number", added(u"device.plugins[a]"_s, {{u"priority"_s, u"1e9"_s}}),
-        u"'1e9' is no whole number"_s);
+        u"'1e9' is not a whole number"_s);
     row("no drive number", added(u"drive[255]"_s), u"'255' is no drive number"_s);
     row("no option", added(u"device.options[trace]"_s), u"'trace' is no option"_s);
-    row("empty name", added(u"files[]"_s), u"a name must not be empty"_s);
+    row("empty name", added(u"files[]"_s), u"the name must not be empty"_s);
     row("second of one name", added(u"files[recipes.csv][2]"_s),
-        u"a second entry of the same key cannot be added"_s);
+        u"a second entry with the same key cannot be added"_s);
     row("item that no such entry has", added(u"files[a]"_s, {{u"busId"_s, u"1"_s}}),
-        u"there is no such item"_s);
+        u"unknown item"_s);
     row("KD2 file of a KD3 drive", added(u"drive[0].kd2Logic"_s, {{u"name"_s, u"l"_s}}),
         u"only a drive of the type KD2_drive has this file"_s);
-    row("list to remove", removed(u"device.options"_s), u"options is not there."_s);
-    row("no path", removed(u"files[a"_s), u"'files[a' is no path."_s);
-    row("no list", removed(u"spare[a]"_s), u"spare a is not there."_s);
-    row("list to add to", added(u"spare[a]"_s), u"there is no such item"_s);
+    row("list to remove", removed(u"device.options"_s), u"options does not exist."_s);
+    row("no path", removed(u"files[a"_s), u"'files[a' is not a valid path."_s);
+    row("no list", removed(u"spare[a]"_s), u"spare a does not exist."_s);
+    row("list to add to", added(u"spare[a]"_s), u"unknown item"_s);
 }
 
 void tst_CConfigurationPatch::mismatch()
@@ -541,7 +541,7 @@ void tst_CConfigurationPatch::everyMismatchIsTold()
     QVERIFY(!patch.apply(*file, mismatches));
     QCOMPARE(
         mismatches,
-        QStringList({u"drive 2: name is Gluer, but a is expected."_s, u"file x is not there."_s,
+        QStringList({u"drive 2: name is Gluer, but a is expected."_s, u"file x does not exist."_s,
                      u"plug-in motion: priority is 20, but 1 is expected."_s,
                      u"plug-in motion: version is 2, but (empty) is expected."_s}));
 }
@@ -561,7 +561,7 @@ void tst_CConfigurationPatch::withoutDocument()
     CDeviceConfigurationFile10 file(nullptr);
     QStringList mismatches;
     QVERIFY(!patchOf({}).apply(file, mismatches));
-    QCOMPARE(mismatches, QStringList{u"There is no configuration."_s});
+    QCOMPARE(mismatches, QStringList{u"The document contains no configuration."_s});
 }
 
 void tst_CConfigurationPatch::emptyPatch()

@@ -201,9 +201,11 @@ private slots:
             "sum");
         row("a sum with a wide digit",
             manifestOf("", file("a", "", "1", QByteArray("\xEF\xBC\x91") + Sum.mid(1))), "sum");
-        row("a file twice", manifestOf("", file("a") + ',' + file("a")), "\"a\" is there twice");
-        row("a directory twice", manifestOf(R"("a","a")", ""), "\"a\" is there twice");
-        row("a file and a directory", manifestOf(R"("a")", file("a")), "\"a\" is there twice");
+        row("a file twice", manifestOf("", file("a") + ',' + file("a")),
+            "\"a\" occurs more than once");
+        row("a directory twice", manifestOf(R"("a","a")", ""), "\"a\" occurs more than once");
+        row("a file and a directory", manifestOf(R"("a")", file("a")),
+            "\"a\" occurs more than once");
         row("a file in a file", manifestOf("", file("a") + ',' + file("a-b") + ',' + file("a/b")),
             "\"a\" is both");
         row("a directory in a file", manifestOf(R"("a/b/c")", file("a/b")), "\"a/b\" is both");

@@ -133,14 +133,13 @@ void tst_VrnDeviceCheck::textOfAFinding()
 {
     const QString path = dataFile(u"invalid/class-in-capitals"_s);
     const SResult result = check({path});
-    QCOMPARE(result.output,
-             path
-                 + u":18:3: error: There is no device class 'KD3'; it is read as 'Undefined'. "
-                   "[device-class-unknown]\n"
-                   "    item: device.class\n"
-                   "    expected: kc2, kd3\n"
-                   "    hint: Write 'kd3': capital and small letters matter.\n"
-                   "1 error, 0 warnings in 1 file\n"_s);
+    QCOMPARE(
+        result.output,
+        path
+            + u":18:3: error: Unknown device class 'KD3'; it is read as 'Undefined'. "
+              "[device-class-unknown]\n    item: device.class\n    expected: kc2, kd3\n    "
+              "hint: Write 'kd3'; upper and lower case are distinguished.\n1 error, 0 warnings "
+              "in 1 file\n"_s);
     QCOMPARE(result.errors, QString());
 
     const SResult found = check({dataFile(u"invalid/attribute-unknown"_s)});
@@ -154,8 +153,9 @@ void tst_VrnDeviceCheck::textOfAFindingWithoutPosition()
     const QString path = dataFile(u"valid/minimal"_s);
     const SResult result = check({path, u"--project"_s, directory.path()});
     QCOMPARE(result.exitCode, 1);
-    QVERIFY2(result.output.startsWith(path + u": error: The project's manifest cannot be read: "_s),
-             qPrintable(result.output));
+    QVERIFY2(
+        result.output.startsWith(path + u": error: The manifest of the project cannot be read: "_s),
+        qPrintable(result.output));
 }
 
 void tst_VrnDeviceCheck::summary()
@@ -252,7 +252,7 @@ void tst_VrnDeviceCheck::projectThatIsNone()
     const SResult result = check({dataFile(u"valid/complete"_s), u"--project"_s, u"/nowhere"_s});
     QCOMPARE(result.exitCode, 3);
     QCOMPARE(result.output, QString());
-    QCOMPARE(result.errors, u"vrndevice: error: /nowhere: There is no such directory.\n"_s);
+    QCOMPARE(result.errors, u"vrndevice: error: /nowhere: The directory does not exist.\n"_s);
 }
 
 void tst_VrnDeviceCheck::json()
@@ -265,10 +265,10 @@ void tst_VrnDeviceCheck::json()
         {u"item"_s, u"description.revisionDate"_s},
         {u"line"_s, 14},
         {u"column"_s, 3},
-        {u"message"_s, u"The configuration was revised before it was created."_s},
+        {u"message"_s, u"The revision date is earlier than the creation date."_s},
         {u"found"_s, u"2026-03-01"_s},
         {u"expected"_s, u"2026-03-02 or later"_s},
-        {u"hint"_s, u"One of the two dates is wrong, or they are interchanged."_s}};
+        {u"hint"_s, u"Correct the wrong date; the two dates may be interchanged."_s}};
     const QJsonObject expected = {
         {u"files"_s,
          QJsonArray{

@@ -413,7 +413,7 @@ void tst_VrnDeviceReport::colours()
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output.contains(Escape), expected);
     QCOMPARE(result.output.contains(u"\x1b[31merror:\x1b[0m"_s), expected);
-    QCOMPARE(result.output.contains(u"\x1b[1mSub-devices\x1b[0m"_s), expected);
+    QCOMPARE(result.output.contains(u"\x1b[1mDrives\x1b[0m"_s), expected);
     QVERIFY(result.output.contains(u"drive-number-twice"_s));
 }
 
@@ -455,8 +455,8 @@ void tst_VrnDeviceReport::usage_data()
     QTest::newRow("JSON and page on standard output")
         << QStringList{u"report"_s, FileName, u"--json"_s, u"-o"_s, u"-"_s}
         << u"--json needs --output"_s;
-    QTest::newRow("output without a name")
-        << QStringList{u"report"_s, FileName, u"--output="_s} << u"--output names no file"_s;
+    QTest::newRow("output without a name") << QStringList{u"report"_s, FileName, u"--output="_s}
+                                           << u"The file name of --output is empty"_s;
     QTest::newRow("page in place of the configuration")
         << QStringList{u"report"_s, FileName, u"-o"_s, u"./"_s + FileName}
         << u"would overwrite the configuration"_s;
@@ -497,7 +497,7 @@ void tst_VrnDeviceReport::unreadableInput_data()
             << QStringList{command, u"-"_s} << u"could not be"_s;
         QTest::addRow("project is missing, %s", name.constData())
             << QStringList{command, FileName, u"--project"_s, u"missing"_s}
-            << u"There is no such directory"_s;
+            << u"The directory does not exist"_s;
     }
 }
 

@@ -105,19 +105,19 @@ void tst_vrndevice_smallfiles::usage_data()
     row(u"settings set settings.3conf --drive -1=x"_s, u"--drive must be"_s);
     row(u"settings set settings.3conf --drive x=x --name N"_s, u"--drive must be"_s);
     row(u"network set network.conf"_s, u"The argument KEY=VALUE is missing."_s);
-    row(u"network set network.conf MODE"_s, u"'MODE' is not KEY=VALUE"_s);
-    row(u"network set network.conf mode=DHCP"_s, u"mode: There is no such key"_s);
-    row(u"network set network.conf MODE=UNKNOWN"_s, u"MODE: 'UNKNOWN' is none of"_s);
+    row(u"network set network.conf MODE"_s, u"'MODE' does not have the form KEY=VALUE"_s);
+    row(u"network set network.conf mode=DHCP"_s, u"mode: Unknown key"_s);
+    row(u"network set network.conf MODE=UNKNOWN"_s, u"MODE: 'UNKNOWN' is not one of"_s);
     row(u"network set network.conf MODE=DHCP ADDRESS=1.2.3"_s, u"ADDRESS: '1.2.3' is no IPv4"_s);
     row(u"network set network.conf ADDRESS="_s, u"ADDRESS: '' is no IPv4"_s);
     row(u"network set network.conf NETCON_PORT=65536"_s, u"NETCON_PORT: '65536' is no port"_s);
     row(u"network set network.conf KERNEL_LOGLEVEL=8"_s, u"KERNEL_LOGLEVEL: '8' is no"_s);
     row(u"module"_s, u"The argument NAME is missing."_s);
     row(u"message"_s, u"The argument CODE is missing."_s);
-    row(u"message 1024 400x"_s, u"'400x' is no code"_s);
-    row(u"message 4294968320"_s, u"'4294968320' is no code"_s);
-    row(u"message 0x"_s, u"'0x' is no code"_s);
-    row(u"message 4a"_s, u"'4a' is no code"_s);
+    row(u"message 1024 400x"_s, u"'400x' is not a valid code"_s);
+    row(u"message 4294968320"_s, u"'4294968320' is not a valid code"_s);
+    row(u"message 0x"_s, u"'0x' is not a valid code"_s);
+    row(u"message 4a"_s, u"'4a' is not a valid code"_s);
 }
 
 void tst_vrndevice_smallfiles::usage()
@@ -360,7 +360,7 @@ void tst_vrndevice_smallfiles::networkCheck()
     QVERIFY(text.errors.isEmpty());
     const QStringList lines = text.output.split(QLatin1Char('\n'));
     QCOMPARE(lines.size(), 3);
-    QCOMPARE(lines.at(0), u"network.conf:2: ADRESS: There is no such key."_s);
+    QCOMPARE(lines.at(0), u"network.conf:2: ADRESS: Unknown key."_s);
     QVERIFY(lines.at(1).startsWith(u"network.conf:4: GATEWAY: '1.2.300.1' is no IPv4 address"_s));
 
     const SResult json = run(u"network check network.conf --json"_s);
@@ -525,7 +525,8 @@ void tst_vrndevice_smallfiles::message_data()
     QTest::newRow("without text") << u"1030"_s << 0 << u"1030 (0x406): 1030\n"_s << QString();
     QTest::newRow("none, and one")
         << u"1023 1151"_s << 1 << u"1151 (0x47f): Signal 64: SIGRTMAX\n  Real-time 31 (Max).\n"_s
-        << u"vrndevice: error: 1023 is no system message: they are 1024 to 1151.\n"_s;
+        << u"vrndevice: error: 1023 is not the code of a system message; write a number from "
+           u"1024 to 1151.\n"_s;
 }
 
 void tst_vrndevice_smallfiles::message()

@@ -105,7 +105,7 @@ bool CConfigurationCheck::setProjectDirectory(const QString &directory)
     if (!directory.isEmpty() && !(info.isDir() && info.isReadable() && info.isExecutable())) {
         const QString shown = QDir::toNativeSeparators(directory);
         d->errorText = info.isDir() ? Texts::tr("%1: The directory cannot be read.").arg(shown)
-                                    : Texts::tr("%1: There is no such directory.").arg(shown);
+                                    : Texts::tr("%1: The directory does not exist.").arg(shown);
         return false;
     }
     d->projectDirectory = directory;

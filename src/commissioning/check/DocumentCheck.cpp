@@ -104,7 +104,7 @@ QString inWords(const QStringList &texts)
 
 QString caseHint(const QString &rightText)
 {
-    return Texts::tr("Write '%1': capital and small letters matter.").arg(rightText);
+    return Texts::tr("Write '%1'; upper and lower case are distinguished.").arg(rightText);
 }
 
 /** Of the texts that are allowed, the one meant by @p text; empty when there is none. */
@@ -184,9 +184,9 @@ QList<SConfigurationFinding> DocumentCheck::run()
     QString errorText;
     if (m_project != nullptr && !m_project->readManifest(errorText)) {
         report(MANIFEST_INVALID, SPlace(),
-               {Texts::tr("The project's manifest cannot be read: %1").arg(errorText),
-                CDeviceManifest::fileName(), Texts::tr("a manifest as it is made by staging"),
-                Texts::tr("Make the manifest anew; files are not compared with this one.")});
+               {Texts::tr("The manifest of the project cannot be read: %1").arg(errorText),
+                CDeviceManifest::fileName(), Texts::tr("a manifest written by staging"),
+                Texts::tr("Create the manifest again; the files are not compared with this one.")});
     }
     visit(m_file.domDocument().documentElement(), root(), QString());
     return m_findings;
@@ -198,8 +198,8 @@ void DocumentCheck::report(ERule rule, const SPlace &place, const SText &text)
         append(rule, place, text);
     } else if (m_findings.size() == MostFindings) {
         append(FINDINGS_LEFT_OUT, place,
-               {Texts::tr("There is more to be found; from here on it is left out."), QString(),
-                QString(), Texts::tr("Mend what is told, then check again.")});
+               {Texts::tr("Too many findings; the remaining ones are left out."), QString(),
+                QString(), Texts::tr("Correct the reported findings, then check again.")});
     }
 }
 
@@ -286,7 +286,7 @@ void DocumentCheck::checkStructure(const Fields &fields, const QString &item)
         }
         const QString wanted = meant(attribute.name(), type.attributes);
         report(ATTRIBUTE_UNKNOWN, {element, item},
-               {Texts::tr("The element '%1' has no attribute '%2'; nobody reads it.")
+               {Texts::tr("Unknown attribute '%2' of the element '%1'; it is ignored.")
                     .arg(type.tag, attribute.name()),
                 QStringLiteral("%1=\"%2\"").arg(attribute.name(), attribute.value()),
                 inWords(type.attributes),
@@ -303,7 +303,7 @@ void DocumentCheck::checkStructure(const Fields &fields, const QString &item)
             } else if (!type.children.at(index).isRepeated
                        && child != fields.element(child.tagName())) {
                 report(ELEMENT_REPEATED, {child, item},
-                       {Texts::tr("'%1' stands more than once in '%2'; only the first one is read.")
+                       {Texts::tr("'%1' occurs more than once in '%2'; only the first one is read.")
                             .arg(child.tagName(), type.tag),
                         child.tagName(), Texts::tr("one '%1'").arg(child.tagName()),
                         Texts::tr("Remove all but one.")});
@@ -315,9 +315,9 @@ void DocumentCheck::checkStructure(const Fields &fields, const QString &item)
     }
     if (!strayText.isEmpty()) {
         report(TEXT_UNEXPECTED, {element, item},
-               {Texts::tr("'%1' has a text of its own, which nobody reads.").arg(type.tag),
-                strayText, Texts::tr("nothing but elements"),
-                Texts::tr("Remove the text, or put it into the element for which it is meant.")});
+               {Texts::tr("'%1' contains text, which is ignored.").arg(type.tag), strayText,
+                Texts::tr("only elements"),
+                Texts::tr("Remove the text, or move it into the element for which it is meant.")});
     }
 }
 
@@ -332,18 +332,18 @@ void DocumentCheck::reportStray(const QDomElement &child, const SElement &parent
     const QStringList places = parents(tag);
     if (!places.isEmpty() || tag == root().tag) {
         report(ELEMENT_MISPLACED, {child, item},
-               {Texts::tr("'%1' is not looked for in '%2'.").arg(tag, parent.tag), tag,
+               {Texts::tr("'%1' does not belong in '%2'; it is ignored.").arg(tag, parent.tag), tag,
                 places.isEmpty() ? Texts::tr("at the top of the document")
                                  : Texts::tr("in %1").arg(inWords(places)),
                 Texts::tr("Move the element to where it belongs, or remove it.")});
         return;
     }
     const QString known = similar(tag);
-    report(
-        ELEMENT_UNKNOWN, {child, item},
-        {Texts::tr("There is no element '%1'; nobody reads it.").arg(shown(tag)), tag,
-         allowed.isEmpty() ? Texts::tr("nothing but text") : inWords(allowed),
-         known.isEmpty() ? Texts::tr("Remove the element, or mend its name.") : caseHint(known)});
+    report(ELEMENT_UNKNOWN, {child, item},
+           {Texts::tr("Unknown element '%1'; it is ignored.").arg(shown(tag)), tag,
+            allowed.isEmpty() ? Texts::tr("only text") : inWords(allowed),
+            known.isEmpty() ? Texts::tr("Remove the element, or correct its name.")
+                            : caseHint(known)});
 }
 
 void DocumentCheck::checkMeaning(const Fields &fields, const QString &item)
@@ -403,14 +403,15 @@ void DocumentCheck::checkRoot(const Fields &fields)
     const quint32 revision = CStr::stringToRevision(m_version, &isRevision);
     const quint32 requiredRevision = CStr::stringToRevision(required);
     const QString hint =
-        Texts::tr("The document is read as one of version %1; save it anew with this version.")
+        Texts::tr("The document is read as version %1; save it again with this version.")
             .arg(required);
     if (m_version.isEmpty()) {
         report(VERSION_MISSING, place,
-               {Texts::tr("The document does not tell its version."), QString(), required, hint});
+               {Texts::tr("The version of the document is missing."), QString(), required, hint});
     } else if (!isRevision) {
         report(VERSION_INVALID, place,
-               {Texts::tr("'%1' is no version.").arg(shown(m_version)), m_version, required, hint});
+               {Texts::tr("'%1' is not a valid version.").arg(shown(m_version)), m_version,
+                required, hint});
     } else if (revision != requiredRevision) {
         const QString message = revision < requiredRevision
             ? Texts::tr("The document was created with a previous version.")
@@ -421,7 +422,7 @@ void DocumentCheck::checkRoot(const Fields &fields)
         report(DEVICE_MISSING, place,
                {Texts::tr("The document has no device."), QString(),
                 Texts::tr("an element '%1'").arg(TAG_DEVICE),
-                Texts::tr("Without a device there is nothing to be commissioned.")});
+                Texts::tr("A configuration without a device cannot be commissioned.")});
     }
 }
 
@@ -430,8 +431,8 @@ void DocumentCheck::checkDate(const Fields &fields, const QString &tag, const QS
     const QString text = fields.text(tag);
     if (!text.isEmpty() && !QDate::fromString(text, Qt::ISODate).isValid()) {
         report(DATE_INVALID, {fields.element(tag), item},
-               {Texts::tr("'%1' is no date.").arg(shown(text)), text,
-                Texts::tr("a date like 2026-11-21"), QString()});
+               {Texts::tr("'%1' is not a valid date.").arg(shown(text)), text,
+                Texts::tr("a date such as 2026-11-21"), QString()});
     }
 }
 
@@ -444,7 +445,7 @@ void DocumentCheck::checkDescription(const Fields &fields)
     const QDate revision = QDate::fromString(fields.text(TAG_REVISIONDATE), Qt::ISODate);
     if (creation.isValid() && revision.isValid() && revision < creation) {
         report(DATE_ORDER, {fields.element(TAG_REVISIONDATE), revisionItem},
-               {Texts::tr("The configuration was revised before it was created."),
+               {Texts::tr("The revision date is earlier than the creation date."),
                 fields.text(TAG_REVISIONDATE),
                 Texts::tr("%1 or later").arg(creation.toString(Qt::ISODate)), QString()});
     }
@@ -459,14 +460,14 @@ void DocumentCheck::checkDevice(const Fields &fields, const QString &item)
     if (m_device.name().isEmpty()) {
         report(DEVICE_NAME_MISSING, {fields.place(TAG_NAME), item + QStringLiteral(".name")},
                {Texts::tr("The device has no name."), QString(), Texts::tr("a name"),
-                Texts::tr("The name is also that of the device's directory in the project.")});
+                Texts::tr("The directory of the device in the project has the same name.")});
     }
     checkConfigurationName(fields, item);
     if (!fields.contains(TAG_CONFIG)) {
         report(CONFIG_MISSING, place,
                {Texts::tr("The device has no configuration block."), QString(),
                 Texts::tr("an element '%1'").arg(TAG_CONFIG),
-                Texts::tr("The device is read without options, files and plug-ins.")});
+                Texts::tr("The device is read without options, files or plug-ins.")});
     }
     claim(m_device.configurationFile(), place);
 }
@@ -482,15 +483,14 @@ void DocumentCheck::checkDeviceClass(const Fields &fields, const QString &item)
         m_device.setDeviceClass(m_file.strToDeviceClass(text));
     } else if (text.isEmpty()) {
         report(DEVICE_CLASS_MISSING, place,
-               {Texts::tr("The device has no class."), QString(), inWords(classes), QString()});
+               {Texts::tr("The device class is missing."), QString(), inWords(classes), QString()});
     } else if (text == undefined) {
         report(DEVICE_CLASS_UNDEFINED, place,
-               {Texts::tr("The class of the device is left open."), text, inWords(classes),
-                QString()});
+               {Texts::tr("The device class is 'Undefined'."), text, inWords(classes), QString()});
     } else {
         const QString wanted = meant(text, classes);
         report(DEVICE_CLASS_UNKNOWN, place,
-               {Texts::tr("There is no device class '%1'; it is read as '%2'.")
+               {Texts::tr("Unknown device class '%1'; it is read as '%2'.")
                     .arg(shown(text), undefined),
                 text, inWords(classes), wanted.isEmpty() ? QString() : caseHint(wanted)});
     }
@@ -502,8 +502,7 @@ void DocumentCheck::checkConfigurationName(const Fields &fields, const QString &
                           item + QStringLiteral(".configurationName")};
     if (!fields.contains(TAG_CONFIGNAME)) {
         report(CONFIGURATION_NAME_MISSING, place,
-               {Texts::tr("The device does not tell the name of its configuration."), QString(),
-                Texts::tr("a name"),
+               {Texts::tr("The configuration name is missing."), QString(), Texts::tr("a name"),
                 Texts::tr("It is read as '%1'.").arg(m_device.configurationName())});
         return;
     }
@@ -513,8 +512,8 @@ void DocumentCheck::checkConfigurationName(const Fields &fields, const QString &
         Texts::tr("letters, digits, '_', '-' and '+'; a number in parentheses may follow");
     if (name.isEmpty()) {
         report(CONFIGURATION_NAME_EMPTY, place,
-               {Texts::tr("The name of the configuration is empty."), QString(), allowed,
-                Texts::tr("Without a name it has no directories on the device.")});
+               {Texts::tr("The configuration name is empty."), QString(), allowed,
+                Texts::tr("The directories on the device are named after it.")});
         return;
     }
     // Expressions of our own: those of NDeviceConf are for one thread alone. What is too long for a
@@ -522,11 +521,11 @@ void DocumentCheck::checkConfigurationName(const Fields &fields, const QString &
     const bool isTooLong = name.toUtf8().size() > LongestName;
     if (!isTooLong && QRegExp(NDeviceConf::NAME_CHECK_PATTERN).exactMatch(name)) {
         report(CONFIGURATION_NAME_RESERVED, place,
-               {Texts::tr("'%1' is a name that the device keeps for itself.").arg(name), name,
+               {Texts::tr("The configuration name '%1' is reserved by the device.").arg(name), name,
                 Texts::tr("a name without 'setup', 'failsafe' and 'mount error'"), QString()});
     } else if (isTooLong || !QRegExp(NDeviceConf::NAME_INPUT_PATTERN).exactMatch(name)) {
         report(CONFIGURATION_NAME_INVALID, place,
-               {Texts::tr("'%1' cannot be the name of a configuration.").arg(shown(name)), name,
+               {Texts::tr("'%1' is not a valid configuration name.").arg(shown(name)), name,
                 allowed, QString()});
     }
 }
@@ -538,9 +537,10 @@ CDeviceHardwareId DocumentCheck::checkHardwareId(const Fields &fields, const QSt
     if (hardwareId.isNull() && !text.isEmpty()) {
         report(HARDWARE_ID_INVALID,
                {fields.element(TAG_HARDWAREID), item + QStringLiteral(".hardwareId")},
-               {Texts::tr("'%1' is no hardware identity.").arg(shown(text)), text,
+               {Texts::tr("'%1' is not a valid hardware identity.").arg(shown(text)), text,
                 QStringLiteral("PREFIX:NAME:PLATFORM:VERSION:REVISION"),
-                Texts::tr("The last three are numbers from 0 to 65535; it is read as empty.")});
+                Texts::tr("The last three are numbers from 0 to 65535; an invalid hardware "
+                          "identity is read as empty.")});
     }
     return hardwareId;
 }
@@ -549,7 +549,7 @@ void DocumentCheck::checkOptions(const Fields &fields)
 {
     const QDomElement element = fields.element(TAG_OPTIONS);
     const QStringList words = CDomDoc::text(element).split(Blank, Qt::SkipEmptyParts);
-    const QString expected = Texts::tr("options like -trace with one blank between each two");
+    const QString expected = Texts::tr("options such as -trace, separated by single spaces");
     // What stands before the first option is none, but is listed as one.
     QList<QStringList> options;
     for (const QString &word : words) {
@@ -564,8 +564,8 @@ void DocumentCheck::checkOptions(const Fields &fields)
     const auto badWord = std::find_if(words.cbegin(), words.cend(), hasSpace);
     if (badWord != words.cend()) {
         report(OPTION_INVALID, {element, OptionList},
-               {Texts::tr("Options are separated by something other than a blank."), *badWord,
-                expected, Texts::tr("The device takes this for one word.")});
+               {Texts::tr("Options are separated by something other than a space."), *badWord,
+                expected, Texts::tr("The device reads this as one word.")});
     }
     QSet<QStringList> known;
     for (const QStringList &option : qAsConst(options)) {
@@ -576,15 +576,16 @@ void DocumentCheck::checkOptions(const Fields &fields)
         }
         if (option.constFirst() == Hyphen) {
             report(OPTION_INVALID, place,
-                   {Texts::tr("An option has a hyphen, but no name."), text, expected, QString()});
+                   {Texts::tr("An option has a hyphen but no name."), text, expected, QString()});
         } else if (!option.constFirst().startsWith(Hyphen) && !isBlank(text)) {
             report(OPTION_INVALID, place,
-                   {Texts::tr("'%1' is no option, and follows none.").arg(shown(text)), text,
-                    expected,
-                    Texts::tr("An option begins with a hyphen; what follows it is its argument.")});
+                   {Texts::tr("'%1' is neither an option nor the value of one.").arg(shown(text)),
+                    text, expected,
+                    Texts::tr(
+                        "An option begins with a hyphen; the words after it are its argument.")});
         } else if (known.contains(option)) {
             report(OPTION_TWICE, place,
-                   {Texts::tr("The option '%1' stands more than once.").arg(shown(text)), text,
+                   {Texts::tr("The option '%1' occurs more than once.").arg(shown(text)), text,
                     QString(), Texts::tr("Remove all but one.")});
         }
         known.insert(option);
@@ -617,7 +618,7 @@ void DocumentCheck::checkConfig(const Fields &fields, const QString &item)
                 Texts::tr("Add the option %1, or disable the server.").arg(OpcUaOption)});
     } else if (m_isOpcUaFlagValid && !m_isOpcUaEnabled && hasOpcUaOption) {
         report(OPC_UA_MISMATCH, m_opcUaOption,
-               {Texts::tr("There is the option %1, but the OPC UA server is not enabled.")
+               {Texts::tr("The option %1 is present, but the OPC UA server is not enabled.")
                     .arg(OpcUaOption),
                 OpcUaOption, QString(),
                 Texts::tr("Enable the server, or remove the option %1.").arg(OpcUaOption)});
@@ -626,10 +627,10 @@ void DocumentCheck::checkConfig(const Fields &fields, const QString &item)
     if (!executionPlugin.isEmpty() && !m_plugins.contains(executionPlugin)) {
         report(EXECUTION_PLUGIN_UNKNOWN,
                {fields.element(TAG_EXECUTIONPLUGIN), item + QStringLiteral(".executionPlugin")},
-               {Texts::tr("'%1' is to run the application, but is not among the plug-ins.")
+               {Texts::tr("The execution plug-in '%1' is not in the list of plug-ins.")
                     .arg(shown(executionPlugin)),
                 executionPlugin, Texts::tr("the name of a plug-in"),
-                Texts::tr("Add the plug-in, or name another one.")});
+                Texts::tr("Add the plug-in, or choose another one.")});
     }
     const bool hasPlugin = !m_etherCatPlugin.element.isNull();
     const bool hasFile = !m_etherCatFile.element.isNull();
@@ -640,7 +641,7 @@ void DocumentCheck::checkConfig(const Fields &fields, const QString &item)
                 QString(), Texts::tr("a file in '%1'").arg(TAG_ETHERCATMASTER), QString()});
     } else if (hasFile && !hasPlugin) {
         report(ETHERCAT_PLUGIN_MISSING, m_etherCatFile,
-               {Texts::tr("There is a bus configuration, but not the plug-in '%1'.")
+               {Texts::tr("The bus configuration needs the plug-in '%1', which is missing.")
                     .arg(NDeviceConf::PLUGIN_NAME_ETHERCAT_MASTER),
                 QString(),
                 Texts::tr("a plug-in '%1'").arg(NDeviceConf::PLUGIN_NAME_ETHERCAT_MASTER),
@@ -660,9 +661,10 @@ void DocumentCheck::checkParameterFile(const Fields &fields, const QString &item
     const SPlace place = {fields.parent(), item};
     const QPair<QString, int> key(file.name(), type);
     if (m_parameterFiles.contains(key)) {
-        report(PARAMETER_FILE_TWICE, {fields.place(TAG_NAME), item},
-               {Texts::tr("The parameter file '%1' stands more than once.").arg(shown(file.name())),
-                file.name(), QString(), Texts::tr("Remove all but one.")});
+        report(
+            PARAMETER_FILE_TWICE, {fields.place(TAG_NAME), item},
+            {Texts::tr("The parameter file '%1' is listed more than once.").arg(shown(file.name())),
+             file.name(), QString(), Texts::tr("Remove all but one.")});
         return;
     }
     m_parameterFiles.insert(key);
@@ -705,12 +707,12 @@ NvrnGlobal::EParamFileType DocumentCheck::checkParameterType(const Fields &field
             {Texts::tr("The parameter file has no type."), QString(), inWords(types), QString()});
     } else if (text == undefined) {
         report(PARAMETER_TYPE_UNDEFINED, place,
-               {Texts::tr("The type of the parameter file is left open."), text, inWords(types),
+               {Texts::tr("The type of the parameter file is 'Undefined'."), text, inWords(types),
                 QString()});
     } else {
         const QString wanted = meant(text, types);
         report(PARAMETER_TYPE_UNKNOWN, place,
-               {Texts::tr("There is no type '%1' of parameter files; it is read as '%2'.")
+               {Texts::tr("Unknown parameter file type '%1'; it is read as '%2'.")
                     .arg(shown(text), undefined),
                 text, inWords(types), wanted.isEmpty() ? QString() : caseHint(wanted)});
     }
@@ -725,7 +727,7 @@ void DocumentCheck::checkFpgaFile(const Fields &fields, const QString &item)
     }
     if (m_fpgaFiles.contains(name)) {
         report(FPGA_FILE_TWICE, {fields.place(TAG_NAME), item},
-               {Texts::tr("The FPGA image '%1' stands more than once.").arg(shown(name)), name,
+               {Texts::tr("The FPGA image '%1' is listed more than once.").arg(shown(name)), name,
                 QString(), Texts::tr("Remove all but one; the first image is the active one.")});
         return;
     }
@@ -757,7 +759,7 @@ void DocumentCheck::checkPlugin(const Fields &fields, const QString &item)
     } else if (m_plugins.contains(plugin.name())) {
         isPlaced = false;
         report(PLUGIN_TWICE, {fields.place(TAG_NAME), item},
-               {Texts::tr("The plug-in '%1' stands more than once.").arg(shown(plugin.name())),
+               {Texts::tr("The plug-in '%1' is listed more than once.").arg(shown(plugin.name())),
                 plugin.name(), QString(), Texts::tr("Remove all but one.")});
     }
     m_plugins.insert(plugin.name());
@@ -766,25 +768,28 @@ void DocumentCheck::checkPlugin(const Fields &fields, const QString &item)
         m_etherCatPlugin = place;
     }
     const SPlace version = {fields.place(TAG_VERSION), item + QStringLiteral(".version")};
-    const QString expected = Texts::tr("numbers with dots between them, like 1.3");
+    const QString expected = Texts::tr("numbers separated by dots, such as 1.3");
     if (plugin.version().isEmpty()) {
         isPlaced = false;
         report(PLUGIN_VERSION_MISSING, version,
                {Texts::tr("The plug-in '%1' has no version.").arg(shown(plugin.name())), QString(),
-                expected, Texts::tr("Its file would be '%1'.").arg(shown(plugin.fileName()))});
+                expected,
+                Texts::tr("The file name of the plug-in would be '%1'.")
+                    .arg(shown(plugin.fileName()))});
     } else if (!isDottedNumber(plugin.version())) {
         isPlaced = false;
         report(PLUGIN_VERSION_INVALID, version,
-               {Texts::tr("'%1' is no version of a plug-in.").arg(shown(plugin.version())),
+               {Texts::tr("'%1' is not a valid plug-in version.").arg(shown(plugin.version())),
                 plugin.version(), expected,
-                Texts::tr("Its file would be '%1'.").arg(shown(plugin.fileName()))});
+                Texts::tr("The file name of the plug-in would be '%1'.")
+                    .arg(shown(plugin.fileName()))});
     }
     const QString priority = fields.text(TAG_PRIORITY);
     bool isNumber = true;
     priority.toInt(&isNumber);
     if (!priority.isEmpty() && !isNumber) {
         report(PRIORITY_INVALID, {fields.element(TAG_PRIORITY), item + QStringLiteral(".priority")},
-               {Texts::tr("'%1' is no priority.").arg(shown(priority)), priority,
+               {Texts::tr("'%1' is not a valid priority.").arg(shown(priority)), priority,
                 Texts::tr("a number from -2147483648 to 2147483647"),
                 Texts::tr("The plug-in is read without a priority.")});
     }
@@ -809,7 +814,7 @@ void DocumentCheck::checkDrive(const Fields &fields, const QString &item)
                                                      NvrnGlobal::PARAM_FILE_PARAMETERS)) {
         report(HARDWARE_ID_MISMATCH,
                {fields.element(TAG_HARDWAREID), item + QStringLiteral(".hardwareId")},
-               {Texts::tr("The hardware identity '%1' does not fit that of the device.")
+               {Texts::tr("The hardware identity '%1' does not match that of the device.")
                     .arg(shown(hardwareId.hardwareId())),
                 hardwareId.hardwareId(),
                 Texts::tr("prefix, name and platform of '%1'").arg(shown(m_device.hardwareIdStr())),
@@ -829,8 +834,9 @@ void DocumentCheck::checkDriveType(const Fields &fields, const QString &item)
         for (const QString &tag : {TAG_KD2_PARAM, TAG_KD2_LOGIC, TAG_KD2_FIRMWARE}) {
             if (fields.element(tag).hasChildNodes()) {
                 report(DRIVE_TYPE_MISMATCH, {fields.element(tag), item},
-                       {Texts::tr("'%1' is passed over: the drive is of type '%2'.").arg(tag, text),
-                        text, Kd2Type, Texts::tr("Remove the file, or mend the drive's type.")});
+                       {Texts::tr("'%1' is ignored: the type of the drive is '%2'.").arg(tag, text),
+                        text, Kd2Type,
+                        Texts::tr("Remove the file, or correct the type of the drive.")});
             }
         }
     } else if (text.isEmpty()) {
@@ -839,12 +845,12 @@ void DocumentCheck::checkDriveType(const Fields &fields, const QString &item)
                 inWords(types), QString()});
     } else if (text == UnknownType) {
         report(DRIVE_TYPE_UNDEFINED, place,
-               {Texts::tr("The type of the drive is left open; it is read as '%1'.").arg(Kd3Type),
+               {Texts::tr("The type of the drive is 'Undefined'; it is read as '%1'.").arg(Kd3Type),
                 text, inWords(types), QString()});
     } else if (text != Kd2Type) {
         const QString wanted = meant(text, types);
         report(DRIVE_TYPE_UNKNOWN, place,
-               {Texts::tr("There is no type '%1' of drives; the drive is read as '%2'.")
+               {Texts::tr("Unknown drive type '%1'; the drive is read as '%2'.")
                     .arg(shown(text), Kd3Type),
                 text, inWords(types), wanted.isEmpty() ? QString() : caseHint(wanted)});
     }
@@ -856,23 +862,22 @@ void DocumentCheck::checkDriveNumber(const Fields &fields, const QString &item)
     const QString text = fields.text(TAG_DRIVE_NO);
     const QString expected =
         Texts::tr("a number from 0 to %1").arg(QString::number(HighestDriveNumber));
-    const QString nextFree =
-        Texts::tr("The drive is read with the next number that no other drive has.");
+    const QString nextFree = Texts::tr("The drive is read with the next free number.");
     bool isNumber = false;
     const uint number = text.toUInt(&isNumber);
     if (text.isEmpty()) {
         report(DRIVE_NUMBER_MISSING, place,
-               {Texts::tr("The drive has no number."), QString(), expected, nextFree});
+               {Texts::tr("The drive number is missing."), QString(), expected, nextFree});
     } else if (!isNumber || number > HighestDriveNumber) {
         const bool isNone = isNumber && number == UnassignedDriveNumber;
         report(DRIVE_NUMBER_INVALID, place,
-               {Texts::tr("'%1' is no number of a drive.").arg(shown(text)), text, expected,
+               {Texts::tr("'%1' is not a valid drive number.").arg(shown(text)), text, expected,
                 isNone ? Texts::tr("This number means that no number is assigned.") : nextFree});
     } else if (m_driveNumbers.contains(number)) {
         report(DRIVE_NUMBER_TWICE, place,
-               {Texts::tr("The number %1 is also that of %2.")
+               {Texts::tr("The drive number %1 is already used by %2.")
                     .arg(QString::number(number), m_driveNumbers.value(number)),
-                text, Texts::tr("a number of its own"), nextFree});
+                text, Texts::tr("a unique number"), nextFree});
     } else {
         m_driveNumbers.insert(number, item);
     }
@@ -885,12 +890,12 @@ void DocumentCheck::checkDriveName(const Fields &fields, const QString &item)
     if (name.isEmpty()) {
         report(DRIVE_NAME_MISSING, place,
                {Texts::tr("The drive has no name."), QString(), Texts::tr("a name"),
-                Texts::tr("When the drive is read it is named after its number.")});
+                Texts::tr("The drive is read with a name made from its number.")});
     } else if (m_driveNames.contains(name)) {
         report(DRIVE_NAME_TWICE, place,
-               {Texts::tr("The name '%1' is also that of %2.")
+               {Texts::tr("The name '%1' is already used by %2.")
                     .arg(shown(name), m_driveNames.value(name)),
-                name, Texts::tr("a name of its own"), QString()});
+                name, Texts::tr("a unique name"), QString()});
     } else {
         m_driveNames.insert(name, item);
     }
@@ -904,13 +909,13 @@ void DocumentCheck::checkBusId(const Fields &fields, const QString &item)
     const uint busId = text.toUInt(&isNumber);
     if (!isNumber && !text.isEmpty()) {
         report(BUS_ID_INVALID, place,
-               {Texts::tr("'%1' is no bus identifier; it is read as 0.").arg(shown(text)), text,
-                Texts::tr("a number from 0 to 4294967295"), QString()});
+               {Texts::tr("'%1' is not a valid bus identifier; it is read as 0.").arg(shown(text)),
+                text, Texts::tr("a number from 0 to 4294967295"), QString()});
     } else if (busId != 0 && m_busIds.contains(busId)) {
         report(BUS_ID_TWICE, place,
-               {Texts::tr("The bus identifier %1 is also that of %2.")
+               {Texts::tr("The bus identifier %1 is already used by %2.")
                     .arg(QString::number(busId), m_busIds.value(busId)),
-                text, Texts::tr("an identifier of its own"), QString()});
+                text, Texts::tr("a unique bus identifier"), QString()});
     } else if (busId != 0) {
         m_busIds.insert(busId, item);
     }
@@ -957,8 +962,8 @@ bool DocumentCheck::checkFileName(const Fields &fields, const QString &item)
     }
     if (!isName(name)) {
         report(FILE_NAME_INVALID, place,
-               {Texts::tr("'%1' is no name of a file.").arg(shown(name)), name,
-                Texts::tr("a name without directory, slashes and line breaks"), QString()});
+               {Texts::tr("'%1' is not a valid file name.").arg(shown(name)), name,
+                Texts::tr("a name without directories, slashes and line breaks"), QString()});
         return false;
     }
     return true;
@@ -972,13 +977,14 @@ void DocumentCheck::checkDevicePath(const CFileElement &file, const SPlace &plac
                                  .arg(CDeviceFileSystem::smPath(), CDeviceFileSystem::optSMPath());
     if (components(file.devicePath()).contains(QLatin1String(".."))) {
         report(DEVICE_PATH_CLIMBS, place,
-               {Texts::tr("The directory '%1' leads upwards.").arg(shown(text)), text,
+               {Texts::tr("The directory '%1' contains '..'.").arg(shown(text)), text,
                 Texts::tr("a directory without '..'"), QString()});
         return;
     }
     if (CFTPath::fromPath(path) == CFTPath::ENTRY_POINT_UNKNOWN) {
         report(DEVICE_PATH_OUTSIDE, place,
-               {Texts::tr("The directory '%1' lies outside the device's trees.").arg(shown(text)),
+               {Texts::tr("The directory '%1' is outside the directory trees of the device.")
+                    .arg(shown(text)),
                 text, expected, QString()});
         return;
     }
@@ -1010,20 +1016,21 @@ bool DocumentCheck::checkProjectPath(const CFileElement &file, const SPlace &pla
     const QString clean = QDir::cleanPath(path);
     if (isAbsolute(path)) {
         report(PROJECT_PATH_ABSOLUTE, place,
-               {Texts::tr("The directory '%1' is absolute.").arg(shown(path)), path,
+               {Texts::tr("The directory '%1' is an absolute path.").arg(shown(path)), path,
                 Texts::tr("a directory relative to the project"), QString()});
         return false;
     }
     if (clean == QLatin1String("..") || clean.startsWith(QLatin1String("../"))) {
         report(PROJECT_PATH_OUTSIDE, place,
-               {Texts::tr("The directory '%1' leads out of the project.").arg(shown(path)), path,
+               {Texts::tr("The directory '%1' is outside the project.").arg(shown(path)), path,
                 Texts::tr("a directory in the project"), QString()});
         return false;
     }
     const QString own = m_device.name() + Separator;
     if (isOfDevice && !path.isEmpty() && !m_device.name().isEmpty() && !path.startsWith(own)) {
         report(PROJECT_PATH_IGNORED, place,
-               {Texts::tr("The directory '%1' is not below that of the device.").arg(shown(path)),
+               {Texts::tr("The directory '%1' is not below the directory of the device.")
+                    .arg(shown(path)),
                 path, Texts::tr("a directory below '%1'").arg(shown(own)),
                 Texts::tr("It is removed when the device is read.")});
     }
@@ -1053,7 +1060,8 @@ bool DocumentCheck::claim(const CFileElement &file, const SPlace &place)
     const QString name = shown(file.fileName());
     if (m_files.contains(key)) {
         report(FILE_TWICE, place,
-               {Texts::tr("The file '%1' stands more than once in the same directories.").arg(name),
+               {Texts::tr("The file '%1' is listed more than once with the same directories.")
+                    .arg(name),
                 file.fileName(), QString(), Texts::tr("Remove all but one.")});
         return false;
     }
@@ -1061,10 +1069,10 @@ bool DocumentCheck::claim(const CFileElement &file, const SPlace &place)
     const QString other = m_claims.value(onDevice);
     if (!onDevice.isEmpty() && !other.isEmpty()) {
         report(DEVICE_FILE_CONFLICT, place,
-               {Texts::tr("The file '%1' has the same place on the device as that of %2.")
+               {Texts::tr("The file '%1' has the same place on the device as the file of %2.")
                     .arg(name, other),
-                onDevice, Texts::tr("a place of its own"),
-                Texts::tr("The one that is transferred last overwrites the other one.")});
+                onDevice, Texts::tr("a unique place"),
+                Texts::tr("The file that is transferred last overwrites the other one.")});
         return false;
     }
     m_claims.insert(onDevice, place.item);
@@ -1087,30 +1095,29 @@ void DocumentCheck::checkInProject(const CFileElement &file, const SPlace &place
                {Texts::tr("The file '%1' is not in the project.").arg(name), inProject.found, path,
                 inProject.found.isEmpty()
                     ? QString()
-                    : Texts::tr("A symbolic link of that name leads to nothing.")});
+                    : Texts::tr("The symbolic link of that name points to a missing file.")});
         break;
     case ProjectFiles::STATE_OTHER_CASE:
         report(PROJECT_FILE_OTHER_CASE, place,
-               {Texts::tr("The file '%1' is called '%2' in the project.")
+               {Texts::tr("The file '%1' is named '%2' in the project.")
                     .arg(name, shown(inProject.found)),
-                inProject.found, path,
-                Texts::tr("Capital and small letters matter on the device.")});
+                inProject.found, path, Texts::tr("File names on the device are case-sensitive.")});
         break;
     case ProjectFiles::STATE_OUTSIDE:
         report(PROJECT_FILE_OUTSIDE, place,
-               {Texts::tr("A symbolic link leads from '%1' out of the project.").arg(name),
+               {Texts::tr("A symbolic link on the path '%1' leads out of the project.").arg(name),
                 inProject.found, Texts::tr("a file in the project"),
-                Texts::tr("Whoever gets the project does not get the file.")});
+                Texts::tr("A copy of the project does not contain the file.")});
         break;
     case ProjectFiles::STATE_NOT_REGULAR:
         report(PROJECT_FILE_NOT_REGULAR, place,
-               {Texts::tr("'%1' is no regular file.").arg(name), path, Texts::tr("a regular file"),
-                QString()});
+               {Texts::tr("'%1' is not a regular file.").arg(name), path,
+                Texts::tr("a regular file"), QString()});
         break;
     case ProjectFiles::STATE_UNREADABLE:
         report(PROJECT_FILE_UNREADABLE, place,
                {Texts::tr("The file '%1' cannot be read.").arg(name), inProject.found,
-                Texts::tr("a file that may be read"), QString()});
+                Texts::tr("a readable file"), QString()});
         break;
     case ProjectFiles::STATE_EMPTY:
         report(PROJECT_FILE_EMPTY, place,
@@ -1127,10 +1134,10 @@ void DocumentCheck::checkInProject(const CFileElement &file, const SPlace &place
             return QStringLiteral("SHA-256 ") + QString::fromLatin1(sha256);
         };
         report(PROJECT_FILE_CHANGED, place,
-               {Texts::tr("The file '%1' is not the one that the manifest tells.").arg(name),
+               {Texts::tr("The file '%1' differs from the manifest.").arg(name),
                 isSize ? inBytes(measured.size) : sum(measured.sha256),
                 isSize ? inBytes(recorded.size) : sum(recorded.sha256),
-                Texts::tr("Put back the file, or make the manifest anew.")});
+                Texts::tr("Restore the file, or create the manifest again.")});
         break;
     }
     }

@@ -225,44 +225,44 @@ QString missingEntry(EEntry entry, const QString &path)
 {
     switch (entry) {
     case EEntry::DRIVE:
-        return Texts::tr("%1: there is no such drive").arg(path);
+        return Texts::tr("%1: the drive does not exist").arg(path);
     case EEntry::PARAM_FILE:
-        return Texts::tr("%1: there is no such parameter file").arg(path);
+        return Texts::tr("%1: the parameter file does not exist").arg(path);
     case EEntry::FPGA_FILE:
-        return Texts::tr("%1: there is no such FPGA image").arg(path);
+        return Texts::tr("%1: the FPGA image does not exist").arg(path);
     case EEntry::OPC_UA_FILE:
-        return Texts::tr("%1: there is no such OPC UA file").arg(path);
+        return Texts::tr("%1: the OPC UA file does not exist").arg(path);
     case EEntry::PLUGIN:
-        return Texts::tr("%1: there is no such plug-in").arg(path);
+        return Texts::tr("%1: the plug-in does not exist").arg(path);
     case EEntry::OPTION:
-        return Texts::tr("%1: there is no such option").arg(path);
+        return Texts::tr("%1: the option does not exist").arg(path);
     case EEntry::FILE:
     case EEntry::NONE:
         break;
     }
-    return Texts::tr("%1: there is no such file").arg(path);
+    return Texts::tr("%1: the file does not exist").arg(path);
 }
 
 QString presentEntry(EEntry entry, const QString &path)
 {
     switch (entry) {
     case EEntry::DRIVE:
-        return Texts::tr("%1: there is such a drive already").arg(path);
+        return Texts::tr("%1: the drive already exists").arg(path);
     case EEntry::PARAM_FILE:
-        return Texts::tr("%1: there is such a parameter file already").arg(path);
+        return Texts::tr("%1: the parameter file already exists").arg(path);
     case EEntry::FPGA_FILE:
-        return Texts::tr("%1: there is such an FPGA image already").arg(path);
+        return Texts::tr("%1: the FPGA image already exists").arg(path);
     case EEntry::OPC_UA_FILE:
-        return Texts::tr("%1: there is such an OPC UA file already").arg(path);
+        return Texts::tr("%1: the OPC UA file already exists").arg(path);
     case EEntry::PLUGIN:
-        return Texts::tr("%1: there is such a plug-in already").arg(path);
+        return Texts::tr("%1: the plug-in already exists").arg(path);
     case EEntry::OPTION:
-        return Texts::tr("%1: there is such an option already").arg(path);
+        return Texts::tr("%1: the option already exists").arg(path);
     case EEntry::FILE:
     case EEntry::NONE:
         break;
     }
-    return Texts::tr("%1: there is such a file already").arg(path);
+    return Texts::tr("%1: the file already exists").arg(path);
 }
 
 /** The first character that XML cannot carry; -1 when there is none. */
@@ -565,14 +565,14 @@ bool CConfigurationItemsPrivate::failUnknownWord(const SPlace &place, const QStr
         }
     }
     if (words.isEmpty() || place.node->isItem()) {
-        return fail(Texts::tr("%1: there is no such item").arg(path));
+        return fail(Texts::tr("%1: unknown item").arg(path));
     }
     const QString meant = nearestName(word, words);
     if (!meant.isEmpty()) {
-        return fail(Texts::tr("%1: there is no such item; did you mean %2?")
-                        .arg(path, joined(place.path, meant)));
+        return fail(
+            Texts::tr("%1: unknown item; did you mean %2?").arg(path, joined(place.path, meant)));
     }
-    return fail(Texts::tr("%1: there is no such item; there are %2")
+    return fail(Texts::tr("%1: unknown item; expected is one of %2")
                     .arg(path, words.join(QStringLiteral(", "))));
 }
 
@@ -613,7 +613,7 @@ bool CConfigurationItemsPrivate::step(const SItemPathStep &given, SPlace &place,
     const QString path = joined(prefix, segment.text());
     if (place.node->isList() && !place.isEntry) {
         return fail(
-            Texts::tr("%1: an entry of the list must be named, as in %2")
+            Texts::tr("%1: name an entry of the list, as in %2")
                 .arg(path, CConfigurationItems::entryPath(place.path, QStringLiteral("…"))));
     }
     const auto &children = place.node->children;
@@ -639,8 +639,8 @@ bool CConfigurationItemsPrivate::step(const SItemPathStep &given, SPlace &place,
         return true;
     }
     if (!child->isList()) {
-        return fail(Texts::tr("%1: %2 is no list, nothing can stand in brackets behind it")
-                        .arg(path, segment.word));
+        return fail(
+            Texts::tr("%1: %2 is not a list and takes no brackets").arg(path, segment.word));
     }
     if (child->entry == EEntry::DRIVE) {
         segment.key = driveKey(segment.key);
@@ -658,7 +658,7 @@ bool CConfigurationItemsPrivate::resolve(const QString &path, SPlace &place, boo
     place.node = &model();
     place.anchor = file.domDocument().documentElement();
     if (place.anchor.isNull()) {
-        return fail(Texts::tr("There is no configuration."));
+        return fail(Texts::tr("The document contains no configuration."));
     }
     QList<SItemPathStep> segments;
     QString reason;
@@ -793,14 +793,13 @@ bool CConfigurationItemsPrivate::acceptsText(const QString &path, const QString 
 bool CConfigurationItemsPrivate::acceptsArgument(const QString &path, const QString &argument)
 {
     if (argument != argument.simplified()) {
-        return fail(
-            Texts::tr("%1: the words of an argument are separated by single blanks").arg(path));
+        return fail(Texts::tr("%1: separate the words of an argument by single spaces").arg(path));
     }
     const QStringList words = argument.split(QLatin1Char(' '));
     const bool hasOption = std::any_of(words.cbegin(), words.cend(),
                                        [](const QString &word) { return word.startsWith(Hyphen); });
     if (hasOption) {
-        return fail(Texts::tr("%1: in '%2' a word begins with '-', which would be an option")
+        return fail(Texts::tr("%1: a word in '%2' begins with '-' and would be read as an option")
                         .arg(path, argument));
     }
     return acceptsText(path, argument);
@@ -813,7 +812,7 @@ bool CConfigurationItemsPrivate::acceptsKey(const SNode &list, const QString &pa
         bool isNumber = false;
         const uint number = key.toUInt(&isNumber);
         return (isNumber && number <= LargestNewDriveNumber && QString::number(number) == key)
-            || fail(Texts::tr("%1: '%2' is no drive number; one is a number from 0 to %3")
+            || fail(Texts::tr("%1: '%2' is not a valid drive number; write a number from 0 to %3")
                         .arg(path, key, QString::number(LargestNewDriveNumber)));
     }
     if (list.entry == EEntry::OPTION) {
@@ -821,12 +820,13 @@ bool CConfigurationItemsPrivate::acceptsKey(const SNode &list, const QString &pa
         const bool isOption = key.startsWith(Hyphen) && key.size() > 1
             && std::none_of(key.cbegin(), key.cend(), isSpace);
         if (!isOption) {
-            return fail(Texts::tr("%1: '%2' is no option; one is a word that begins with '-'")
-                            .arg(path, key));
+            return fail(
+                Texts::tr("%1: '%2' is not a valid option; write a word that begins with '-'")
+                    .arg(path, key));
         }
     }
     if (key.isEmpty()) {
-        return fail(Texts::tr("%1: a name must not be empty").arg(path));
+        return fail(Texts::tr("%1: the name must not be empty").arg(path));
     }
     return acceptsText(path, key);
 }
@@ -848,19 +848,19 @@ bool CConfigurationItemsPrivate::accepts(const SPlace &place, QString &value)
     case EValue::DATE:
         if (!value.isEmpty()
             && QDate::fromString(value, Qt::ISODate).toString(Qt::ISODate) != value) {
-            return fail(
-                Texts::tr("%1: '%2' is no date; one is written as 2026-11-21").arg(path, value));
+            return fail(Texts::tr("%1: '%2' is not a valid date; write one such as 2026-11-21")
+                            .arg(path, value));
         }
         break;
     case EValue::DEVICE_CLASS:
         if (file.deviceClassToStr(file.strToDeviceClass(value)) != value) {
-            return fail(Texts::tr("%1: '%2' is no device class; there are kc2, kd3 and Undefined")
+            return fail(Texts::tr("%1: unknown device class '%2'; write kc2, kd3 or Undefined")
                             .arg(path, value));
         }
         break;
     case EValue::HARDWARE_ID:
         if (!value.isEmpty() && CDeviceHardwareId(value).isNull()) {
-            return fail(Texts::tr("%1: '%2' is no hardware identity; one is written as "
+            return fail(Texts::tr("%1: '%2' is not a valid hardware identity; write "
                                   "PREFIX:NAME:PLATFORM:VERSION:REVISION")
                             .arg(path, value));
         }
@@ -873,24 +873,23 @@ bool CConfigurationItemsPrivate::accepts(const SPlace &place, QString &value)
     case EValue::UNSIGNED_NUMBER:
         if (QString::number(value.toUInt()) != value) {
             return fail(
-                Texts::tr("%1: '%2' is no whole number from 0 to 4294967295").arg(path, value));
+                Texts::tr("%1: '%2' is not a whole number from 0 to 4294967295").arg(path, value));
         }
         break;
     case EValue::SIGNED_NUMBER:
         if (QString::number(value.toInt()) != value) {
-            return fail(Texts::tr("%1: '%2' is no whole number from -2147483648 to 2147483647")
+            return fail(Texts::tr("%1: '%2' is not a whole number from -2147483648 to 2147483647")
                             .arg(path, value));
         }
         break;
     case EValue::PARAM_FILE_TYPE:
         if (file.typeToStr(file.strToType(value)) != value) {
-            return fail(Texts::tr("%1: '%2' is no type of parameter files").arg(path, value));
+            return fail(Texts::tr("%1: unknown parameter file type '%2'").arg(path, value));
         }
         break;
     case EValue::DRIVE_TYPE:
         if (value != Kd2Drive && value != Kd3Drive) {
-            return fail(Texts::tr("%1: '%2' is no type of drives; there are KD2_drive and "
-                                  "KD3_drive")
+            return fail(Texts::tr("%1: unknown drive type '%2'; write KD2_drive or KD3_drive")
                             .arg(path, value));
         }
         break;
@@ -908,7 +907,7 @@ bool CConfigurationItemsPrivate::accepts(const SPlace &place, QString &value)
     }
     case EValue::ACTIVE_FPGA_FILE:
         if (value.isEmpty()) {
-            return fail(Texts::tr("%1: a name must not be empty").arg(path));
+            return fail(Texts::tr("%1: the name must not be empty").arg(path));
         }
         break;
     case EValue::KEY_NAME:
@@ -924,12 +923,12 @@ bool CConfigurationItemsPrivate::accepts(const SPlace &place, QString &value)
 
 bool CConfigurationItemsPrivate::failWithoutValue(const SPlace &place)
 {
-    return fail(Texts::tr("%1: this has no value of its own").arg(place.path));
+    return fail(Texts::tr("%1: this path does not lead to a single value").arg(place.path));
 }
 
 bool CConfigurationItemsPrivate::failAbsent(const SPlace &place)
 {
-    return fail(Texts::tr("%1: the configuration does not have it").arg(place.path));
+    return fail(Texts::tr("%1: the configuration does not contain this item").arg(place.path));
 }
 
 /** The child @p tag of @p parent; a new one stands where the document has such elements. */
@@ -1131,14 +1130,14 @@ bool CConfigurationItems::add(const QString &path)
         return false;
     }
     if (!place.isEntry) {
-        return d->fail(Texts::tr("%1: only entries of lists can be added").arg(place.path));
+        return d->fail(Texts::tr("%1: only list entries can be added").arg(place.path));
     }
     if (!place.isAbsent) {
         return d->fail(presentEntry(place.node->entry, place.path));
     }
     if (place.entry.occurrence > 1) {
         return d->fail(
-            Texts::tr("%1: a second entry of the same key cannot be added").arg(place.path));
+            Texts::tr("%1: a second entry with the same key cannot be added").arg(place.path));
     }
     if (!d->acceptsKey(*place.node, place.path, place.entry.key)) {
         return false;
@@ -1155,11 +1154,11 @@ bool CConfigurationItems::remove(const QString &path)
     }
     const EKind kind = place.node->kind;
     if (!place.isEntry && (kind == EKind::GROUP || place.node->isList())) {
-        return d->fail(
-            Texts::tr("%1: only single items, entries and files can be removed").arg(place.path));
+        return d->fail(Texts::tr("%1: only single items, list entries and files can be removed")
+                           .arg(place.path));
     }
     if (place.node->isKey()) {
-        return d->fail(Texts::tr("%1: the entry cannot be without it").arg(place.path));
+        return d->fail(Texts::tr("%1: the entry cannot exist without this item").arg(place.path));
     }
     if (!d->isThere(place)) {
         return d->failAbsent(place);

@@ -202,9 +202,10 @@ QByteArray Page::write()
                 writeOptions();
             }
         }
-        m_out.element("footer",
-                      Texts::tr("Made from the configuration alone; nothing is loaded "
-                                "when this page is opened."));
+        m_out.element(
+            "footer",
+            Texts::tr(
+                "Created from the configuration; the page loads nothing else when it is opened."));
     }
     m_out.lineBreak();
     return m_out.html().toUtf8();
@@ -307,7 +308,7 @@ void Page::writeFindings()
     const Element section(m_out, "section");
     writeHeading(Texts::tr("Findings"), QStringLiteral("findings"));
     if (m_findings.all().isEmpty()) {
-        m_out.element("p", Texts::tr("Nothing was found that is wrong or should be looked at."),
+        m_out.element("p", Texts::tr("The check found no errors and no warnings."),
                       {{"class", QStringLiteral("card none")}});
         return;
     }
@@ -452,8 +453,8 @@ DeviceDrawing::SModule Page::module(const SDrive &drive) const
     module.isOldSeries = element.isKD2();
     module.series = element.isKD2() ? QStringLiteral("KD2") : QStringLiteral("KD3");
     module.busNumber = QString::number(element.busId());
-    module.bus = element.busId() == 0 ? Texts::tr("No bus id")
-                                      : Texts::tr("Bus id %1").arg(module.busNumber);
+    module.bus = element.busId() == 0 ? Texts::tr("No bus identifier")
+                                      : Texts::tr("Bus identifier %1").arg(module.busNumber);
     module.target = QStringLiteral("drive-%1").arg(module.number);
     QStringList items = {drive.item};
     for (const SFile &file : drive.files) {
@@ -480,7 +481,7 @@ void Page::writeDrawing()
     const CDeviceElement &device = m_overview.device();
     DeviceDrawing::SDevice drawn;
     drawn.name = orDash(device.name());
-    drawn.title = Texts::tr("Device %1. Drives on its bus: %2.")
+    drawn.title = Texts::tr("Device %1. Drives on its fieldbus: %2.")
                       .arg(device.name(), QString::number(m_overview.drives().size()));
     drawn.target = QStringLiteral("device");
     drawn.details = QStringList{
@@ -575,7 +576,7 @@ void Page::writeDrive(const SDrive &drive)
     writeFindings({drive.item});
     {
         const Element facts(m_out, "dl", {{"class", QStringLiteral("facts")}});
-        writeFact(Texts::tr("Bus id"),
+        writeFact(Texts::tr("Bus identifier"),
                   element.busId() == 0 ? QString() : QString::number(element.busId()));
         writeFact(Texts::tr("Hardware identity"), element.hardwareIdStr(), true);
     }

@@ -128,7 +128,7 @@ private:
     {
         m_done += bytes;
         m_isCancelled = m_progress && !m_progress(qMin(m_done, m_total), m_total);
-        return !m_isCancelled || fail(Texts::tr("It was cancelled."));
+        return !m_isCancelled || fail(Texts::tr("The operation was cancelled."));
     }
 
     bool findRoot(const CStagedTree::STarget &target)
@@ -151,7 +151,7 @@ private:
 
     bool failNotEmpty(const QString &root)
     {
-        return fail(Texts::tr("%1 is there already, and is not empty.").arg(root));
+        return fail(Texts::tr("%1 already exists and is not empty.").arg(root));
     }
 
     static bool isEmpty(int root)
@@ -176,14 +176,15 @@ private:
         QString reason;
         if (!readTreeManifest(root, manifest, reason)) {
             return fail(
-                Texts::tr("%1 is no device tree that can be replaced: %2").arg(path, reason));
+                Texts::tr("%1 is not a device tree that can be replaced: %2").arg(path, reason));
         }
         TreeComparison comparison(manifest, {});
         compareTree(root, false, comparison);
         for (const CStagedTree::SDifference &difference : comparison.differences(true)) {
             if (difference.kind != CStagedTree::SDifference::MISSING) {
-                return fail(Texts::tr("%1 holds more than a device tree and cannot be replaced: %2")
-                                .arg(path, difference.message));
+                return fail(
+                    Texts::tr("%1 contains more than a device tree and cannot be replaced: %2")
+                        .arg(path, difference.message));
             }
         }
         m_isReplacing = true;
@@ -204,15 +205,16 @@ private:
             return fail(cannotBeWritten(target.archive,
                                         S_ISDIR(status.st_mode)
                                             ? qt_error_string(EISDIR)
-                                            : Texts::tr("This is no regular file.")));
+                                            : Texts::tr("This is not a regular file.")));
         }
         if (!m_root.isEmpty() && (m_archive + '/').startsWith(m_root + '/')) {
-            return fail(cannotBeWritten(target.archive, Texts::tr("It would lie in the tree.")));
+            return fail(cannotBeWritten(target.archive,
+                                        Texts::tr("The archive would be inside the tree.")));
         }
         for (const CStagingPlan::SFile &file : m_plan.files()) {
             if (file.source == m_archive) {
                 return fail(
-                    cannotBeWritten(target.archive, Texts::tr("It belongs to the project.")));
+                    cannotBeWritten(target.archive, Texts::tr("The file belongs to the project.")));
             }
         }
         return true;
@@ -258,7 +260,7 @@ private:
             return fail(cannotBeRead(file.projectPath, qt_error_string(errno)));
         }
         if (!S_ISREG(status.st_mode)) {
-            return fail(cannotBeRead(file.projectPath, Texts::tr("This is no regular file.")));
+            return fail(cannotBeRead(file.projectPath, Texts::tr("This is not a regular file.")));
         }
         QByteArray block(BlockSize, Qt::Uninitialized);
         for (;;) {
@@ -425,7 +427,7 @@ private:
         const bool isSynced = (!m_tree || syncDirectory(parentOf(m_root)) == 0)
             && (!m_packed || syncDirectory(parentOf(m_archive)) == 0);
         return isSynced
-            || fail(Texts::tr("%1; everything is in place, but a power cut may undo it")
+            || fail(Texts::tr("%1; all files are in place, but a power failure may undo this")
                         .arg(qt_error_string(errno)));
     }
 
@@ -462,12 +464,12 @@ bool CStagedTree::write(const CStagingPlan &plan, const STarget &target)
     m_wasCancelled = false;
     m_errorText.clear();
     if (!plan.problems().isEmpty() || plan.files().isEmpty()) {
-        m_errorText = plan.problems().isEmpty() ? Texts::tr("There is nothing to be made.")
+        m_errorText = plan.problems().isEmpty() ? Texts::tr("The plan contains no files.")
                                                 : plan.problems().constFirst().message;
         return false;
     }
     if (target.root.isEmpty() && target.archive.isEmpty()) {
-        m_errorText = Texts::tr("There is no place for the tree.");
+        m_errorText = Texts::tr("Neither a directory nor an archive is given.");
         return false;
     }
     TreeMaker maker(plan, m_progress);
@@ -518,7 +520,7 @@ bool CStagedTree::verify(const QString &path)
     }
     m_wasCancelled = comparison.isCancelled();
     if (m_wasCancelled) {
-        m_errorText = Texts::tr("It was cancelled.");
+        m_errorText = Texts::tr("The operation was cancelled.");
         return false;
     }
     m_differences = comparison.differences(isComplete);

@@ -110,15 +110,17 @@ private:
         const QString name = m_device.configurationName();
         if (name.isEmpty()) {
             addProblem(QStringLiteral("no-configuration-name"), {},
-                       Texts::tr("The device has no configuration name, which the directories on "
-                                 "the device are named after."));
+                       Texts::tr("The device has no configuration name; the directories on the "
+                                 "device are named after it."));
             return false;
         }
         // A file's directory takes a back-slash for a separator, so that files would lie elsewhere.
         if (!isName(name) || name.contains(QLatin1Char('\\'))) {
-            addProblem(QStringLiteral("bad-configuration-name"), {},
-                       Texts::tr("The configuration name \"%1\" cannot be that of a directory.")
-                           .arg(name));
+            addProblem(
+                QStringLiteral("bad-configuration-name"), {},
+                Texts::tr(
+                    "The configuration name \"%1\" cannot be used as the name of a directory.")
+                    .arg(name));
             return false;
         }
         return true;
@@ -171,7 +173,7 @@ private:
         file.projectPath = element.projectFilePath();
         if (!isName(element.fileName())) {
             addProblem(QStringLiteral("bad-file-name"), file,
-                       Texts::tr("\"%1\" cannot be the name of a file.").arg(element.fileName()));
+                       Texts::tr("\"%1\" is not a valid file name.").arg(element.fileName()));
             return;
         }
         const bool hasPlace = m_hasPlaces && findPlace(element, file);
@@ -196,7 +198,7 @@ private:
         if (!isInTree || !CDeviceManifest::isDevicePath(path)) {
             addProblem(
                 QStringLiteral("outside-device"), file,
-                Texts::tr("%1 lies in none of the device's directories.").arg(file.devicePath));
+                Texts::tr("%1 is outside the directory trees of the device.").arg(file.devicePath));
             return false;
         }
         file.devicePath = path;
@@ -259,7 +261,7 @@ private:
             addProblem(QStringLiteral("unreadable"), file, unreadable(file, errno));
         } else if (!S_ISREG(status.st_mode)) {
             addProblem(QStringLiteral("not-regular"), file,
-                       Texts::tr("%1 is no regular file.").arg(file.projectPath));
+                       Texts::tr("%1 is not a regular file.").arg(file.projectPath));
         }
         file.size = status.st_size;
     }
@@ -276,7 +278,7 @@ private:
         }
         if (other->source != file.source) {
             addProblem(QStringLiteral("place-taken"), file,
-                       Texts::tr("%1 and another file both go to %2.")
+                       Texts::tr("%1 and another file have the same place on the device: %2.")
                            .arg(file.projectPath, file.devicePath));
         }
     }

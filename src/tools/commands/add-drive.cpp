@@ -31,7 +31,7 @@ void describe(CommandLine &line)
                    {subDeviceTypeName(CSubDeviceElement(CSubDeviceKD2Element())),
                     subDeviceTypeName(CSubDeviceElement(CSubDeviceKD3Element()))});
     line.addOption(NameOption,
-                   Texts::tr("Name of the drive; by default made from its drive number."),
+                   Texts::tr("Name of the drive; by default derived from its drive number."),
                    QStringLiteral("NAME"));
     line.addOption(IdOption, Texts::tr("Drive number 0 to 254; by default the next free one."),
                    QStringLiteral("NUMBER"));

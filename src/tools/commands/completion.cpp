@@ -514,9 +514,9 @@ int run(const CommandLine &line)
     return out.finish();
 }
 
-const CommandRegistration Registration(
-    "completion",
-    QT_TRANSLATE_NOOP("vrndevice", "Print a script by which a shell completes command lines."),
-    describe, run);
+const CommandRegistration Registration("completion",
+                                       QT_TRANSLATE_NOOP("vrndevice",
+                                                         "Print a completion script for a shell."),
+                                       describe, run);
 
 } // namespace

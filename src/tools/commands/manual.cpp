@@ -166,11 +166,11 @@ QList<STerm> environment()
 {
     return {
         {"LANGUAGE",
-         Texts::tr("The languages in which messages are wanted, the preferred one "
-                   "first, separated by colons; it counts unless the locale is C.")},
+         Texts::tr("The preferred languages of messages, separated by colons; not used in the "
+                   "locale C.")},
         {"LC_ALL, LC_MESSAGES, LANG",
-         Texts::tr("The locale: the first of them that is set. In a language for which there is no "
-                   "catalogue, and in the locale C, all texts are English. Numbers and dates are "
+         Texts::tr("The locale: the first of these variables that is set. In a language without a "
+                   "catalogue and in the locale C, all texts are English. Numbers and dates are "
                    "the same in every locale.")},
         {"NO_COLOR", Texts::tr("If it is set and not empty, nothing is printed in colour.")},
     };
@@ -182,11 +182,12 @@ QList<STerm> files()
         {"DeviceConfiguration.3deco",
          Texts::tr("A configuration: the device, its drives and "
                    "plug-ins, and all files that belong to it.")},
-        {"settings.3conf", Texts::tr("The names that a device and its drives were given.")},
+        {"settings.3conf", Texts::tr("The names of a device and its drives.")},
         {"network.conf", Texts::tr("The Ethernet settings of a device.")},
-        {"os-release", Texts::tr("What the operating system of a device is made of.")},
+        {"os-release", Texts::tr("The product and the versions of a device's operating system.")},
         {"../share/vrnDeviceCore/translations",
-         Texts::tr("The catalogues of translated texts, as seen from the program.")},
+         Texts::tr(
+             "The catalogues of translated texts, relative to the directory of the program.")},
     };
 }
 
@@ -217,8 +218,7 @@ int run(const CommandLine & /*line*/)
     page.text(purpose());
     page.nextParagraph();
     page.text(Texts::tr("Results go to standard output, diagnostics to standard error. Programs "
-                        "should ask for --json: nothing in it but sentences depends on the "
-                        "language."));
+                        "should use --json: only the sentences in it depend on the language."));
 
     page.section(Texts::tr("Options"));
     for (const CommandLine::SOption &option : optionsOfTool()) {
@@ -265,7 +265,7 @@ int run(const CommandLine & /*line*/)
 
 const CommandRegistration
     Registration("manual",
-                 QT_TRANSLATE_NOOP("vrndevice", "Print the manual page, as man(1) reads it."),
+                 QT_TRANSLATE_NOOP("vrndevice", "Print the manual page in the format of man(1)."),
                  describe, run);
 
 } // namespace
