@@ -26,6 +26,6 @@ struct SConfigurationFinding {
     QString found;
     /** What should stand there, in words; may be empty. */
     QString expected;
-    /** How to mend it, in a sentence or two. */
+    /** How to correct it, in a sentence or two. */
     QString hint;
 };

@@ -67,7 +67,7 @@ bool removeIndex(QList<Item> &list, int index)
     return true;
 }
 
-/** Index of the first item for which @p matches holds; -1 when there is none. */
+/** Index of the first item for which @p matches holds; -1 if there is none. */
 template <typename List, typename Predicate>
 int indexOf(const List &list, Predicate matches)
 {
@@ -75,7 +75,9 @@ int indexOf(const List &list, Predicate matches)
     return found == list.cend() ? -1 : static_cast<int>(std::distance(list.cbegin(), found));
 }
 
-/** A parameter file, placed where the directory layout puts it unless it tells its directories. */
+/**
+ * A parameter file, placed where the directory layout puts it unless it has directories of its own.
+ */
 CParamFileElement placed(const CParamFileElement &file, const CDeviceBaseElement &device)
 {
     CParamFileElement result = file;

@@ -36,7 +36,7 @@ quint32 toNumber(const QString &address)
     return number;
 }
 
-/** Empty when @p value is one of the texts in @p table, whose first row is no choice. */
+/** Empty when @p value is one of the texts in @p table, whose first row cannot be chosen. */
 template <typename Value>
 QString problemOfMode(const TextTables::Table<Value> &table, const QString &value)
 {
@@ -98,9 +98,9 @@ QString problemOf(const NetworkText::SKey &key, const QString &value)
 }
 
 /**
- * The lines of a file as the parser sees them. It tells no lines, and whether a line counts depends
- * on quotation marks, backslashes and sections before it; so it is given a copy of the file in
- * which the name of each key carries the number of its line, and is asked what it has read.
+ * The lines of a file as the parser sees them. It reports no lines, and whether a line counts
+ * depends on quotation marks, backslashes and sections before it; so it is given a copy of the file
+ * in which the name of each key carries the number of its line, and is asked what it has read.
  */
 class Lines
 {

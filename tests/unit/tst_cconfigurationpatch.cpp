@@ -280,12 +280,15 @@ void tst_CConfigurationPatch::refused_data()
     row("other format", withHead("\"format\":\"x\",\"version\":1,\"changes\":[]"), "not a patch");
     row("format is no text", withHead("\"format\":1,\"version\":1,\"changes\":[]"), "not a patch");
     row("no format", withHead("\"version\":1,\"changes\":[]"), "not a patch");
-    row("no version", withHead(Format + ",\"changes\":[]"), "another version than 1");
-    row("later version", withHead(Format + ",\"version\":2,\"changes\":[]"), "another version");
+    row("no version", withHead(Format + ",\"changes\":[]"), "version 1 is required");
+    row("later version", withHead(Format + ",\"version\":2,\"changes\":[]"),
+        "version 1 is required");
     row("version as text", withHead(Format + ",\"version\":\"1\",\"changes\":[]"),
-        "another version");
-    row("version between", withHead(Format + ",\"version\":1.5,\"changes\":[]"), "another version");
-    row("huge version", withHead(Format + ",\"version\":1e300,\"changes\":[]"), "another version");
+        "version 1 is required");
+    row("version between", withHead(Format + ",\"version\":1.5,\"changes\":[]"),
+        "version 1 is required");
+    row("huge version", withHead(Format + ",\"version\":1e300,\"changes\":[]"),
+        "version 1 is required");
     row("version beyond numbers", withHead(Format + ",\"version\":1e999,\"changes\":[]"), "");
     row("no changes", withHead(Format + ",\"version\":1"), "\"changes\" is missing");
     row("changes are an object", withHead(Format + ",\"version\":1,\"changes\":{}"),
@@ -294,10 +297,11 @@ void tst_CConfigurationPatch::refused_data()
         "\"x\" is unknown");
     row("change is a text", withHead(Format + ",\"version\":1,\"changes\":[\"x\"]"),
         "Change 1: This is not an object");
-    row("empty change", withChange(""), "Change 1: \"change\" tells no change");
+    row("empty change", withChange(""),
+        "Change 1: The value of \"change\" is not a known kind of change");
     row("unknown change", withChange("\"change\":\"move\",\"path\":\"device.name\""),
-        "Change 1: \"change\" tells no change");
-    row("change is a number", withChange("\"change\":1"), "tells no change");
+        "Change 1: The value of \"change\" is not a known kind of change");
+    row("change is a number", withChange("\"change\":1"), "is not a known kind of change");
     row("path missing", withChange("\"change\":\"setItem\",\"before\":\"\",\"after\":\"\""),
         "Change 1: \"path\" is missing");
     row("path is null",
@@ -492,15 +496,15 @@ void tst_CConfigurationPatch::mismatch_data()
         set(u"device.activeFpgaFile"_s, u"kd3_motion_v12.bit"_s, u"x.bit"_s),
         u"the FPGA image does not exist"_s);
     row("no such item", set(u"device.nme"_s, QString(), u"x"_s), u"unknown item"_s);
-    row("no class", set(u"device.class"_s, u"kd3"_s, u"kd9"_s), u"'kd9' is no device class"_s);
+    row("no class", set(u"device.class"_s, u"kd3"_s, u"kd9"_s), u"unknown device class 'kd9'"_s);
     row("no text", set(u"device.name"_s, u"PackagingLine"_s, u"a\u0001"_s),
         u"the character U+0001 cannot be stored"_s);
     row("no text of an entry", added(u"files[a]"_s, {{u"comment"_s, QString(QChar(0xd800))}}),
         u"the character U+D800 cannot be stored"_s);
     row("no number", added(u"device.plugins[a]"_s, {{u"priority"_s, u"1e9"_s}}),
         u"'1e9' is not a whole number"_s);
-    row("no drive number", added(u"drive[255]"_s), u"'255' is no drive number"_s);
-    row("no option", added(u"device.options[trace]"_s), u"'trace' is no option"_s);
+    row("no drive number", added(u"drive[255]"_s), u"'255' is not a valid drive number"_s);
+    row("no option", added(u"device.options[trace]"_s), u"'trace' is not a valid option"_s);
     row("empty name", added(u"files[]"_s), u"the name must not be empty"_s);
     row("second of one name", added(u"files[recipes.csv][2]"_s),
         u"a second entry with the same key cannot be added"_s);
@@ -509,7 +513,7 @@ void tst_CConfigurationPatch::mismatch_data()
     row("KD2 file of a KD3 drive", added(u"drive[0].kd2Logic"_s, {{u"name"_s, u"l"_s}}),
         u"only a drive of the type KD2_drive has this file"_s);
     row("list to remove", removed(u"device.options"_s), u"options does not exist."_s);
-    row("no path", removed(u"files[a"_s), u"'files[a' is not a valid path."_s);
+    row("not a valid path", removed(u"files[a"_s), u"'files[a' is not a valid path."_s);
     row("no list", removed(u"spare[a]"_s), u"spare a does not exist."_s);
     row("list to add to", added(u"spare[a]"_s), u"unknown item"_s);
 }

@@ -700,10 +700,10 @@ void tst_CConfigurationReport::nothingFound()
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(setSample(file));
     const Page page(file);
-    QVERIFY(page.root().text().contains(u"Nothing was found"_s));
+    QVERIFY(page.root().text().contains(u"The check found no errors and no warnings"_s));
     QVERIFY(page.all(u"div"_s, u"summary"_s).isEmpty());
     const Page found(file, {finding(QString())});
-    QVERIFY(!found.root().text().contains(u"Nothing was found"_s));
+    QVERIFY(!found.root().text().contains(u"The check found no errors and no warnings"_s));
 }
 
 void tst_CConfigurationReport::drawing_data()
@@ -792,7 +792,7 @@ void tst_CConfigurationReport::marksInTheDrawing()
         QCOMPARE(marks,
                  (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s,
                               u"#mark-error"_s}));
-        QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus id 1000."_s);
+        QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus identifier 1000."_s);
         QVERIFY(titles.at(2).endsWith(u"It has warnings."_s));
         QVERIFY(titles.at(3).endsWith(u"It has errors."_s));
     }

@@ -75,7 +75,7 @@ void tst_VrnDevice::usage_data()
                             << exitCode << QString::fromLatin1(output)
                             << QString::fromLatin1(errors);
     };
-    row("nothing", "", 2, "", "No command given");
+    row("nothing", "", 2, "", "The command is missing");
     row("help", "--help", 0, "add-drive", "");
     row("version", "--version", 0, "vrndevice 1.0.0\n", "");
     row("unknown command", "shwo x", 2, "", "Unknown command 'shwo'");
@@ -97,13 +97,14 @@ void tst_VrnDevice::usage_data()
     row("value missing", "new x --name", 2, "", "new: The value of --name is missing.");
     row("argument that is none of the choices", "completion tcsh", 2, "",
         "completion: SHELL must be bash, zsh or fish.");
-    row("neither a choice nor a file", "new x --template y --name N", 3, "", "no template 'y'");
+    row("neither a choice nor a file", "new x --template y --name N", 3, "",
+        "'y' is neither a built-in template nor a file");
     row("hyphens alone before an option", "show -- --json x", 2, "", "Unexpected argument 'x'");
     row("help in spite of what is missing", "add-drive -h --type KD4_drive", 0, "Usage: ", "");
     row("no help after what is unknown", "show --jsn --help", 2, "", "'--jsn'");
     row("group alone", "network", 2, "", "The command of 'network' is missing.");
-    row("unknown command of a group", "network shwo x", 2, "", "no command 'network shwo'");
-    row("help of a group", "network --help", 0, "  network check  Find", "");
+    row("unknown command of a group", "network shwo x", 2, "", "Unknown command 'network shwo'");
+    row("help of a group", "network --help", 0, "  network check  Report", "");
     row("help on a group", "--help", 0, "  network check  ", "");
     row("argument missing", "show", 2, "", "show: The argument FILE is missing.");
     row("argument too many", "show a b", 2, "", "show: Unexpected argument 'b'.");
@@ -180,7 +181,7 @@ void tst_VrnDevice::newKeepsAnExistingFile()
     const SResult result = run(
         {QStringLiteral("new"), path(), QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
     QCOMPARE(result.exitCode, 1);
-    QVERIFY(result.errors.contains(QStringLiteral("exists already")));
+    QVERIFY(result.errors.contains(QStringLiteral("already exists")));
     QCOMPARE(Files::read(path()), before);
 }
 

@@ -164,7 +164,7 @@ void tst_vrndevice_items::usage_data()
     QTest::newRow("fmt: nothing") << QStringList{u"fmt"_s} << u"The argument FILE is missing."_s;
     QTest::newRow("fmt: two outputs") << QStringList{u"fmt"_s, u"--json"_s, u"-"_s} << u"--json"_s;
     QTest::newRow("fmt: two documents")
-        << QStringList{u"fmt"_s, u"-"_s, FileName} << u"takes one document"_s;
+        << QStringList{u"fmt"_s, u"-"_s, FileName} << u"cannot be combined with other files"_s;
     QTest::newRow("new: no file") << QStringList{u"new"_s, u"--class=kd3"_s, u"--name=N"_s}
                                   << u"FILE is missing."_s;
     QTest::newRow("new: no name") << QStringList{u"new"_s, u"x"_s, u"--template=kd3-drive"_s}

@@ -108,10 +108,12 @@ void tst_vrndevice_smallfiles::usage_data()
     row(u"network set network.conf MODE"_s, u"'MODE' does not have the form KEY=VALUE"_s);
     row(u"network set network.conf mode=DHCP"_s, u"mode: Unknown key"_s);
     row(u"network set network.conf MODE=UNKNOWN"_s, u"MODE: 'UNKNOWN' is not one of"_s);
-    row(u"network set network.conf MODE=DHCP ADDRESS=1.2.3"_s, u"ADDRESS: '1.2.3' is no IPv4"_s);
-    row(u"network set network.conf ADDRESS="_s, u"ADDRESS: '' is no IPv4"_s);
-    row(u"network set network.conf NETCON_PORT=65536"_s, u"NETCON_PORT: '65536' is no port"_s);
-    row(u"network set network.conf KERNEL_LOGLEVEL=8"_s, u"KERNEL_LOGLEVEL: '8' is no"_s);
+    row(u"network set network.conf MODE=DHCP ADDRESS=1.2.3"_s,
+        u"ADDRESS: '1.2.3' is not a valid IPv4"_s);
+    row(u"network set network.conf ADDRESS="_s, u"ADDRESS: '' is not a valid IPv4"_s);
+    row(u"network set network.conf NETCON_PORT=65536"_s,
+        u"NETCON_PORT: '65536' is not a valid port"_s);
+    row(u"network set network.conf KERNEL_LOGLEVEL=8"_s, u"KERNEL_LOGLEVEL: '8' is not a valid"_s);
     row(u"module"_s, u"The argument NAME is missing."_s);
     row(u"message"_s, u"The argument CODE is missing."_s);
     row(u"message 1024 400x"_s, u"'400x' is not a valid code"_s);
@@ -183,7 +185,7 @@ void tst_vrndevice_smallfiles::pipeInPlaceOfAFile()
     QCOMPARE(mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
     const SResult result = run(arguments);
     QCOMPARE(result.exitCode, 3);
-    QVERIFY2(result.errors.contains(u"no regular file"_s), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(u"not a regular file"_s), qPrintable(result.errors));
 }
 
 void tst_vrndevice_smallfiles::settingsShow()
@@ -361,7 +363,8 @@ void tst_vrndevice_smallfiles::networkCheck()
     const QStringList lines = text.output.split(QLatin1Char('\n'));
     QCOMPARE(lines.size(), 3);
     QCOMPARE(lines.at(0), u"network.conf:2: ADRESS: Unknown key."_s);
-    QVERIFY(lines.at(1).startsWith(u"network.conf:4: GATEWAY: '1.2.300.1' is no IPv4 address"_s));
+    QVERIFY(lines.at(1).startsWith(
+        u"network.conf:4: GATEWAY: '1.2.300.1' is not a valid IPv4 address"_s));
 
     const SResult json = run(u"network check network.conf --json"_s);
     QCOMPARE(json.exitCode, 1);
@@ -472,20 +475,20 @@ void tst_vrndevice_smallfiles::modulesThatAreNone_data()
     const auto row = [](const QString &name, const QString &reason) {
         QTest::newRow(qPrintable(name)) << name << reason;
     };
-    row(u"om1_EC_H2_V1_3.bin"_s, u"'om1' is no slot: OM and a number"_s);
-    row(u"OM_EC_H2_V1_3.bin"_s, u"'OM' is no slot"_s);
+    row(u"om1_EC_H2_V1_3.bin"_s, u"'om1' is not a valid slot; write OM and a number"_s);
+    row(u"OM_EC_H2_V1_3.bin"_s, u"'OM' is not a valid slot"_s);
     row(u"_EC_H2_V1_3.bin"_s, u"The slot is missing"_s);
-    row(u"OM1_E_H2_V1_3.bin"_s, u"'E' is no interface: two letters or more"_s);
+    row(u"OM1_E_H2_V1_3.bin"_s, u"'E' is not a valid interface; write two letters or more"_s);
     row(u"OM1_EC.bin"_s, u"The hardware version is missing"_s);
-    row(u"OM1_EC_2_V1_3.bin"_s, u"'2' is no hardware version: H and a number"_s);
+    row(u"OM1_EC_2_V1_3.bin"_s, u"'2' is not a valid hardware version; write H and a number"_s);
     row(u"OM1_EC_H2.bin"_s, u"The software version is missing"_s);
-    row(u"OM1_EC_H2_V1.bin"_s, u"'V1' is no software version: V and two numbers"_s);
-    row(u"OM1_EC_H2_V1_x.bin"_s, u"'V1_x' is no software version"_s);
+    row(u"OM1_EC_H2_V1.bin"_s, u"'V1' is not a valid software version; write V and two numbers"_s);
+    row(u"OM1_EC_H2_V1_x.bin"_s, u"'V1_x' is not a valid software version"_s);
     row(u"OM1_EC_H2_V1_3"_s, u"The suffix is missing, such as .bin"_s);
     row(u"OM1_EC_H2_V1_3."_s, u"The suffix is missing"_s);
-    row(u"OM1_EC_H2_V1_3_.bin"_s, u"Behind the versions"_s);
-    row(u"OM1_EC_H2_V1_3_a-b.bin"_s, u"Behind the versions"_s);
-    row(u"OM1_EC_H2_V1_3.b-n"_s, u"Behind the versions"_s);
+    row(u"OM1_EC_H2_V1_3_.bin"_s, u"After the versions"_s);
+    row(u"OM1_EC_H2_V1_3_a-b.bin"_s, u"After the versions"_s);
+    row(u"OM1_EC_H2_V1_3.b-n"_s, u"After the versions"_s);
 }
 
 void tst_vrndevice_smallfiles::modulesThatAreNone()

@@ -57,7 +57,7 @@ Utf16 utf16Of(const QByteArray &bytes)
     return Utf16::No;
 }
 
-/** The text in UTF-8, up to the first unit that is none; @p complete tells whether that is all. */
+/** The text in UTF-8, up to the first invalid unit; @p complete is set to whether that is all. */
 QByteArray fromUtf16(const QByteArray &bytes, Utf16 order, bool &complete)
 {
     QString text(bytes.size() / 2, Qt::Uninitialized);
@@ -126,14 +126,14 @@ struct SOpenElement {
     QDomElement element;
     int children = 0;
     bool hasChildElements = false;
-    /** It holds text that is not blank: from then on blanks are text, too. */
+    /** It contains text other than white space: from then on white space is text, too. */
     bool holdsText = false;
-    // Where its own blanks begin among all that wait.
+    // Where its own white space begins among all that waits.
     size_t firstBlank;
     int firstBlankByte;
 };
 
-/** Blank text before the child `index`; whether it is layout is not known yet. */
+/** White space before the child `index`; whether it is layout is not known yet. */
 struct SBlank {
     int index;
     int size;
@@ -432,7 +432,7 @@ private:
         return node;
     }
 
-    /** From here on the element's blanks are text. */
+    /** From here on the element's white space is text. */
     void holdText()
     {
         SOpenElement &open = m_open.back();

@@ -48,7 +48,8 @@ private:
 
     static bool isInstruction(const QDomNode &node)
     {
-        // The XML declaration is a processing instruction in a QDomDocument; it is written anew.
+        // The XML declaration is a processing instruction in a QDomDocument; the writer writes its
+        // own.
         return node.isProcessingInstruction() && node.nodeName() != QLatin1String("xml");
     }
 

@@ -224,7 +224,7 @@ ICLogfile *CXmlAbstractVornFile::logfile() const
 
 QDomDocument CXmlAbstractVornFile::domDocument() const
 {
-    // Whoever holds a handle may have removed the root: what is left is no document.
+    // Whoever holds a handle may have removed the root: what is left is not a document.
     return d->document.documentElement().isNull() ? QDomDocument() : d->document;
 }
 

@@ -22,7 +22,7 @@ int indexOfLoneSurrogate(const QString &text);
 int indexOfIllegal(const QString &text);
 
 /**
- * Whether the element's own text says something. Blank text beside child elements does not: it only
+ * Whether the element's own text has a meaning. White space beside child elements has none: it only
  * indents them, unless there is other text between them as well.
  */
 bool holdsText(const QDomElement &element);
