@@ -448,8 +448,8 @@
         <translation>Die bevorzugten Sprachen der Meldungen, durch Doppelpunkte getrennt; nicht verwendet in der Locale C.</translation>
     </message>
     <message>
-        <source>The locale: the first of these variables that is set. In a language without a catalogue and in the locale C, all texts are English. Numbers and dates are the same in every locale.</source>
-        <translation>Die Locale: die erste dieser Variablen, die gesetzt ist. In einer Sprache ohne Katalog und in der Locale C sind alle Texte englisch. Zahlen und Datumsangaben sind in jeder Locale gleich.</translation>
+        <source>The locale: the first variable that is set. In a language without a catalogue and in the locale C, all texts are English. Numbers and dates are the same in every locale.</source>
+        <translation>Die Locale: die erste Variable, die gesetzt ist. In einer Sprache ohne Katalog und in der Locale C sind alle Texte englisch. Zahlen und Datumsangaben sind in jeder Locale gleich.</translation>
     </message>
     <message>
         <source>If it is set and not empty, nothing is printed in colour.</source>

@@ -16,8 +16,8 @@ class CConfigurationCheckPrivate;
  * values, what contradicts each other in it and, when a project directory is given, the files that
  * it refers to. Nothing is changed, neither the document nor the project.
  *
- * The document is judged by how the device and the tools read it: what they would pass over, take
- * for something else, or cannot do is an error; what works but is hardly meant is a warning.
+ * The document is judged by how the device and the tools read it: what they would ignore, read as
+ * something else, or cannot do is an error; what works but is hardly meant is a warning.
  *
  * The hardware identity of a drive fits when its prefix, name and platform are those of the
  * device's (see CDeviceBaseElement::isParameterHardwareIdCompatible()); version and revision may

@@ -42,8 +42,8 @@ class CConfigurationItemsPrivate;
  * What is there, is what readers of the document take for it: parameter files and plug-ins at any
  * depth below their list, no empty files. Values are given as they stand in the document, also
  * those that no reader understands; a drive's key alone is its number as it is read, and its text
- * where that is none. An item is there when its element is, with the empty value when nothing is in
- * it.
+ * if that is not a number. An item is there when its element is, with the empty value when nothing
+ * is in it.
  *
  * The object works on a file object that it does not own and that must outlive it; what it changes
  * is in that document at once, and saved by its save(). Failures are reported by the result and

@@ -169,7 +169,7 @@ QList<STerm> environment()
          Texts::tr("The preferred languages of messages, separated by colons; not used in the "
                    "locale C.")},
         {"LC_ALL, LC_MESSAGES, LANG",
-         Texts::tr("The locale: the first of these variables that is set. In a language without a "
+         Texts::tr("The locale: the first variable that is set. In a language without a "
                    "catalogue and in the locale C, all texts are English. Numbers and dates are "
                    "the same in every locale.")},
         {"NO_COLOR", Texts::tr("If it is set and not empty, nothing is printed in colour.")},
