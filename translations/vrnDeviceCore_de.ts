@@ -2286,7 +2286,7 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     </message>
     <message>
         <source>This line is ignored: it belongs to a quotation mark or backslash before it.</source>
-        <translation>Diese Zeile wird ignoriert: Sie gehört zu einem Anführungszeichen oder Rückstrich davor.</translation>
+        <translation>Diese Zeile wird ignoriert: Sie gehört zu einem Anführungszeichen oder Backslash davor.</translation>
     </message>
     <message>
         <source>This overrides the value in line %1.</source>

@@ -140,12 +140,12 @@ void tst_vrndevice_english::phrases_data()
     const auto row = [](const char *text, int everywhere, int forUsers) {
         QTest::newRow(text) << QString::fromLatin1(text) << everywhere << forUsers;
     };
-    row("The date is not valid.", 1, 1);
-    row("'x' is not a valid date.", 1, 1);
+    row("A date is none.", 1, 1);
+    row("'x' is no date.", 1, 1);
     row("The files are no lists.", 1, 1);
-    row("Unknown element.", 1, 1);
+    row("Nobody knows an element of that name.", 1, 1);
     row("Make the changes that 'diff --json' told.", 1, 1);
-    row("The version of the document is missing.", 1, 1);
+    row("The document does not tell its version.", 1, 1);
     row("Tell the type, and mend the name.", 2, 2);
     row("It is passed over; save it anew.", 2, 2);
     row("An empty item is as good as none.", 1, 1);
