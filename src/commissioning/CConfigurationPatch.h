@@ -24,11 +24,11 @@ public:
     enum EChange {
         /** An entry of a list, or a single file, comes with its items. */
         ADD_ENTRY,
-        /** It goes, with its items. */
+        /** It is removed, with its items. */
         REMOVE_ENTRY,
         /** The value of an item becomes another one. */
         SET_ITEM,
-        /** An item goes from the document. */
+        /** An item is removed from the document. */
         REMOVE_ITEM
     };
 
@@ -62,7 +62,7 @@ public:
 
     /**
      * The changes in the terms of an engineer, one line each: "drive 2: name DRIVE-2 -> GRIPPER".
-     * Behind an entry that is added or removed follow its items, indented lines each.
+     * An entry that is added or removed is followed by its items, one indented line each.
      */
     QStringList describe() const;
     /** The first line alone. */

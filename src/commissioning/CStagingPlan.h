@@ -10,14 +10,14 @@
 
 /**
  * What has to be put on a device so that it runs a configuration: every directory, and every file
- * with where it comes from and where it goes; and what is in the way of that.
+ * with its source and its place; and the problems that prevent staging.
  *
  * The directories are those of CDeviceFileSystem, those of every drive under the drive's own
  * number, and those in which files lie. The files are the document itself, which goes where
  * CDeviceBaseElement::configurationFile() names, and all that CDeviceBaseElement::allFiles() names.
  *
- * A file of the project may be reached through symbolic links as long as it is in the project.
- * The project is looked at once, when the plan is made.
+ * A file of the project may be reached through symbolic links as long as it is in the project. The
+ * project is read once, when the plan is made.
  *
  * Thread-safe as every value: see docs/architecture.md.
  */

@@ -9,7 +9,7 @@ struct SConfigurationFinding {
     enum ESeverity {
         /** The device or a tool would not do what is meant. */
         ERROR,
-        /** It works, but somebody should look at it. */
+        /** It works, but is probably not intended. */
         WARNING
     };
 

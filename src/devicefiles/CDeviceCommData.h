@@ -37,7 +37,7 @@ public:
 
     /**
      * Compares everything but the connection state, on purpose: a device stays the same when it
-     * goes off line, so whoever waits for a change of state must compare the states.
+     * goes off line, so code that waits for a change of state must compare the states.
      */
     bool operator==(const CDeviceCommData &other) const;
     bool operator!=(const CDeviceCommData &other) const;

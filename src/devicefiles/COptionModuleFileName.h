@@ -50,13 +50,13 @@ public:
     /** "V" and two numbers, such as "V1_3". */
     QString softwareVersion() const;
     bool setSoftwareVersion(const QString &version);
-    /** Free text behind the versions; stored unchecked, but only letters, digits and "_" are valid.
+    /** Free text after the versions; stored unchecked, but only letters, digits and "_" are valid.
      */
     QString text() const;
     void setText(const QString &text);
     /** Extension without its dot; empty stands for standardSuffix() in fileName(). */
     QString suffix() const;
-    /** Of a @p suffix with dots only the part behind the last one counts. */
+    /** Of a @p suffix with dots only the part after the last one counts. */
     void setSuffix(const QString &suffix);
 
     /** The number in the hardware version; -1 when it is empty or too large for an int. */

@@ -46,7 +46,7 @@ public:
      * form "KEY=value", sections, unknown and repeated keys, keys that are not read because of a
      * quotation mark or backslash before them, invalid values, a static address that is missing,
      * and one whose gateway lies in another subnet. A gateway "0.0.0.0" means that there is no
-     * gateway. Keys in a section are not looked at.
+     * gateway. Keys in a section are not checked.
      */
     static QList<SFinding> check(const QByteArray &content);
 

@@ -169,7 +169,7 @@ QString CommandLine::noSuchOption(const QString &given) const
     for (const SOption &option : m_options) {
         names.append(written(option.names.last()));
     }
-    // One hyphen where two belong is no letter that is wrong.
+    // A word with one hyphen instead of two is not reported as an unknown letter.
     const bool isShort = !given.startsWith(QLatin1String("--"));
     const QString nearest = nearestName(isShort ? QLatin1Char('-') + given : given, names);
     return nearest.isEmpty()
@@ -206,7 +206,7 @@ QString CommandLine::sortLetters(const QString &word, QStringList &following)
     return QString();
 }
 
-/** Tells options from arguments. @return what is wrong; empty when nothing is */
+/** Separates options from arguments. @return what is wrong; empty when nothing is */
 QString CommandLine::sort(const QStringList &given)
 {
     QStringList words = given;

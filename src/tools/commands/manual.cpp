@@ -4,7 +4,7 @@
 
 #include <QCoreApplication>
 
-// The manual page in the language of man(7). Everything that it tells about commands comes from the
+// The manual page in the language of man(7). Everything that it says about commands comes from the
 // table of which the help is made, too.
 
 namespace {

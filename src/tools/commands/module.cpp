@@ -6,7 +6,7 @@
 
 namespace {
 
-/** One part of a name: who knows whether a text is one, and what to say when it is none. */
+/** One part of a name: how to check a text, and the message for an invalid one. */
 struct SPart {
     bool (COptionModuleFileName::*set)(const QString &);
     QString missing;

@@ -81,7 +81,7 @@ bool openTemplate(const QString &nameOrPath, CDeviceConfigurationFile10 &file)
     return openConfiguration(nameOrPath, file);
 }
 
-/** As above, and refuses one without device or, if a class is asked for, of another class. */
+/** Reads a template, and refuses one without device or, if a class is given, of another class. */
 int openTemplateOfClass(const QString &nameOrPath, NDeviceConf::EDeviceClass deviceClass,
                         CDeviceConfigurationFile10 &file)
 {
@@ -120,7 +120,7 @@ void adaptProjectDirectories(CDeviceConfigurationFile10 &file, const QString &ol
                              const QString &newName)
 {
     using namespace NVornXmlTags;
-    // Collected first: the list that QDom gives is made anew after each change of the document.
+    // Collected first: QDom rebuilds its list after each change of the document.
     const QDomNodeList found = file.findDeviceElement().elementsByTagName(TAG_PROJECT_DIR);
     QList<QDomElement> directories;
     for (int i = 0; i < found.size(); ++i) {

@@ -13,7 +13,7 @@ const QString CreateOption = QStringLiteral("create");
 
 const uint HighestDriveNumber = 254;
 
-/** Sets what "NUMBER=NAME" tells. @return whether it is that */
+/** Sets the name in "NUMBER=NAME". @return whether @p text has this form */
 bool setDriveName(const QString &assignment, CDeviceSettings &settings)
 {
     const int equals = assignment.indexOf(QLatin1Char('='));
@@ -68,7 +68,7 @@ int run(const CommandLine &line)
     }
     file.setDeviceSettings(settings);
     if (file.save(path, settingsVersion()) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return EXIT_NOT_DONE; // the library has told why
+        return EXIT_NOT_DONE; // the library has reported why
     }
     return printContent(settings, line.wantsJson());
 }
