@@ -1665,12 +1665,12 @@
         <translation>Hinweis:</translation>
     </message>
     <message>
-        <source>No bus identifier</source>
-        <translation>Keine Buskennung</translation>
+        <source>No bus ID</source>
+        <translation>Keine Bus-ID</translation>
     </message>
     <message>
-        <source>Bus identifier %1</source>
-        <translation>Buskennung %1</translation>
+        <source>Bus ID %1</source>
+        <translation>Bus-ID %1</translation>
     </message>
     <message>
         <source>Drive %1: %2, series %3. %4.</source>

@@ -792,7 +792,7 @@ void tst_CConfigurationReport::marksInTheDrawing()
         QCOMPARE(marks,
                  (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s,
                               u"#mark-error"_s}));
-        QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus identifier 1000."_s);
+        QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus ID 1000."_s);
         QVERIFY(titles.at(2).endsWith(u"It has warnings."_s));
         QVERIFY(titles.at(3).endsWith(u"It has errors."_s));
     }

@@ -45,7 +45,7 @@ const SPhrase PhrasesForUsers[] = {
     {R"(\bleft open\b)", "undefined"},
     {R"(\bcapital\b|\bsmall letters\b)", "case-sensitive, upper case, lower case"},
     {R"(\bsub-devices?\b)", "drive"},
-    {R"(\bbus ids?\b)", "bus identifier"},
+    {R"((?-i:\b[Bb]us ids?\b))", "bus identifier; bus ID where there is little room"},
     {R"(\bmakes? no sense\b)", "cannot be combined"},
 };
 

@@ -453,8 +453,8 @@ DeviceDrawing::SModule Page::module(const SDrive &drive) const
     module.isOldSeries = element.isKD2();
     module.series = element.isKD2() ? QStringLiteral("KD2") : QStringLiteral("KD3");
     module.busNumber = QString::number(element.busId());
-    module.bus = element.busId() == 0 ? Texts::tr("No bus identifier")
-                                      : Texts::tr("Bus identifier %1").arg(module.busNumber);
+    module.bus = element.busId() == 0 ? Texts::tr("No bus ID")
+                                      : Texts::tr("Bus ID %1").arg(module.busNumber);
     module.target = QStringLiteral("drive-%1").arg(module.number);
     QStringList items = {drive.item};
     for (const SFile &file : drive.files) {
