@@ -148,10 +148,10 @@ private slots:
         const auto row = [](const char *name, const QByteArray &bytes, const char *reason) {
             QTest::newRow(name) << bytes << QString::fromUtf8(reason);
         };
-        row("nothing", "", "no JSON");
-        row("no JSON", "manifest", "no JSON");
-        row("cut off", json.chopped(3), "no JSON");
-        row("something behind it", json + "{}", "no JSON");
+        row("nothing", "", "not JSON");
+        row("no JSON", "manifest", "not JSON");
+        row("cut off", json.chopped(3), "not JSON");
+        row("something behind it", json + "{}", "not JSON");
         row("a list", "[]", "not a manifest of a device tree");
         row("other JSON", "{}", "not a manifest of a device tree");
         row("another format", changed("vrn-device-manifest", "manifest"), "not a manifest");
@@ -221,12 +221,13 @@ private slots:
         row("another form of a text", manifestOf("", file("\\u0061")), "changed");
         row("half a pair", manifestOf("", file("\\ud800")), "");
         row("an absolute project path", manifestOf("", file("a", "/b")), "The project path");
-        row("a project path that leads up", manifestOf("", file("a", "b/../../c")), "The project path");
+        row("a project path that leads up", manifestOf("", file("a", "b/../../c")),
+            "The project path");
         row("a project path that is no text",
             manifestOf(
                 "", QByteArray(file("a")).replace("\"projectPath\":\"\"", "\"projectPath\":null")),
             "The project path");
-        row("deeply nested", QByteArray(100000, '['), "no JSON");
+        row("deeply nested", QByteArray(100000, '['), "not JSON");
         row("a byte-order mark", "\xEF\xBB\xBF" + json, "");
         row("too long", json + QByteArray(static_cast<int>(CDeviceManifest::maximumSize()), ' '),
             "larger than");
