@@ -1115,7 +1115,8 @@ void tst_CConfigurationItems::add()
     QVERIFY(opened.bytes().contains('\n' + added.join('\n') + '\n'));
 
     QVERIFY(!opened.items.add(path));
-    QVERIFY2(opened.items.errorText().endsWith(u" already exists"_s),
+    QVERIFY2(opened.items.errorText().startsWith(path + u": the "_s)
+                 && opened.items.errorText().endsWith(u" already exists"_s),
              qPrintable(opened.items.errorText()));
     QVERIFY(opened.items.remove(path));
     QCOMPARE(opened.bytes(), m_sample);
