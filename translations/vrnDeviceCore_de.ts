@@ -1044,107 +1044,107 @@
         <translation>%1: Dieses Verzeichnis gibt es nicht.</translation>
     </message>
     <message>
-        <source>The document does not tell its version.</source>
-        <translation>Das Dokument nennt seine Version nicht.</translation>
+        <source>The version of the document is missing.</source>
+        <translation>Die Version des Dokuments fehlt.</translation>
     </message>
     <message>
-        <source>The document is read as one of version 1.0; write &apos;version=&quot;1.0&quot;&apos;, or save it with a tool.</source>
-        <translation>Das Dokument wird als eines der Version 1.0 gelesen; schreiben Sie &apos;version=&quot;1.0&quot;&apos;, oder sichern Sie es mit einem Werkzeug.</translation>
+        <source>The document is read as version 1.0; add &apos;version=&quot;1.0&quot;&apos; to its first element, or save it with a tool.</source>
+        <translation>Das Dokument wird als Version 1.0 gelesen; ergänzen Sie &apos;version=&quot;1.0&quot;&apos; in seinem ersten Element, oder sichern Sie es mit einem Werkzeug.</translation>
     </message>
     <message>
-        <source>The version of the document is no version.</source>
-        <translation>Die Version des Dokuments ist keine.</translation>
+        <source>The version of the document is not valid.</source>
+        <translation>Die Version des Dokuments ist ungültig.</translation>
     </message>
     <message>
-        <source>A version is one to three numbers with dots between them; the document is read as one of version 1.0.</source>
-        <translation>Eine Version besteht aus einer bis drei Zahlen mit Punkten dazwischen; das Dokument wird als eines der Version 1.0 gelesen.</translation>
+        <source>A version consists of one to three numbers separated by dots; the document is read as version 1.0.</source>
+        <translation>Eine Version besteht aus einer bis drei Zahlen, durch Punkte getrennt; das Dokument wird als Version 1.0 gelesen.</translation>
     </message>
     <message>
         <source>The document is read as one of version 1.0: look whether everything in it is known here, then save it anew.</source>
         <translation>Das Dokument wird als eines der Version 1.0 gelesen: Sehen Sie nach, ob alles darin hier bekannt ist, und sichern Sie es dann neu.</translation>
     </message>
     <message>
-        <source>Nobody knows an element of that name.</source>
-        <translation>Ein Element dieses Namens kennt niemand.</translation>
+        <source>Unknown element.</source>
+        <translation>Unbekanntes Element.</translation>
     </message>
     <message>
-        <source>Mend the name, or remove the element. Capital and small letters matter.</source>
-        <translation>Berichtigen Sie den Namen, oder entfernen Sie das Element. Groß- und Kleinschreibung zählt.</translation>
+        <source>Correct the name, or remove the element. Names are case-sensitive.</source>
+        <translation>Berichtigen Sie den Namen, oder entfernen Sie das Element. Bei Namen wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
     </message>
     <message>
-        <source>An element stands where it is not looked for, and is passed over.</source>
-        <translation>Ein Element steht, wo es nicht gesucht wird, und wird übergangen.</translation>
+        <source>The element is in the wrong place and is ignored.</source>
+        <translation>Das Element steht an der falschen Stelle und wird ignoriert.</translation>
     </message>
     <message>
-        <source>Move the element to where it is looked for; the finding tells where that is.</source>
-        <translation>Verschieben Sie das Element dorthin, wo es gesucht wird; der Befund nennt die Stelle.</translation>
+        <source>Move the element to the place that the finding names.</source>
+        <translation>Verschieben Sie das Element an die Stelle, die der Befund nennt.</translation>
     </message>
     <message>
-        <source>An element stands more than once, but only the first one counts.</source>
-        <translation>Ein Element steht mehrmals, aber nur das erste zählt.</translation>
+        <source>The element occurs more than once; only the first one is read.</source>
+        <translation>Das Element kommt mehrmals vor; gelesen wird nur das erste.</translation>
     </message>
     <message>
-        <source>Remove all but the one that is meant: it is the first one that is read.</source>
-        <translation>Entfernen Sie alle bis auf das gemeinte: Gelesen wird das erste.</translation>
+        <source>Keep the element that is meant, and remove the others.</source>
+        <translation>Behalten Sie das gemeinte Element, und entfernen Sie die anderen.</translation>
     </message>
     <message>
-        <source>An element has an attribute that nobody reads.</source>
-        <translation>Ein Element hat ein Attribut, das niemand liest.</translation>
+        <source>Unknown attribute.</source>
+        <translation>Unbekanntes Attribut.</translation>
     </message>
     <message>
-        <source>Remove the attribute, or mend its name. Names that belong to XML itself, like &apos;xmlns&apos; and &apos;xml:lang&apos;, are no findings.</source>
-        <translation>Entfernen Sie das Attribut, oder berichtigen Sie seinen Namen. Namen, die zu XML selbst gehören, wie &apos;xmlns&apos; und &apos;xml:lang&apos;, sind keine Befunde.</translation>
+        <source>Remove the attribute, or correct its name. Names that belong to XML itself, such as &apos;xmlns&apos; and &apos;xml:lang&apos;, are not reported.</source>
+        <translation>Entfernen Sie das Attribut, oder berichtigen Sie seinen Namen. Namen, die zu XML selbst gehören, wie &apos;xmlns&apos; und &apos;xml:lang&apos;, werden nicht gemeldet.</translation>
     </message>
     <message>
-        <source>Text stands between elements, where nobody reads it.</source>
-        <translation>Text steht zwischen Elementen, wo ihn niemand liest.</translation>
+        <source>Unexpected text between elements; it is ignored.</source>
+        <translation>Unerwarteter Text zwischen Elementen; er wird ignoriert.</translation>
     </message>
     <message>
-        <source>Remove the text, or put it into the element for which it is meant.</source>
-        <translation>Entfernen Sie den Text, oder setzen Sie ihn in das Element, für das er gedacht ist.</translation>
+        <source>Remove the text, or move it into the element for which it is meant.</source>
+        <translation>Entfernen Sie den Text, oder verschieben Sie ihn in das Element, für das er gedacht ist.</translation>
     </message>
     <message>
-        <source>A date is none.</source>
-        <translation>Ein Datum ist keines.</translation>
+        <source>The date is not valid.</source>
+        <translation>Das Datum ist ungültig.</translation>
     </message>
     <message>
-        <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is none, and allowed.</source>
-        <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist keines und erlaubt.</translation>
+        <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is allowed and means that no date is set.</source>
+        <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist erlaubt und bedeutet, dass kein Datum gesetzt ist.</translation>
     </message>
     <message>
-        <source>The configuration was revised before it was created.</source>
-        <translation>Die Konfiguration wurde überarbeitet, bevor sie erstellt wurde.</translation>
+        <source>The revision date is earlier than the creation date.</source>
+        <translation>Das Überarbeitungsdatum liegt vor dem Erstellungsdatum.</translation>
     </message>
     <message>
-        <source>One of the two dates is wrong, or they are interchanged.</source>
-        <translation>Eines der beiden Daten ist falsch, oder sie sind vertauscht.</translation>
+        <source>Correct the wrong date; the two dates may be interchanged.</source>
+        <translation>Berichtigen Sie das falsche Datum; möglicherweise sind die beiden vertauscht.</translation>
     </message>
     <message>
-        <source>So much was found that the rest is left out.</source>
-        <translation>Es wurde so viel gefunden, dass der Rest weggelassen wird.</translation>
+        <source>Too many findings; the remaining ones are left out.</source>
+        <translation>Zu viele Befunde; die übrigen werden weggelassen.</translation>
     </message>
     <message>
-        <source>Mend what is told, then check again: of one document 100,000 findings are told at most.</source>
-        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde genannt.</translation>
+        <source>Correct the reported findings, then check again: at most 100,000 findings are reported for one document.</source>
+        <translation>Beheben Sie die gemeldeten Befunde, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde gemeldet.</translation>
     </message>
     <message>
         <source>Without a device there is nothing to be commissioned; add the element &apos;Device&apos;.</source>
         <translation>Ohne Gerät gibt es nichts in Betrieb zu nehmen; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
     </message>
     <message>
-        <source>The device has no class.</source>
-        <translation>Das Gerät hat keine Klasse.</translation>
+        <source>The device class is missing.</source>
+        <translation>Die Geräteklasse fehlt.</translation>
     </message>
     <message>
         <source>The class of the device is left open.</source>
         <translation>Die Klasse des Geräts ist offen gelassen.</translation>
     </message>
     <message>
-        <source>There is no such class of devices.</source>
-        <translation>Diese Geräteklasse gibt es nicht.</translation>
+        <source>Unknown device class.</source>
+        <translation>Unbekannte Geräteklasse.</translation>
     </message>
     <message>
-        <source>Write &apos;kc2&apos; or &apos;kd3&apos;, in small letters; anything else is read as &apos;Undefined&apos;.</source>
+        <source>Write &apos;kc2&apos; or &apos;kd3&apos; in lower case; anything else is read as &apos;Undefined&apos;.</source>
         <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
     </message>
     <message>
@@ -1156,24 +1156,24 @@
         <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
     </message>
     <message>
-        <source>The device does not tell the name of its configuration.</source>
-        <translation>Das Gerät nennt den Namen seiner Konfiguration nicht.</translation>
+        <source>The configuration name is missing.</source>
+        <translation>Der Konfigurationsname fehlt.</translation>
     </message>
     <message>
-        <source>The name is read as &apos;STD&apos;; write it down.</source>
-        <translation>Der Name wird als &apos;STD&apos; gelesen; schreiben Sie ihn hin.</translation>
+        <source>The name is read as &apos;STD&apos;. Add the name that is meant.</source>
+        <translation>Der Name wird als &apos;STD&apos; gelesen. Ergänzen Sie den gemeinten Namen.</translation>
     </message>
     <message>
-        <source>The name of the configuration is empty.</source>
-        <translation>Der Name der Konfiguration ist leer.</translation>
+        <source>The configuration name is empty.</source>
+        <translation>Der Konfigurationsname ist leer.</translation>
     </message>
     <message>
-        <source>Give the configuration a name: without one it has no directories on the device.</source>
-        <translation>Geben Sie der Konfiguration einen Namen: Ohne einen hat sie keine Verzeichnisse auf dem Gerät.</translation>
+        <source>Give the configuration a name: the directories on the device are named after it.</source>
+        <translation>Geben Sie der Konfiguration einen Namen: Die Verzeichnisse auf dem Gerät werden nach ihm benannt.</translation>
     </message>
     <message>
-        <source>The name of the configuration is one that the device keeps for itself.</source>
-        <translation>Der Name der Konfiguration ist einer, den sich das Gerät selbst vorbehält.</translation>
+        <source>The configuration name is reserved by the device.</source>
+        <translation>Der Konfigurationsname ist vom Gerät reserviert.</translation>
     </message>
     <message>
         <source>The name of the configuration is not one that can be entered.</source>
@@ -1184,39 +1184,39 @@
         <translation>Eine Hardwarekennung ist keine.</translation>
     </message>
     <message>
-        <source>Write &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; the last three are numbers from 0 to 65535. What is none is read as empty.</source>
-        <translation>Schreiben Sie &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; die letzten drei sind Zahlen von 0 bis 65535. Was keine Hardwarekennung ist, wird als leer gelesen.</translation>
+        <source>Write &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; the last three are numbers from 0 to 65535. An invalid hardware identity is read as empty.</source>
+        <translation>Schreiben Sie &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; die letzten drei sind Zahlen von 0 bis 65535. Eine ungültige Hardwarekennung wird als leer gelesen.</translation>
     </message>
     <message>
-        <source>The hardware identity of a drive does not fit that of the device.</source>
-        <translation>Die Hardwarekennung eines Antriebs passt nicht zu der des Geräts.</translation>
+        <source>The hardware identity of the drive does not match that of the device.</source>
+        <translation>Die Hardwarekennung des Antriebs passt nicht zu der des Geräts.</translation>
     </message>
     <message>
-        <source>Prefix, name and platform of a drive are those of its device; version and revision may differ. Was the drive copied from another device?</source>
-        <translation>Präfix, Name und Plattform eines Antriebs sind die seines Geräts; Version und Revision dürfen abweichen. Wurde der Antrieb von einem anderen Gerät kopiert?</translation>
+        <source>A drive must have the prefix, name and platform of its device; version and revision may differ. Check whether the drive was copied from another device.</source>
+        <translation>Ein Antrieb muss Präfix, Name und Plattform seines Geräts haben; Version und Revision dürfen abweichen. Prüfen Sie, ob der Antrieb von einem anderen Gerät kopiert wurde.</translation>
     </message>
     <message>
-        <source>A start option is none, or not separated by a blank.</source>
-        <translation>Eine Startoption ist keine oder nicht durch ein Leerzeichen getrennt.</translation>
+        <source>The start option is not valid, or not separated by a space.</source>
+        <translation>Die Startoption ist ungültig oder nicht durch ein Leerzeichen getrennt.</translation>
     </message>
     <message>
-        <source>An option begins with a hyphen, and what follows it is its argument. Options are separated by blanks; a line break is none.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich, und was ihr folgt, ist ihr Argument. Optionen sind durch Leerzeichen getrennt; ein Zeilenumbruch ist keines.</translation>
+        <source>An option begins with a hyphen; the words after it are its argument. Separate options by spaces, not by line breaks.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; die Wörter danach sind ihr Argument. Trennen Sie Optionen durch Leerzeichen, nicht durch Zeilenumbrüche.</translation>
     </message>
     <message>
-        <source>A start option stands more than once.</source>
-        <translation>Eine Startoption steht mehrmals.</translation>
+        <source>The start option occurs more than once.</source>
+        <translation>Die Startoption kommt mehrmals vor.</translation>
     </message>
     <message>
-        <source>Remove all but one. The same option with different arguments is no finding.</source>
-        <translation>Entfernen Sie alle bis auf eine. Dieselbe Option mit verschiedenen Argumenten ist kein Befund.</translation>
+        <source>Remove all but one. The same option with different arguments is not reported.</source>
+        <translation>Entfernen Sie alle bis auf eine. Dieselbe Option mit verschiedenen Argumenten wird nicht gemeldet.</translation>
     </message>
     <message>
-        <source>The flag of the OPC UA server is neither true nor false.</source>
-        <translation>Der Schalter des OPC-UA-Servers ist weder true noch false.</translation>
+        <source>The flag of the OPC UA server is neither &apos;true&apos; nor &apos;false&apos;.</source>
+        <translation>Der Schalter des OPC-UA-Servers ist weder &apos;true&apos; noch &apos;false&apos;.</translation>
     </message>
     <message>
-        <source>Write &apos;true&apos; or &apos;false&apos;, in small letters; anything else is read as &apos;false&apos;.</source>
+        <source>Write &apos;true&apos; or &apos;false&apos; in lower case; anything else is read as &apos;false&apos;.</source>
         <translation>Schreiben Sie &apos;true&apos; oder &apos;false&apos; in Kleinbuchstaben; alles andere wird als &apos;false&apos; gelesen.</translation>
     </message>
     <message>
@@ -1224,36 +1224,36 @@
         <translation>Eine Parameterdatei hat keinen Typ.</translation>
     </message>
     <message>
-        <source>Tell the type with the attribute &apos;type&apos;; it decides where the file lies.</source>
-        <translation>Nennen Sie den Typ mit dem Attribut &apos;type&apos;; er entscheidet, wo die Datei liegt.</translation>
+        <source>Specify the type with the attribute &apos;type&apos;; it determines the directory of the file.</source>
+        <translation>Geben Sie den Typ mit dem Attribut &apos;type&apos; an; er bestimmt das Verzeichnis der Datei.</translation>
     </message>
     <message>
-        <source>The type of a parameter file is left open.</source>
-        <translation>Der Typ einer Parameterdatei ist offen gelassen.</translation>
+        <source>The type of the parameter file is &apos;Undefined&apos;.</source>
+        <translation>Der Typ der Parameterdatei ist &apos;Undefined&apos;.</translation>
     </message>
     <message>
-        <source>Tell the type; it decides where the file lies.</source>
-        <translation>Nennen Sie den Typ; er entscheidet, wo die Datei liegt.</translation>
+        <source>Specify the type; it determines the directory of the file.</source>
+        <translation>Geben Sie den Typ an; er bestimmt das Verzeichnis der Datei.</translation>
     </message>
     <message>
-        <source>There is no such type of parameter files.</source>
-        <translation>Diesen Typ von Parameterdateien gibt es nicht.</translation>
+        <source>Unknown parameter file type.</source>
+        <translation>Unbekannter Typ einer Parameterdatei.</translation>
     </message>
     <message>
-        <source>Mend the type; it is read as &apos;Undefined&apos;. Capital and small letters matter.</source>
-        <translation>Berichtigen Sie den Typ; er wird als &apos;Undefined&apos; gelesen. Groß- und Kleinschreibung zählt.</translation>
+        <source>Correct the type; it is read as &apos;Undefined&apos;. Types are case-sensitive.</source>
+        <translation>Berichtigen Sie den Typ; er wird als &apos;Undefined&apos; gelesen. Bei Typen wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
     </message>
     <message>
-        <source>A parameter file stands more than once.</source>
-        <translation>Eine Parameterdatei steht mehrmals.</translation>
+        <source>The parameter file is listed more than once.</source>
+        <translation>Die Parameterdatei ist mehrmals aufgeführt.</translation>
     </message>
     <message>
-        <source>Remove all but one. Files of one name, but different types, may stand side by side.</source>
-        <translation>Entfernen Sie alle bis auf eine. Dateien gleichen Namens, aber verschiedenen Typs dürfen nebeneinander stehen.</translation>
+        <source>Remove all but one. Files of the same name but of different types are allowed.</source>
+        <translation>Entfernen Sie alle bis auf eine. Dateien gleichen Namens, aber verschiedenen Typs sind erlaubt.</translation>
     </message>
     <message>
-        <source>An FPGA image stands more than once.</source>
-        <translation>Ein FPGA-Abbild steht mehrmals.</translation>
+        <source>The FPGA image is listed more than once.</source>
+        <translation>Das FPGA-Abbild ist mehrmals aufgeführt.</translation>
     </message>
     <message>
         <source>A plug-in has no name.</source>
@@ -1264,40 +1264,40 @@
         <translation>Ein Plug-in hat keine Version.</translation>
     </message>
     <message>
-        <source>Tell the version: it is the end of the file&apos;s name.</source>
-        <translation>Nennen Sie die Version: Sie ist das Ende des Dateinamens.</translation>
+        <source>Specify the version; the file name ends with it.</source>
+        <translation>Geben Sie die Version an; der Dateiname endet mit ihr.</translation>
     </message>
     <message>
-        <source>The version of a plug-in is not made of numbers and dots.</source>
-        <translation>Die Version eines Plug-ins besteht nicht aus Zahlen und Punkten.</translation>
+        <source>The version of the plug-in does not consist of numbers and dots.</source>
+        <translation>Die Version des Plug-ins besteht nicht aus Zahlen und Punkten.</translation>
     </message>
     <message>
-        <source>Write numbers with dots between them, like &apos;1.3&apos;: the version is the end of the file&apos;s name.</source>
-        <translation>Schreiben Sie Zahlen mit Punkten dazwischen, wie &apos;1.3&apos;: Die Version ist das Ende des Dateinamens.</translation>
+        <source>Write numbers separated by dots, such as &apos;1.3&apos;; the file name ends with the version.</source>
+        <translation>Schreiben Sie Zahlen, durch Punkte getrennt, wie &apos;1.3&apos;; der Dateiname endet mit der Version.</translation>
     </message>
     <message>
-        <source>A plug-in stands more than once.</source>
-        <translation>Ein Plug-in steht mehrmals.</translation>
+        <source>The plug-in is listed more than once.</source>
+        <translation>Das Plug-in ist mehrmals aufgeführt.</translation>
     </message>
     <message>
         <source>The priority of a plug-in is no number, or out of range.</source>
         <translation>Die Priorität eines Plug-ins ist keine Zahl oder außerhalb des Bereichs.</translation>
     </message>
     <message>
-        <source>Write a number from -2147483648 to 2147483647; otherwise the plug-in has no priority.</source>
-        <translation>Schreiben Sie eine Zahl von -2147483648 bis 2147483647; sonst hat das Plug-in keine Priorität.</translation>
+        <source>Write a number from -2147483648 to 2147483647; otherwise the plug-in is read without a priority.</source>
+        <translation>Schreiben Sie eine Zahl von -2147483648 bis 2147483647; sonst wird das Plug-in ohne Priorität gelesen.</translation>
     </message>
     <message>
-        <source>The plug-in that runs the application is not among the plug-ins.</source>
-        <translation>Das Plug-in, das die Anwendung ausführt, ist nicht unter den Plug-ins.</translation>
+        <source>The execution plug-in is not in the list of plug-ins.</source>
+        <translation>Das Plug-in der Anwendung ist nicht in der Liste der Plug-ins.</translation>
     </message>
     <message>
-        <source>Add the plug-in, or name one of those that are there.</source>
-        <translation>Fügen Sie das Plug-in hinzu, oder nennen Sie eines von denen, die da sind.</translation>
+        <source>Add the plug-in, or choose one from the list.</source>
+        <translation>Fügen Sie das Plug-in hinzu, oder wählen Sie eines aus der Liste.</translation>
     </message>
     <message>
-        <source>There is the plug-in of the EtherCAT master, but no file for it.</source>
-        <translation>Das Plug-in des EtherCAT-Masters ist da, aber keine Datei dafür.</translation>
+        <source>The EtherCAT master plug-in has no bus configuration file.</source>
+        <translation>Das Plug-in des EtherCAT-Masters hat keine Datei mit der Buskonfiguration.</translation>
     </message>
     <message>
         <source>There is a file for the EtherCAT master, but not its plug-in.</source>
@@ -1316,120 +1316,120 @@
         <translation>Diesen Antriebstyp gibt es nicht.</translation>
     </message>
     <message>
-        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; anything else, also in small letters, is read as &apos;KD3_drive&apos;.</source>
+        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; anything else, also in lower case, is read as &apos;KD3_drive&apos;.</source>
         <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; alles andere, auch in Kleinbuchstaben, wird als &apos;KD3_drive&apos; gelesen.</translation>
     </message>
     <message>
-        <source>A drive that is not read as KD2 has a file of KD2 drives.</source>
-        <translation>Ein Antrieb, der nicht als KD2 gelesen wird, hat eine Datei von KD2-Antrieben.</translation>
+        <source>A file for KD2 drives belongs to a drive of another type.</source>
+        <translation>Eine Datei für KD2-Antriebe gehört zu einem Antrieb anderen Typs.</translation>
     </message>
     <message>
-        <source>Remove the file, or make the drive a &apos;KD2_drive&apos;.</source>
-        <translation>Entfernen Sie die Datei, oder machen Sie den Antrieb zu einem &apos;KD2_drive&apos;.</translation>
+        <source>Remove the file, or change the type of the drive to &apos;KD2_drive&apos;.</source>
+        <translation>Entfernen Sie die Datei, oder ändern Sie den Typ des Antriebs in &apos;KD2_drive&apos;.</translation>
     </message>
     <message>
-        <source>A drive has no number.</source>
-        <translation>Ein Antrieb hat keine Nummer.</translation>
+        <source>The drive number is missing.</source>
+        <translation>Die Antriebsnummer fehlt.</translation>
     </message>
     <message>
-        <source>Write a number from 0 to 254; otherwise the drive gets the next one that no other drive has.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste, die kein anderer Antrieb hat.</translation>
+        <source>Write a number from 0 to 254; otherwise the drive gets the next free number.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste freie Nummer.</translation>
     </message>
     <message>
-        <source>The number of a drive is no number, or out of range.</source>
-        <translation>Die Nummer eines Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
+        <source>The drive number is not a number, or is out of range.</source>
+        <translation>Die Antriebsnummer ist keine Zahl oder außerhalb des Bereichs.</translation>
     </message>
     <message>
-        <source>Write a number from 0 to 254; otherwise the drive gets the next one that no other drive has. 255 means that no number is assigned.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste, die kein anderer Antrieb hat. 255 bedeutet, dass keine Nummer vergeben ist.</translation>
+        <source>Write a number from 0 to 254; otherwise the drive gets the next free number. 255 means that no number is assigned.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste freie Nummer. 255 bedeutet, dass keine Nummer vergeben ist.</translation>
     </message>
     <message>
-        <source>Two drives have the same number.</source>
-        <translation>Zwei Antriebe haben dieselbe Nummer.</translation>
+        <source>Two drives have the same drive number.</source>
+        <translation>Zwei Antriebe haben dieselbe Antriebsnummer.</translation>
     </message>
     <message>
-        <source>Give each drive a number of its own; otherwise all but the first get the next ones that no other drive has.</source>
-        <translation>Geben Sie jedem Antrieb eine eigene Nummer; sonst bekommen alle bis auf den ersten die nächsten, die kein anderer Antrieb hat.</translation>
+        <source>Give each drive a unique number; otherwise all drives but the first get the next free numbers.</source>
+        <translation>Geben Sie jedem Antrieb eine eindeutige Nummer; sonst bekommen alle Antriebe bis auf den ersten die nächsten freien Nummern.</translation>
     </message>
     <message>
-        <source>A drive has no name.</source>
-        <translation>Ein Antrieb hat keinen Namen.</translation>
+        <source>The drive has no name.</source>
+        <translation>Der Antrieb hat keinen Namen.</translation>
     </message>
     <message>
         <source>Give each drive a name of its own.</source>
         <translation>Geben Sie jedem Antrieb einen eigenen Namen.</translation>
     </message>
     <message>
-        <source>The bus identifier of a drive is no number, or out of range.</source>
-        <translation>Die Buskennung eines Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
+        <source>The bus identifier of the drive is not a number, or is out of range.</source>
+        <translation>Die Buskennung des Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
     </message>
     <message>
-        <source>Write a number from 0 to 4294967295; anything else is read as 0, which means that none is assigned.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 4294967295; alles andere wird als 0 gelesen, was bedeutet, dass keine vergeben ist.</translation>
+        <source>Write a number from 0 to 4294967295; anything else is read as 0, which means that no bus identifier is assigned.</source>
+        <translation>Schreiben Sie eine Zahl von 0 bis 4294967295; alles andere wird als 0 gelesen, was bedeutet, dass keine Buskennung vergeben ist.</translation>
     </message>
     <message>
         <source>Look whether both drives are on the same bus; there each has an identifier of its own.</source>
         <translation>Sehen Sie nach, ob beide Antriebe am selben Bus sind; dort hat jeder seine eigene Kennung.</translation>
     </message>
     <message>
-        <source>A file has no name.</source>
-        <translation>Eine Datei hat keinen Namen.</translation>
+        <source>The file has no name.</source>
+        <translation>Die Datei hat keinen Namen.</translation>
     </message>
     <message>
         <source>The name of a file is a path, or has characters that no name has.</source>
         <translation>Der Name einer Datei ist ein Pfad oder hat Zeichen, die kein Name hat.</translation>
     </message>
     <message>
-        <source>Write the name alone; directories have elements of their own. A line break in the element belongs to the name, too.</source>
-        <translation>Schreiben Sie nur den Namen; Verzeichnisse haben eigene Elemente. Auch ein Zeilenumbruch im Element gehört zum Namen.</translation>
+        <source>Write the name without a directory; directories have elements of their own. A line break in the element is part of the name.</source>
+        <translation>Schreiben Sie den Namen ohne Verzeichnis; Verzeichnisse haben eigene Elemente. Ein Zeilenumbruch im Element ist Teil des Namens.</translation>
     </message>
     <message>
-        <source>A file stands more than once.</source>
-        <translation>Eine Datei steht mehrmals.</translation>
+        <source>The file is listed more than once.</source>
+        <translation>Die Datei ist mehrmals aufgeführt.</translation>
     </message>
     <message>
         <source>Give one of the two another name or another directory on the device. Parameter files, FPGA images, plug-ins and the configuration itself have their places, too.</source>
         <translation>Geben Sie einer der beiden einen anderen Namen oder ein anderes Verzeichnis auf dem Gerät. Auch Parameterdateien, FPGA-Abbilder, Plug-ins und die Konfiguration selbst haben ihre Plätze.</translation>
     </message>
     <message>
-        <source>A file has no directory on the device.</source>
-        <translation>Eine Datei hat kein Verzeichnis auf dem Gerät.</translation>
+        <source>The file has no directory on the device.</source>
+        <translation>Die Datei hat kein Verzeichnis auf dem Gerät.</translation>
     </message>
     <message>
-        <source>Tell where on the device the file belongs.</source>
-        <translation>Nennen Sie den Platz auf dem Gerät, an den die Datei gehört.</translation>
+        <source>Specify the directory of the file on the device.</source>
+        <translation>Geben Sie das Verzeichnis der Datei auf dem Gerät an.</translation>
     </message>
     <message>
-        <source>A directory on the device does not begin with a slash.</source>
-        <translation>Ein Verzeichnis auf dem Gerät beginnt nicht mit einem Schrägstrich.</translation>
+        <source>The directory on the device does not begin with a slash.</source>
+        <translation>Das Verzeichnis auf dem Gerät beginnt nicht mit einem Schrägstrich.</translation>
     </message>
     <message>
-        <source>Begin with a slash; the directory is read as if there were one.</source>
-        <translation>Beginnen Sie mit einem Schrägstrich; das Verzeichnis wird gelesen, als stünde dort einer.</translation>
+        <source>Begin the directory with a slash; it is read as if it began with one.</source>
+        <translation>Beginnen Sie das Verzeichnis mit einem Schrägstrich; es wird gelesen, als begänne es mit einem.</translation>
     </message>
     <message>
-        <source>A directory on the device leads upwards with &quot;..&quot;.</source>
-        <translation>Ein Verzeichnis auf dem Gerät führt nach oben mit &quot;..&quot;.</translation>
+        <source>The directory on the device contains &apos;..&apos;.</source>
+        <translation>Das Verzeichnis auf dem Gerät enthält &apos;..&apos;.</translation>
     </message>
     <message>
-        <source>Write the directory that is meant, without &apos;..&apos;.</source>
-        <translation>Schreiben Sie das gemeinte Verzeichnis, ohne &apos;..&apos;.</translation>
+        <source>Write the directory that is meant without &apos;..&apos;.</source>
+        <translation>Schreiben Sie das gemeinte Verzeichnis ohne &apos;..&apos;.</translation>
     </message>
     <message>
-        <source>A directory on the device lies outside the device&apos;s trees.</source>
-        <translation>Ein Verzeichnis auf dem Gerät liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
+        <source>The directory on the device is outside the directory trees of the device.</source>
+        <translation>Das Verzeichnis auf dem Gerät liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
     </message>
     <message>
         <source>A directory on the device belongs to another configuration.</source>
         <translation>Ein Verzeichnis auf dem Gerät gehört zu einer anderen Konfiguration.</translation>
     </message>
     <message>
-        <source>Was the configuration renamed? Then the directory has to follow.</source>
-        <translation>Wurde die Konfiguration umbenannt? Dann muss das Verzeichnis folgen.</translation>
+        <source>If the configuration was renamed, change the directory accordingly.</source>
+        <translation>Wenn die Konfiguration umbenannt wurde, passen Sie das Verzeichnis an.</translation>
     </message>
     <message>
-        <source>A directory in the project is absolute, and holds on one computer only.</source>
-        <translation>Ein Verzeichnis im Projekt ist absolut und gilt nur auf einem Rechner.</translation>
+        <source>The directory in the project is an absolute path, which is valid on one computer only.</source>
+        <translation>Das Verzeichnis im Projekt ist ein absoluter Pfad, der nur auf einem Rechner gilt.</translation>
     </message>
     <message>
         <source>A directory in the project leads out of the project.</source>
@@ -1440,92 +1440,88 @@
         <translation>Ein Verzeichnis im Projekt liegt nicht unter dem des Geräts und wird beim Lesen des Geräts entfernt.</translation>
     </message>
     <message>
-        <source>Object dictionary and fault texts lie below the directory that is called as the device.</source>
-        <translation>Objektverzeichnis und Fehlertexte liegen unter dem Verzeichnis, das wie das Gerät heißt.</translation>
+        <source>Move the object dictionary or the fault texts below the directory that has the name of the device.</source>
+        <translation>Verschieben Sie das Objektverzeichnis oder die Fehlertexte unter das Verzeichnis, das den Namen des Geräts hat.</translation>
     </message>
     <message>
-        <source>A file is not in the project.</source>
-        <translation>Eine Datei ist nicht im Projekt.</translation>
+        <source>The file is not in the project.</source>
+        <translation>Die Datei ist nicht im Projekt.</translation>
     </message>
     <message>
-        <source>Put the file into the project, or mend its name or directory. For a parameter file, an FPGA image and a plug-in the directory follows from its kind; &apos;vrndevice place&apos; shows it.</source>
-        <translation>Legen Sie die Datei in das Projekt, oder berichtigen Sie ihren Namen oder ihr Verzeichnis. Bei einer Parameterdatei, einem FPGA-Abbild und einem Plug-in folgt das Verzeichnis aus der Art; &apos;vrndevice place&apos; zeigt es.</translation>
+        <source>Put the file into the project, or correct its name or directory. The directory of a parameter file, an FPGA image or a plug-in follows from its kind; &apos;vrndevice place&apos; shows it.</source>
+        <translation>Legen Sie die Datei in das Projekt, oder berichtigen Sie ihren Namen oder ihr Verzeichnis. Das Verzeichnis einer Parameterdatei, eines FPGA-Abbilds oder eines Plug-ins folgt aus der Art; &apos;vrndevice place&apos; zeigt es.</translation>
     </message>
     <message>
-        <source>A file is in the project with capital and small letters interchanged.</source>
-        <translation>Eine Datei ist im Projekt mit vertauschter Groß- und Kleinschreibung.</translation>
+        <source>The file name in the project differs in upper and lower case.</source>
+        <translation>Der Dateiname im Projekt weicht in der Groß- und Kleinschreibung ab.</translation>
     </message>
     <message>
-        <source>Call the file in the project and in the configuration the same: on the device capital and small letters matter.</source>
-        <translation>Nennen Sie die Datei im Projekt und in der Konfiguration gleich: Auf dem Gerät zählt die Groß- und Kleinschreibung.</translation>
+        <source>Use the same file name in the project and in the configuration; file names on the device are case-sensitive.</source>
+        <translation>Verwenden Sie im Projekt und in der Konfiguration denselben Dateinamen; auf dem Gerät wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
     </message>
     <message>
         <source>Replace the symbolic link by the file: whoever gets the project does not get what lies outside.</source>
         <translation>Ersetzen Sie den symbolischen Link durch die Datei: Wer das Projekt bekommt, bekommt nicht, was außerhalb liegt.</translation>
     </message>
     <message>
-        <source>What is in the project is no regular file.</source>
-        <translation>Was im Projekt steht, ist keine reguläre Datei.</translation>
+        <source>The file in the project is not a regular file.</source>
+        <translation>Die Datei im Projekt ist keine reguläre Datei.</translation>
     </message>
     <message>
-        <source>Replace the directory, pipe or device of that name by the file.</source>
-        <translation>Ersetzen Sie das Verzeichnis, die Pipe oder die Gerätedatei dieses Namens durch die Datei.</translation>
+        <source>Replace the directory, pipe or device of that name with a regular file.</source>
+        <translation>Ersetzen Sie das Verzeichnis, die Pipe oder die Gerätedatei dieses Namens durch eine reguläre Datei.</translation>
     </message>
     <message>
-        <source>A file in the project cannot be read.</source>
-        <translation>Eine Datei im Projekt ist nicht lesbar.</translation>
+        <source>The file in the project cannot be read.</source>
+        <translation>Die Datei im Projekt ist nicht lesbar.</translation>
     </message>
     <message>
-        <source>Look at the permissions of the file.</source>
-        <translation>Sehen Sie sich die Rechte der Datei an.</translation>
+        <source>Check the permissions of the file.</source>
+        <translation>Prüfen Sie die Zugriffsrechte der Datei.</translation>
     </message>
     <message>
-        <source>A file in the project is empty.</source>
-        <translation>Eine Datei im Projekt ist leer.</translation>
+        <source>The file in the project is empty.</source>
+        <translation>Die Datei im Projekt ist leer.</translation>
     </message>
     <message>
-        <source>Fill the file, or remove the entry.</source>
-        <translation>Füllen Sie die Datei, oder entfernen Sie den Eintrag.</translation>
+        <source>Add the content of the file, or remove the entry.</source>
+        <translation>Ergänzen Sie den Inhalt der Datei, oder entfernen Sie den Eintrag.</translation>
     </message>
     <message>
-        <source>A file in the project is not the one that the manifest tells.</source>
-        <translation>Eine Datei im Projekt ist nicht die, die das Manifest nennt.</translation>
+        <source>The file in the project differs from the manifest.</source>
+        <translation>Die Datei im Projekt weicht vom Manifest ab.</translation>
     </message>
     <message>
-        <source>Put back the file with the size and the SHA-256 sum that &apos;manifest.json&apos; tells, or make the manifest anew.</source>
-        <translation>Legen Sie die Datei mit der Größe und der SHA-256-Summe zurück, die &apos;manifest.json&apos; nennt, oder erstellen Sie das Manifest neu.</translation>
+        <source>Restore the file with the size and the SHA-256 checksum in &apos;manifest.json&apos;, or create the manifest again.</source>
+        <translation>Stellen Sie die Datei mit der Größe und der SHA-256-Prüfsumme in &apos;manifest.json&apos; wieder her, oder erzeugen Sie das Manifest neu.</translation>
     </message>
     <message>
         <source>Make the manifest anew. Until then the files are not compared with it.</source>
         <translation>Erstellen Sie das Manifest neu. Bis dahin werden die Dateien nicht mit ihm verglichen.</translation>
     </message>
     <message>
-        <source>Write &apos;%1&apos;: capital and small letters matter.</source>
-        <translation>Schreiben Sie &apos;%1&apos;: Groß- und Kleinschreibung zählt.</translation>
+        <source>Write &apos;%1&apos;; upper and lower case are distinguished.</source>
+        <translation>Schreiben Sie &apos;%1&apos;; zwischen Groß- und Kleinschreibung wird unterschieden.</translation>
     </message>
     <message>
-        <source>The project&apos;s manifest cannot be read: %1</source>
+        <source>The manifest of the project cannot be read: %1</source>
         <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
     </message>
     <message>
-        <source>a manifest as it is made by staging</source>
-        <translation>ein Manifest, wie es beim Bereitstellen entsteht</translation>
+        <source>a manifest written by staging</source>
+        <translation>ein Manifest, das beim Bereitstellen geschrieben wird</translation>
     </message>
     <message>
-        <source>Make the manifest anew; files are not compared with this one.</source>
-        <translation>Erzeugen Sie das Manifest neu; mit diesem werden keine Dateien verglichen.</translation>
+        <source>Create the manifest again; the files are not compared with this one.</source>
+        <translation>Erzeugen Sie das Manifest neu; mit diesem werden die Dateien nicht verglichen.</translation>
     </message>
     <message>
-        <source>There is more to be found; from here on it is left out.</source>
-        <translation>Es gibt mehr zu finden; ab hier wird es weggelassen.</translation>
+        <source>Correct the reported findings, then check again.</source>
+        <translation>Beheben Sie die gemeldeten Befunde, und prüfen Sie dann erneut.</translation>
     </message>
     <message>
-        <source>Mend what is told, then check again.</source>
-        <translation>Beheben Sie, was genannt ist, und prüfen Sie dann erneut.</translation>
-    </message>
-    <message>
-        <source>The element &apos;%1&apos; has no attribute &apos;%2&apos;; nobody reads it.</source>
-        <translation>Das Element &apos;%1&apos; hat kein Attribut &apos;%2&apos;; niemand liest es.</translation>
+        <source>Unknown attribute &apos;%2&apos; of the element &apos;%1&apos;; it is ignored.</source>
+        <translation>Unbekanntes Attribut &apos;%2&apos; des Elements &apos;%1&apos;; es wird ignoriert.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
@@ -1536,43 +1532,43 @@
         <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
     </message>
     <message>
-        <source>nothing but elements</source>
-        <translation>nichts als Elemente</translation>
+        <source>only elements</source>
+        <translation>nur Elemente</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not looked for in &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird in &apos;%2&apos; nicht gesucht.</translation>
+        <source>&apos;%1&apos; does not belong in &apos;%2&apos;; it is ignored.</source>
+        <translation>&apos;%1&apos; gehört nicht in &apos;%2&apos;; es wird ignoriert.</translation>
     </message>
     <message>
         <source>There is no element &apos;%1&apos;; nobody reads it.</source>
         <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
     </message>
     <message>
-        <source>nothing but text</source>
-        <translation>nichts als Text</translation>
+        <source>only text</source>
+        <translation>nur Text</translation>
     </message>
     <message>
-        <source>Remove the element, or mend its name.</source>
+        <source>Remove the element, or correct its name.</source>
         <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
     </message>
     <message>
-        <source>The document is read as one of version %1; save it anew with this version.</source>
-        <translation>Das Dokument wird wie eines der Version %1 gelesen; sichern Sie es neu mit dieser Version.</translation>
+        <source>The document is read as version %1; save it again with this version.</source>
+        <translation>Das Dokument wird als Version %1 gelesen; sichern Sie es erneut mit dieser Version.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no version.</source>
-        <translation>&apos;%1&apos; ist keine Version.</translation>
+        <source>&apos;%1&apos; is not a valid version.</source>
+        <translation>&apos;%1&apos; ist keine gültige Version.</translation>
     </message>
     <message>
         <source>Without a device there is nothing to be commissioned.</source>
         <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no date.</source>
-        <translation>&apos;%1&apos; ist kein Datum.</translation>
+        <source>&apos;%1&apos; is not a valid date.</source>
+        <translation>&apos;%1&apos; ist kein gültiges Datum.</translation>
     </message>
     <message>
-        <source>a date like 2026-11-21</source>
+        <source>a date such as 2026-11-21</source>
         <translation>ein Datum wie 2026-11-21</translation>
     </message>
     <message>
@@ -1580,60 +1576,60 @@
         <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
     </message>
     <message>
-        <source>The device is read without options, files and plug-ins.</source>
+        <source>The device is read without options, files or plug-ins.</source>
         <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
     </message>
     <message>
-        <source>There is no device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keine Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
+        <source>Unknown device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
+        <translation>Unbekannte Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
     </message>
     <message>
         <source>Without a name it has no directories on the device.</source>
         <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is a name that the device keeps for itself.</source>
-        <translation>&apos;%1&apos; ist ein Name, den sich das Gerät selbst vorbehält.</translation>
+        <source>The configuration name &apos;%1&apos; is reserved by the device.</source>
+        <translation>Der Konfigurationsname &apos;%1&apos; ist vom Gerät reserviert.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be the name of a configuration.</source>
         <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no hardware identity.</source>
-        <translation>&apos;%1&apos; ist keine Hardwarekennung.</translation>
+        <source>&apos;%1&apos; is not a valid hardware identity.</source>
+        <translation>&apos;%1&apos; ist keine gültige Hardwarekennung.</translation>
     </message>
     <message>
-        <source>The last three are numbers from 0 to 65535; it is read as empty.</source>
-        <translation>Die letzten drei sind Zahlen von 0 bis 65535; sie wird als leer gelesen.</translation>
+        <source>The last three are numbers from 0 to 65535; an invalid hardware identity is read as empty.</source>
+        <translation>Die letzten drei sind Zahlen von 0 bis 65535; eine ungültige Hardwarekennung wird als leer gelesen.</translation>
     </message>
     <message>
-        <source>options like -trace with one blank between each two</source>
-        <translation>Optionen wie -trace mit je einem Leerzeichen dazwischen</translation>
+        <source>options such as -trace, separated by single spaces</source>
+        <translation>Optionen wie -trace, durch einzelne Leerzeichen getrennt</translation>
     </message>
     <message>
-        <source>Options are separated by something other than a blank.</source>
+        <source>Options are separated by something other than a space.</source>
         <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
     </message>
     <message>
-        <source>The device takes this for one word.</source>
-        <translation>Das Gerät hält dies für ein Wort.</translation>
+        <source>The device reads this as one word.</source>
+        <translation>Das Gerät liest dies als ein Wort.</translation>
     </message>
     <message>
-        <source>An option has a hyphen, but no name.</source>
+        <source>An option has a hyphen but no name.</source>
         <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no option, and follows none.</source>
-        <translation>&apos;%1&apos; ist keine Option und folgt auf keine.</translation>
+        <source>&apos;%1&apos; is neither an option nor the value of one.</source>
+        <translation>&apos;%1&apos; ist weder eine Option noch der Wert einer Option.</translation>
     </message>
     <message>
-        <source>An option begins with a hyphen; what follows it is its argument.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich; was ihr folgt, ist ihr Argument.</translation>
+        <source>An option begins with a hyphen; the words after it are its argument.</source>
+        <translation>Eine Option beginnt mit einem Bindestrich; die Wörter danach sind ihr Argument.</translation>
     </message>
     <message>
-        <source>The option &apos;%1&apos; stands more than once.</source>
-        <translation>Die Option &apos;%1&apos; steht mehrmals.</translation>
+        <source>The option &apos;%1&apos; occurs more than once.</source>
+        <translation>Die Option &apos;%1&apos; kommt mehrmals vor.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
@@ -1664,8 +1660,8 @@
         <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
     </message>
     <message>
-        <source>There is no type &apos;%1&apos; of parameter files; it is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Typ &apos;%1&apos; von Parameterdateien; er wird als &apos;%2&apos; gelesen.</translation>
+        <source>The plug-in &apos;%1&apos; is listed more than once.</source>
+        <translation>Das Plug-in &apos;%1&apos; ist mehrmals aufgeführt.</translation>
     </message>
     <message>
         <source>The FPGA image &apos;%1&apos; stands more than once.</source>
@@ -1684,12 +1680,12 @@
         <translation>Seine Datei wäre &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no version of a plug-in.</source>
-        <translation>&apos;%1&apos; ist keine Version eines Plug-ins.</translation>
+        <source>&apos;%1&apos; is not a valid plug-in version.</source>
+        <translation>&apos;%1&apos; ist keine gültige Version eines Plug-ins.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no priority.</source>
-        <translation>&apos;%1&apos; ist keine Priorität.</translation>
+        <source>&apos;%1&apos; is not a valid priority.</source>
+        <translation>&apos;%1&apos; ist keine gültige Priorität.</translation>
     </message>
     <message>
         <source>a number from -2147483648 to 2147483647</source>
@@ -1704,7 +1700,7 @@
         <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
     </message>
     <message>
-        <source>Remove the file, or mend the drive&apos;s type.</source>
+        <source>Remove the file, or correct the type of the drive.</source>
         <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
     </message>
     <message>
@@ -1712,83 +1708,75 @@
         <translation>Der Antrieb hat keinen Typ; er wird als &apos;%1&apos; gelesen.</translation>
     </message>
     <message>
-        <source>The type of the drive is left open; it is read as &apos;%1&apos;.</source>
-        <translation>Der Typ des Antriebs ist offen gelassen; er wird als &apos;%1&apos; gelesen.</translation>
+        <source>The type of the drive is &apos;Undefined&apos;; it is read as &apos;%1&apos;.</source>
+        <translation>Der Typ des Antriebs ist &apos;Undefined&apos;; er wird als &apos;%1&apos; gelesen.</translation>
     </message>
     <message>
-        <source>There is no type &apos;%1&apos; of drives; the drive is read as &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
+        <source>Unknown drive type &apos;%1&apos;; the drive is read as &apos;%2&apos;.</source>
+        <translation>Unbekannter Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
     </message>
     <message>
         <source>a number from 0 to %1</source>
         <translation>eine Zahl von 0 bis %1</translation>
     </message>
     <message>
-        <source>The drive is read with the next number that no other drive has.</source>
-        <translation>Der Antrieb wird mit der nächsten Nummer gelesen, die kein anderer hat.</translation>
+        <source>The drive is read with the next free number.</source>
+        <translation>Der Antrieb wird mit der nächsten freien Nummer gelesen.</translation>
     </message>
     <message>
-        <source>The drive has no number.</source>
-        <translation>Der Antrieb hat keine Nummer.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no number of a drive.</source>
-        <translation>&apos;%1&apos; ist keine Antriebsnummer.</translation>
+        <source>&apos;%1&apos; is not a valid drive number.</source>
+        <translation>&apos;%1&apos; ist keine gültige Antriebsnummer.</translation>
     </message>
     <message>
         <source>The number %1 is also that of %2.</source>
         <translation>Die Nummer %1 ist auch die von %2.</translation>
     </message>
     <message>
-        <source>a number of its own</source>
-        <translation>eine eigene Nummer</translation>
+        <source>a unique number</source>
+        <translation>eine eindeutige Nummer</translation>
     </message>
     <message>
         <source>When the drive is read it is named after its number.</source>
         <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
     </message>
     <message>
-        <source>The name &apos;%1&apos; is also that of %2.</source>
-        <translation>Der Name &apos;%1&apos; ist auch der von %2.</translation>
+        <source>a unique name</source>
+        <translation>ein eindeutiger Name</translation>
     </message>
     <message>
-        <source>a name of its own</source>
-        <translation>ein eigener Name</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no bus identifier; it is read as 0.</source>
-        <translation>&apos;%1&apos; ist keine Buskennung; sie wird als 0 gelesen.</translation>
+        <source>&apos;%1&apos; is not a valid bus identifier; it is read as 0.</source>
+        <translation>&apos;%1&apos; ist keine gültige Buskennung; sie wird als 0 gelesen.</translation>
     </message>
     <message>
         <source>a number from 0 to 4294967295</source>
         <translation>eine Zahl von 0 bis 4294967295</translation>
     </message>
     <message>
-        <source>The bus identifier %1 is also that of %2.</source>
-        <translation>Die Buskennung %1 ist auch die von %2.</translation>
+        <source>The bus identifier %1 is already used by %2.</source>
+        <translation>Die Buskennung %1 ist schon durch %2 belegt.</translation>
     </message>
     <message>
-        <source>an identifier of its own</source>
-        <translation>eine eigene Kennung</translation>
+        <source>a unique bus identifier</source>
+        <translation>eine eindeutige Buskennung</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no name of a file.</source>
         <translation>&apos;%1&apos; ist kein Dateiname.</translation>
     </message>
     <message>
-        <source>a name without directory, slashes and line breaks</source>
-        <translation>ein Name ohne Verzeichnis, Schrägstriche und Zeilenumbrüche</translation>
+        <source>a name without directories, slashes and line breaks</source>
+        <translation>ein Name ohne Verzeichnisse, Schrägstriche und Zeilenumbrüche</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; leads upwards.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; führt nach oben.</translation>
+        <source>The directory &apos;%1&apos; contains &apos;..&apos;.</source>
+        <translation>Das Verzeichnis &apos;%1&apos; enthält &apos;..&apos;.</translation>
     </message>
     <message>
         <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
         <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
     </message>
     <message>
-        <source>The directory &apos;%1&apos; lies outside the device&apos;s trees.</source>
+        <source>The directory &apos;%1&apos; is outside the directory trees of the device.</source>
         <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
     </message>
     <message>
@@ -1812,7 +1800,7 @@
         <translation>ein eigener Platz</translation>
     </message>
     <message>
-        <source>The one that is transferred last overwrites the other one.</source>
+        <source>The file that is transferred last overwrites the other one.</source>
         <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
     <message>
@@ -1820,23 +1808,23 @@
         <translation>Eine symbolische Verknüpfung dieses Namens führt ins Leere.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is called &apos;%2&apos; in the project.</source>
+        <source>The file &apos;%1&apos; is named &apos;%2&apos; in the project.</source>
         <translation>Die Datei &apos;%1&apos; heißt im Projekt &apos;%2&apos;.</translation>
     </message>
     <message>
-        <source>Capital and small letters matter on the device.</source>
-        <translation>Auf dem Gerät zählt die Groß- und Kleinschreibung.</translation>
+        <source>File names on the device are case-sensitive.</source>
+        <translation>Auf dem Gerät wird bei Dateinamen zwischen Groß- und Kleinschreibung unterschieden.</translation>
     </message>
     <message>
-        <source>A symbolic link leads from &apos;%1&apos; out of the project.</source>
-        <translation>Eine symbolische Verknüpfung führt von &apos;%1&apos; aus dem Projekt hinaus.</translation>
+        <source>A symbolic link on the path &apos;%1&apos; leads out of the project.</source>
+        <translation>Eine symbolische Verknüpfung auf dem Pfad &apos;%1&apos; führt aus dem Projekt hinaus.</translation>
     </message>
     <message>
         <source>Whoever gets the project does not get the file.</source>
         <translation>Wer das Projekt bekommt, bekommt die Datei nicht.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no regular file.</source>
+        <source>&apos;%1&apos; is not a regular file.</source>
         <translation>&apos;%1&apos; ist keine reguläre Datei.</translation>
     </message>
     <message>
@@ -1848,7 +1836,7 @@
         <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
     </message>
     <message>
-        <source>Put back the file, or make the manifest anew.</source>
+        <source>Restore the file, or create the manifest again.</source>
         <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
     </message>
     <message>
@@ -1859,80 +1847,80 @@
 <context>
     <name>CConfigurationItems</name>
     <message>
-        <source>%1: there is no such drive</source>
-        <translation>%1: diesen Antrieb gibt es nicht</translation>
+        <source>%1: the drive does not exist</source>
+        <translation>%1: der Antrieb existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is no such parameter file</source>
-        <translation>%1: diese Parameterdatei gibt es nicht</translation>
+        <source>%1: the parameter file does not exist</source>
+        <translation>%1: die Parameterdatei existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is no such FPGA image</source>
-        <translation>%1: dieses FPGA-Abbild gibt es nicht</translation>
+        <source>%1: the FPGA image does not exist</source>
+        <translation>%1: das FPGA-Abbild existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is no such OPC UA file</source>
-        <translation>%1: diese OPC-UA-Datei gibt es nicht</translation>
+        <source>%1: the OPC UA file does not exist</source>
+        <translation>%1: die OPC-UA-Datei existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is no such plug-in</source>
-        <translation>%1: dieses Plug-in gibt es nicht</translation>
+        <source>%1: the plug-in does not exist</source>
+        <translation>%1: das Plug-in existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is no such option</source>
-        <translation>%1: diese Option gibt es nicht</translation>
+        <source>%1: the option does not exist</source>
+        <translation>%1: die Option existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is no such file</source>
-        <translation>%1: diese Datei gibt es nicht</translation>
+        <source>%1: the file does not exist</source>
+        <translation>%1: die Datei existiert nicht</translation>
     </message>
     <message>
-        <source>%1: there is such a drive already</source>
-        <translation>%1: diesen Antrieb gibt es schon</translation>
+        <source>%1: the drive already exists</source>
+        <translation>%1: der Antrieb existiert schon</translation>
     </message>
     <message>
-        <source>%1: there is such a parameter file already</source>
-        <translation>%1: diese Parameterdatei gibt es schon</translation>
+        <source>%1: the parameter file already exists</source>
+        <translation>%1: die Parameterdatei existiert schon</translation>
     </message>
     <message>
-        <source>%1: there is such an FPGA image already</source>
-        <translation>%1: dieses FPGA-Abbild gibt es schon</translation>
+        <source>%1: the FPGA image already exists</source>
+        <translation>%1: das FPGA-Abbild existiert schon</translation>
     </message>
     <message>
-        <source>%1: there is such an OPC UA file already</source>
-        <translation>%1: diese OPC-UA-Datei gibt es schon</translation>
+        <source>%1: the OPC UA file already exists</source>
+        <translation>%1: die OPC-UA-Datei existiert schon</translation>
     </message>
     <message>
-        <source>%1: there is such a plug-in already</source>
-        <translation>%1: dieses Plug-in gibt es schon</translation>
+        <source>%1: the plug-in already exists</source>
+        <translation>%1: das Plug-in existiert schon</translation>
     </message>
     <message>
-        <source>%1: there is such an option already</source>
-        <translation>%1: diese Option gibt es schon</translation>
+        <source>%1: the option already exists</source>
+        <translation>%1: die Option existiert schon</translation>
     </message>
     <message>
-        <source>%1: there is such a file already</source>
-        <translation>%1: diese Datei gibt es schon</translation>
+        <source>%1: the file already exists</source>
+        <translation>%1: die Datei existiert schon</translation>
     </message>
     <message>
         <source>%1: %2 Expected: %3.</source>
         <translation>%1: %2 Erwartet: %3.</translation>
     </message>
     <message>
-        <source>%1: only entries of lists can be added</source>
-        <translation>%1: nur Elemente von Listen können hinzugefügt werden</translation>
+        <source>%1: only list entries can be added</source>
+        <translation>%1: nur Listenelemente können hinzugefügt werden</translation>
     </message>
     <message>
-        <source>%1: a second entry of the same key cannot be added</source>
-        <translation>%1: ein zweites Element mit demselben Schlüssel kann nicht hinzugefügt werden</translation>
+        <source>%1: a second entry with the same key cannot be added</source>
+        <translation>%1: ein zweites Listenelement mit demselben Schlüssel kann nicht hinzugefügt werden</translation>
     </message>
     <message>
-        <source>%1: only single items, entries and files can be removed</source>
+        <source>%1: only single items, list entries and files can be removed</source>
         <translation>%1: nur einzelne Einträge, Listenelemente und Dateien können entfernt werden</translation>
     </message>
     <message>
-        <source>%1: the entry cannot be without it</source>
-        <translation>%1: das Listenelement kann nicht ohne dies sein</translation>
+        <source>%1: the entry cannot exist without this item</source>
+        <translation>%1: das Listenelement kann nicht ohne diesen Eintrag bestehen</translation>
     </message>
     <message>
         <source>There is no configuration.</source>
@@ -1975,16 +1963,16 @@
         <translation>ein &apos;]&apos; fehlt</translation>
     </message>
     <message>
-        <source>only &apos;]&apos; and &apos;\&apos; can stand behind a &apos;\&apos;</source>
-        <translation>nur &apos;]&apos; und &apos;\&apos; können hinter einem &apos;\&apos; stehen</translation>
+        <source>only &apos;]&apos; and &apos;\&apos; can follow a &apos;\&apos;</source>
+        <translation>nur &apos;]&apos; und &apos;\&apos; können auf ein &apos;\&apos; folgen</translation>
     </message>
     <message>
-        <source>behind a key only a number from 2 on can stand in brackets</source>
-        <translation>hinter einem Schlüssel kann in Klammern nur eine Zahl ab 2 stehen</translation>
+        <source>after a key, brackets can only contain a number from 2 on</source>
+        <translation>nach einem Schlüssel können Klammern nur eine Zahl ab 2 enthalten</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no path: %2 at character %3</source>
-        <translation>&apos;%1&apos; ist kein Pfad: %2 bei Zeichen %3</translation>
+        <source>&apos;%1&apos; is not a valid path: %2 at character %3</source>
+        <translation>&apos;%1&apos; ist kein gültiger Pfad: %2 bei Zeichen %3</translation>
     </message>
     <message>
         <source>%1: this has no value of its own</source>
@@ -2010,8 +1998,8 @@
         <translation>%1: von unserer Seite geändert, aber von der anderen entfernt</translation>
     </message>
     <message>
-        <source>%1: what theirs changed cannot be stored</source>
-        <translation>%1: was die andere Seite geändert hat, kann nicht gespeichert werden</translation>
+        <source>%1: the change of theirs cannot be stored</source>
+        <translation>%1: die Änderung der anderen Seite kann nicht gespeichert werden</translation>
     </message>
 </context>
 <context>
@@ -2025,8 +2013,8 @@
         <translation>Dies ist keine Änderungsdatei: &quot;%1&quot; ist nicht &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>This patch has another version than %1, which can be read.</source>
-        <translation>Diese Änderungsdatei hat eine andere Version als %1, die gelesen werden kann.</translation>
+        <source>The version of the patch is not supported; version %1 is required.</source>
+        <translation>Die Version der Änderungsdatei wird nicht unterstützt; verlangt ist Version %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing.</source>
@@ -2049,24 +2037,24 @@
         <translation>Änderung %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; was changed before.</source>
-        <translation>&quot;%1&quot; wurde schon geändert.</translation>
+        <source>&quot;%1&quot; is changed more than once.</source>
+        <translation>&quot;%1&quot; wird mehrmals geändert.</translation>
     </message>
     <message>
         <source>This is not an object.</source>
         <translation>Dies ist kein Objekt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; tells no change that is known.</source>
-        <translation>&quot;%1&quot; nennt keine bekannte Änderung.</translation>
+        <source>The value of &quot;%1&quot; is not a known kind of change.</source>
+        <translation>Der Wert von &quot;%1&quot; ist keine bekannte Art von Änderung.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no path.</source>
-        <translation>&quot;%1&quot; ist kein Pfad.</translation>
+        <source>&quot;%1&quot; is not a valid path.</source>
+        <translation>&quot;%1&quot; ist kein gültiger Pfad.</translation>
     </message>
     <message>
-        <source>The item &quot;%1&quot; is told twice.</source>
-        <translation>Der Eintrag &quot;%1&quot; ist zweimal genannt.</translation>
+        <source>The item &quot;%1&quot; occurs more than once.</source>
+        <translation>Der Eintrag &quot;%1&quot; kommt mehrmals vor.</translation>
     </message>
     <message>
         <source>%1 added</source>
@@ -2077,24 +2065,24 @@
         <translation>%1 entfernt</translation>
     </message>
     <message>
-        <source>There is no configuration.</source>
-        <translation>Es gibt keine Konfiguration.</translation>
+        <source>The document contains no configuration.</source>
+        <translation>Das Dokument enthält keine Konfiguration.</translation>
     </message>
     <message>
         <source>%1: %2 is %3, but %4 is expected.</source>
         <translation>%1: %2 ist %3, erwartet wird aber %4.</translation>
     </message>
     <message>
-        <source>%1 is not there.</source>
-        <translation>%1 ist nicht da.</translation>
+        <source>%1 does not exist.</source>
+        <translation>%1 existiert nicht.</translation>
     </message>
     <message>
-        <source>%1 is there already.</source>
-        <translation>%1 ist schon da.</translation>
+        <source>%1 already exists.</source>
+        <translation>%1 existiert schon.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no path.</source>
-        <translation>&apos;%1&apos; ist kein Pfad.</translation>
+        <source>&apos;%1&apos; is not a valid path.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Pfad.</translation>
     </message>
     <message>
         <source>argument</source>
@@ -2169,8 +2157,8 @@
         <translation>de</translation>
     </message>
     <message>
-        <source>Made from the configuration alone; nothing is loaded when this page is opened.</source>
-        <translation>Allein aus der Konfiguration erzeugt; beim Öffnen dieser Seite wird nichts geladen.</translation>
+        <source>Created from the configuration; the page loads nothing else when it is opened.</source>
+        <translation>Aus der Konfiguration erzeugt; die Seite lädt beim Öffnen nichts nach.</translation>
     </message>
     <message>
         <source>Configuration without a name</source>
@@ -2229,8 +2217,8 @@
         <translation>Zeile %1, Spalte %2</translation>
     </message>
     <message>
-        <source>Nothing was found that is wrong or should be looked at.</source>
-        <translation>Es wurde nichts gefunden, was falsch ist oder angesehen werden sollte.</translation>
+        <source>The check found no errors and no warnings.</source>
+        <translation>Die Prüfung ergab weder Fehler noch Warnungen.</translation>
     </message>
     <message>
         <source>Further findings: %1</source>
@@ -2261,12 +2249,12 @@
         <translation>Hinweis:</translation>
     </message>
     <message>
-        <source>No bus id</source>
-        <translation>Keine Buskennung</translation>
+        <source>No bus ID</source>
+        <translation>Keine Bus-ID</translation>
     </message>
     <message>
-        <source>Bus id %1</source>
-        <translation>Buskennung %1</translation>
+        <source>Bus ID %1</source>
+        <translation>Bus-ID %1</translation>
     </message>
     <message>
         <source>Drive %1: %2, series %3. %4.</source>
@@ -2281,8 +2269,8 @@
         <translation>Antrieb %1: %2, Baureihe %3. %4. Er hat Warnungen.</translation>
     </message>
     <message>
-        <source>Device %1. Drives on its bus: %2.</source>
-        <translation>Gerät %1. Antriebe an seinem Bus: %2.</translation>
+        <source>Device %1. Drives on its fieldbus: %2.</source>
+        <translation>Gerät %1. Antriebe an seinem Feldbus: %2.</translation>
     </message>
     <message>
         <source>Class %1</source>
@@ -2349,7 +2337,7 @@
         <translation>Das Gerät hat keine Antriebe.</translation>
     </message>
     <message>
-        <source>Bus id</source>
+        <source>Bus identifier</source>
         <translation>Buskennung</translation>
     </message>
     <message>
@@ -2440,12 +2428,12 @@
         <translation>Die Gerätekonfigurationsdatei wurde mit einer späteren Version erstellt</translation>
     </message>
     <message>
-        <source>The sub-device &apos;%1&apos; is left out: all drive numbers are used.</source>
-        <translation>Das Untergerät &apos;%1&apos; wird ausgelassen: Alle Antriebsnummern sind belegt.</translation>
+        <source>The drive &apos;%1&apos; is left out: all drive numbers are in use.</source>
+        <translation>Der Antrieb &apos;%1&apos; wird ausgelassen: Alle Antriebsnummern sind belegt.</translation>
     </message>
     <message>
-        <source>The sub-device &apos;%1&apos; has no drive number of its own and gets %2.</source>
-        <translation>Das Untergerät &apos;%1&apos; hat keine eigene Antriebsnummer und bekommt %2.</translation>
+        <source>The drive &apos;%1&apos; has no unique drive number and gets %2.</source>
+        <translation>Der Antrieb &apos;%1&apos; hat keine eindeutige Antriebsnummer und bekommt %2.</translation>
     </message>
 </context>
 <context>
@@ -2482,51 +2470,51 @@
         <translation>Der Schlüssel &quot;%1&quot; ist unbekannt.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no path on a device.</source>
-        <translation>&quot;%1&quot; ist kein Pfad auf einem Gerät.</translation>
+        <source>&quot;%1&quot; is not a valid path on a device.</source>
+        <translation>&quot;%1&quot; ist kein gültiger Pfad auf einem Gerät.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has no path in a project, but &quot;%2&quot;.</source>
-        <translation>&quot;%1&quot; hat keinen Pfad in einem Projekt, sondern &quot;%2&quot;.</translation>
+        <source>The project path &quot;%2&quot; of &quot;%1&quot; is not valid.</source>
+        <translation>Der Projektpfad &quot;%2&quot; von &quot;%1&quot; ist ungültig.</translation>
     </message>
     <message>
-        <source>The size of &quot;%1&quot; is none.</source>
-        <translation>Die Größe von &quot;%1&quot; ist keine.</translation>
+        <source>The size of &quot;%1&quot; is not valid.</source>
+        <translation>Die Größe von &quot;%1&quot; ist ungültig.</translation>
     </message>
     <message>
-        <source>The sum of &quot;%1&quot; is none.</source>
-        <translation>Die Prüfsumme von &quot;%1&quot; ist keine.</translation>
+        <source>The checksum of &quot;%1&quot; is not valid.</source>
+        <translation>Die Prüfsumme von &quot;%1&quot; ist ungültig.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is there twice.</source>
-        <translation>&quot;%1&quot; ist zweimal da.</translation>
+        <source>&quot;%1&quot; occurs more than once.</source>
+        <translation>&quot;%1&quot; kommt mehrmals vor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is both a file and a directory.</source>
         <translation>&quot;%1&quot; ist sowohl eine Datei als auch ein Verzeichnis.</translation>
     </message>
     <message>
-        <source>This is no manifest of a device tree.</source>
+        <source>This is not a manifest of a device tree.</source>
         <translation>Dies ist kein Manifest eines Gerätebaums.</translation>
     </message>
     <message>
-        <source>This is a manifest of another version than %1.</source>
-        <translation>Dies ist ein Manifest einer anderen Version als %1.</translation>
+        <source>The version of the manifest is not supported; version %1 is required.</source>
+        <translation>Die Version des Manifests wird nicht unterstützt; verlangt ist Version %1.</translation>
     </message>
     <message>
-        <source>The directories and the files are no lists.</source>
-        <translation>Die Verzeichnisse und die Dateien sind keine Listen.</translation>
+        <source>The directories and the files must be lists.</source>
+        <translation>Die Verzeichnisse und die Dateien müssen Listen sein.</translation>
     </message>
     <message>
-        <source>This is no JSON: %1.</source>
+        <source>This is not JSON: %1.</source>
         <translation>Dies ist kein JSON: %1.</translation>
     </message>
     <message>
-        <source>The manifest has been changed: it is not in the form in which manifests are written.</source>
+        <source>The manifest was changed: it does not have the form in which manifests are written.</source>
         <translation>Das Manifest wurde verändert: Es hat nicht die Form, in der Manifeste geschrieben werden.</translation>
     </message>
     <message>
-        <source>This is no regular file.</source>
+        <source>This is not a regular file.</source>
         <translation>Dies ist keine reguläre Datei.</translation>
     </message>
 </context>
@@ -2849,44 +2837,44 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
 <context>
     <name>CNetworkSettingsCheck</name>
     <message>
-        <source>&apos;%1&apos; is none of %2.</source>
-        <translation>&apos;%1&apos; gehört nicht zu %2.</translation>
+        <source>&apos;%1&apos; is not one of %2.</source>
+        <translation>&apos;%1&apos; ist keiner der Werte %2.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 address, such as 192.168.1.10.</source>
-        <translation>&apos;%1&apos; ist keine IPv4-Adresse, wie etwa 192.168.1.10.</translation>
+        <source>&apos;%1&apos; is not a valid IPv4 address; write one such as 192.168.1.10.</source>
+        <translation>&apos;%1&apos; ist keine gültige IPv4-Adresse; schreiben Sie eine wie 192.168.1.10.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no subnet mask, such as 255.255.255.0.</source>
-        <translation>&apos;%1&apos; ist keine Subnetzmaske, wie etwa 255.255.255.0.</translation>
+        <source>&apos;%1&apos; is not a valid subnet mask; write one such as 255.255.255.0.</source>
+        <translation>&apos;%1&apos; ist keine gültige Subnetzmaske; schreiben Sie eine wie 255.255.255.0.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no port number, 1 to 65535.</source>
-        <translation>&apos;%1&apos; ist keine Portnummer von 1 bis 65535.</translation>
+        <source>&apos;%1&apos; is not a valid port number; write a number from 1 to 65535.</source>
+        <translation>&apos;%1&apos; ist keine gültige Portnummer; schreiben Sie eine Zahl von 1 bis 65535.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no kernel log level, 0 to 7.</source>
-        <translation>&apos;%1&apos; ist keine Protokollstufe des Kernels von 0 bis 7.</translation>
+        <source>&apos;%1&apos; is not a valid kernel log level; write a number from 0 to 7.</source>
+        <translation>&apos;%1&apos; ist keine gültige Protokollstufe des Kernels; schreiben Sie eine Zahl von 0 bis 7.</translation>
     </message>
     <message>
-        <source>A section begins: no key in it is read.</source>
-        <translation>Hier beginnt ein Abschnitt: Kein Schlüssel darin wird gelesen.</translation>
+        <source>A section begins here; its keys are ignored.</source>
+        <translation>Hier beginnt ein Abschnitt; seine Schlüssel werden ignoriert.</translation>
     </message>
     <message>
         <source>This is neither KEY=value nor a comment.</source>
         <translation>Dies ist weder KEY=Wert noch ein Kommentar.</translation>
     </message>
     <message>
-        <source>There is no such key.</source>
-        <translation>Diesen Schlüssel gibt es nicht.</translation>
+        <source>Unknown key.</source>
+        <translation>Unbekannter Schlüssel.</translation>
     </message>
     <message>
-        <source>This line is not read: it belongs to a quotation mark or backslash before it.</source>
-        <translation>Diese Zeile wird nicht gelesen: Sie gehört zu einem Anführungszeichen oder Rückstrich davor.</translation>
+        <source>This line is ignored: it belongs to a quotation mark or backslash before it.</source>
+        <translation>Diese Zeile wird ignoriert: Sie gehört zu einem Anführungszeichen oder Backslash davor.</translation>
     </message>
     <message>
-        <source>This replaces what line %1 tells.</source>
-        <translation>Dies ersetzt die Angabe in Zeile %1.</translation>
+        <source>This overrides the value in line %1.</source>
+        <translation>Dies überschreibt den Wert in Zeile %1.</translation>
     </message>
     <message>
         <source>The mode STATIC needs an address.</source>
@@ -2939,67 +2927,67 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>%1 ist nicht lesbar: %2</translation>
     </message>
     <message>
-        <source>It was cancelled.</source>
+        <source>The operation was cancelled.</source>
         <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>
     <message>
-        <source>%1 is there already, and is not empty.</source>
-        <translation>%1 ist schon da und nicht leer.</translation>
+        <source>%1 already exists and is not empty.</source>
+        <translation>%1 existiert schon und ist nicht leer.</translation>
     </message>
     <message>
-        <source>%1 is no device tree that can be replaced: %2</source>
+        <source>%1 is not a device tree that can be replaced: %2</source>
         <translation>%1 ist kein Gerätebaum, der ersetzt werden kann: %2</translation>
     </message>
     <message>
-        <source>%1 holds more than a device tree and cannot be replaced: %2</source>
+        <source>%1 contains more than a device tree and cannot be replaced: %2</source>
         <translation>%1 enthält mehr als einen Gerätebaum und kann nicht ersetzt werden: %2</translation>
     </message>
     <message>
-        <source>This is no regular file.</source>
+        <source>This is not a regular file.</source>
         <translation>Dies ist keine reguläre Datei.</translation>
     </message>
     <message>
-        <source>It would lie in the tree.</source>
-        <translation>Es läge innerhalb des Baums.</translation>
+        <source>The archive would be inside the tree.</source>
+        <translation>Das Archiv läge innerhalb des Baums.</translation>
     </message>
     <message>
-        <source>It belongs to the project.</source>
-        <translation>Es gehört zum Projekt.</translation>
+        <source>The file belongs to the project.</source>
+        <translation>Die Datei gehört zum Projekt.</translation>
     </message>
     <message>
         <source>%1 changed while it was copied.</source>
         <translation>%1 hat sich während des Kopierens geändert.</translation>
     </message>
     <message>
-        <source>%1; everything is in place, but a power cut may undo it</source>
-        <translation>%1; alles ist an seinem Platz, aber ein Stromausfall kann es rückgängig machen</translation>
+        <source>%1; all files are in place, but a power failure may undo this</source>
+        <translation>%1; alle Dateien sind an ihrem Platz, aber ein Stromausfall kann dies rückgängig machen</translation>
     </message>
     <message>
-        <source>There is nothing to be made.</source>
-        <translation>Es gibt nichts zu erzeugen.</translation>
+        <source>The plan contains no files.</source>
+        <translation>Der Plan enthält keine Dateien.</translation>
     </message>
     <message>
-        <source>There is no place for the tree.</source>
-        <translation>Es gibt keinen Platz für den Baum.</translation>
+        <source>Neither a directory nor an archive is given.</source>
+        <translation>Weder ein Verzeichnis noch ein Archiv ist angegeben.</translation>
     </message>
     <message>
         <source>This is neither a directory nor a regular file.</source>
         <translation>Dies ist weder ein Verzeichnis noch eine reguläre Datei.</translation>
     </message>
     <message>
-        <source>It ends too early.</source>
-        <translation>Es endet zu früh.</translation>
+        <source>The archive is truncated.</source>
+        <translation>Das Archiv ist unvollständig.</translation>
     </message>
     <message>
-        <source>This is no tar archive that is compressed by gzip.</source>
+        <source>This is not a tar archive compressed with gzip.</source>
         <translation>Dies ist kein mit gzip komprimiertes tar-Archiv.</translation>
     </message>
     <message>
-        <source>%1 has holes, or ends too early.</source>
-        <translation>%1 hat Lücken oder endet zu früh.</translation>
+        <source>%1 is a sparse file or is truncated.</source>
+        <translation>%1 hat Lücken oder ist unvollständig.</translation>
     </message>
     <message>
-        <source>The check sum of the archive is wrong.</source>
+        <source>The checksum of the archive is wrong.</source>
         <translation>Die Prüfsumme des Archivs ist falsch.</translation>
     </message>
     <message>
@@ -3007,27 +2995,27 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Es gibt zu viele Unterschiede.</translation>
     </message>
     <message>
-        <source>The archive is broken: %1</source>
+        <source>The archive is damaged: %1</source>
         <translation>Das Archiv ist beschädigt: %1</translation>
     </message>
     <message>
-        <source>%1 is in the archive twice.</source>
-        <translation>%1 ist zweimal im Archiv.</translation>
+        <source>%1 occurs more than once in the archive.</source>
+        <translation>%1 kommt mehrmals im Archiv vor.</translation>
     </message>
     <message>
         <source>%1 is not in the manifest.</source>
         <translation>%1 steht nicht im Manifest.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be on a device.</source>
-        <translation>&quot;%1&quot; kann nicht auf einem Gerät sein.</translation>
+        <source>&quot;%1&quot; is not a valid path on a device.</source>
+        <translation>&quot;%1&quot; ist kein gültiger Pfad auf einem Gerät.</translation>
     </message>
     <message>
-        <source>%1 is no directory.</source>
+        <source>%1 is not a directory.</source>
         <translation>%1 ist kein Verzeichnis.</translation>
     </message>
     <message>
-        <source>%1 is no regular file.</source>
+        <source>%1 is not a regular file.</source>
         <translation>%1 ist keine reguläre Datei.</translation>
     </message>
     <message>
@@ -3039,8 +3027,8 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>%1 fehlt.</translation>
     </message>
     <message>
-        <source>There is no %1 in the archive.</source>
-        <translation>Im Archiv gibt es kein %1.</translation>
+        <source>%1 is missing in the archive.</source>
+        <translation>%1 fehlt im Archiv.</translation>
     </message>
 </context>
 <context>
@@ -3066,18 +3054,18 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Das Gerät hat keinen Konfigurationsnamen, nach dem die Verzeichnisse auf dem Gerät benannt sind.</translation>
     </message>
     <message>
-        <source>The configuration name &quot;%1&quot; cannot be that of a directory.</source>
-        <translation>Der Konfigurationsname &quot;%1&quot; kann nicht der eines Verzeichnisses sein.</translation>
+        <source>The configuration name &quot;%1&quot; cannot be used as the name of a directory.</source>
+        <translation>Der Konfigurationsname &quot;%1&quot; kann nicht als Name eines Verzeichnisses dienen.</translation>
     </message>
 </context>
 <context>
     <name>CXmlAbstractVornFile</name>
     <message>
-        <source>This is no valid UTF-16 text.</source>
+        <source>This is not valid UTF-16 text.</source>
         <translation>Dies ist kein gültiger UTF-16-Text.</translation>
     </message>
     <message>
-        <source>The document holds no element.</source>
+        <source>The document contains no element.</source>
         <translation>Das Dokument enthält kein Element.</translation>
     </message>
     <message>
@@ -3085,12 +3073,12 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Das Dokument endet, bevor das Element &apos;%1&apos; geschlossen ist.</translation>
     </message>
     <message>
-        <source>This character cannot stand here.</source>
-        <translation>Dieses Zeichen darf hier nicht stehen.</translation>
+        <source>This character is not allowed here.</source>
+        <translation>Dieses Zeichen ist hier nicht erlaubt.</translation>
     </message>
     <message>
-        <source>What begins here is not closed before the document ends.</source>
-        <translation>Was hier beginnt, ist bis zum Ende des Dokuments nicht geschlossen.</translation>
+        <source>The markup that begins here is not closed before the document ends.</source>
+        <translation>Das Markup, das hier beginnt, ist bis zum Ende des Dokuments nicht geschlossen.</translation>
     </message>
     <message>
         <source>The CDATA section is not closed.</source>
@@ -3109,39 +3097,39 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Das Element hat zwei Attribute dieses Namens.</translation>
     </message>
     <message>
-        <source>There is something behind the root element.</source>
-        <translation>Hinter dem Wurzelelement steht noch etwas.</translation>
+        <source>The root element is followed by further content.</source>
+        <translation>Auf das Wurzelelement folgt weiterer Inhalt.</translation>
     </message>
     <message>
         <source>The entity is not declared.</source>
         <translation>Die Entität ist nicht deklariert.</translation>
     </message>
     <message>
-        <source>The reference is to a character that XML cannot carry.</source>
-        <translation>Die Referenz bezeichnet ein Zeichen, das in XML nicht stehen kann.</translation>
+        <source>The reference is to a character that XML does not allow.</source>
+        <translation>Die Referenz bezeichnet ein Zeichen, das in XML nicht erlaubt ist.</translation>
     </message>
     <message>
-        <source>The XML declaration must stand at the very beginning.</source>
+        <source>The XML declaration must be at the very beginning.</source>
         <translation>Die XML-Deklaration muss ganz am Anfang stehen.</translation>
     </message>
     <message>
-        <source>The encoding is not known.</source>
-        <translation>Die Zeichenkodierung ist nicht bekannt.</translation>
+        <source>The encoding is unknown.</source>
+        <translation>Die Zeichenkodierung ist unbekannt.</translation>
     </message>
     <message>
         <source>The document is not in the encoding that it declares.</source>
         <translation>Das Dokument hat nicht die Zeichenkodierung, die es angibt.</translation>
     </message>
     <message>
-        <source>The XML declaration is not well-formed.</source>
-        <translation>Die XML-Deklaration ist nicht wohlgeformt.</translation>
+        <source>The XML declaration is malformed.</source>
+        <translation>Die XML-Deklaration ist fehlerhaft.</translation>
     </message>
     <message>
-        <source>The XML version &apos;%1&apos; is not known.</source>
-        <translation>Die XML-Version &apos;%1&apos; ist nicht bekannt.</translation>
+        <source>The XML version &apos;%1&apos; is unknown.</source>
+        <translation>Die XML-Version &apos;%1&apos; ist unbekannt.</translation>
     </message>
     <message>
-        <source>A document type declaration with declarations of its own is not allowed.</source>
+        <source>A document type declaration with an internal subset is not allowed.</source>
         <translation>Eine Dokumenttyp-Deklaration mit eigenen Deklarationen ist nicht erlaubt.</translation>
     </message>
     <message>
@@ -3169,20 +3157,20 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Die Datei würde größer als %1 Bytes.</translation>
     </message>
     <message>
-        <source>A comment holds &apos;--&apos; or ends in &apos;-&apos;, which XML cannot carry.</source>
-        <translation>Ein Kommentar enthält &apos;--&apos; oder endet mit &apos;-&apos;, was in XML nicht stehen kann.</translation>
+        <source>A comment contains &apos;--&apos; or ends with &apos;-&apos;, which XML does not allow.</source>
+        <translation>Ein Kommentar enthält &apos;--&apos; oder endet mit &apos;-&apos;, was in XML nicht erlaubt ist.</translation>
     </message>
     <message>
-        <source>A processing instruction holds &apos;?&gt;&apos;, which XML cannot carry.</source>
-        <translation>Eine Verarbeitungsanweisung enthält &apos;?&gt;&apos;, was in XML nicht stehen kann.</translation>
+        <source>A processing instruction contains &apos;?&gt;&apos;, which XML does not allow.</source>
+        <translation>Eine Verarbeitungsanweisung enthält &apos;?&gt;&apos;, was in XML nicht erlaubt ist.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be the name of an element or attribute.</source>
-        <translation>&apos;%1&apos; kann nicht der Name eines Elements oder Attributs sein.</translation>
+        <source>&apos;%1&apos; is not a valid name of an element or attribute.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Name eines Elements oder Attributs.</translation>
     </message>
     <message>
-        <source>The element &apos;%1&apos; holds the character U+%2, which XML cannot carry.</source>
-        <translation>Das Element &apos;%1&apos; enthält das Zeichen U+%2, das in XML nicht stehen kann.</translation>
+        <source>The element &apos;%1&apos; contains the character U+%2, which XML does not allow.</source>
+        <translation>Das Element &apos;%1&apos; enthält das Zeichen U+%2, das in XML nicht erlaubt ist.</translation>
     </message>
     <message>
         <source>The document type is &apos;%1&apos;, but &apos;%2&apos; is required.</source>
@@ -3193,12 +3181,12 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Die Version ist &apos;%1&apos;, verlangt ist aber &apos;%2&apos;.</translation>
     </message>
     <message>
-        <source>There is no document to save.</source>
-        <translation>Es gibt kein Dokument, das gesichert werden könnte.</translation>
+        <source>The file object has no document to save.</source>
+        <translation>Das Dateiobjekt hat kein Dokument, das gesichert werden könnte.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; cannot be a document type.</source>
-        <translation>&apos;%1&apos; kann kein Dokumenttyp sein.</translation>
+        <source>&apos;%1&apos; is not a valid document type.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Dokumenttyp.</translation>
     </message>
     <message>
         <source>There is not enough memory for the document.</source>
@@ -3371,16 +3359,16 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
 <context>
     <name>FileStorage</name>
     <message>
-        <source>This is no regular file.</source>
+        <source>This is not a regular file.</source>
         <translation>Dies ist keine reguläre Datei.</translation>
     </message>
     <message>
-        <source>%1; the new content is in place, but a power cut may undo it</source>
-        <translation>%1; der neue Inhalt steht in der Datei, aber ein Stromausfall kann ihn rückgängig machen</translation>
+        <source>%1; the new content is in place, but a power failure may undo this</source>
+        <translation>%1; der neue Inhalt ist an seinem Platz, aber ein Stromausfall kann dies rückgängig machen</translation>
     </message>
     <message>
-        <source>It is larger than %1 bytes.</source>
-        <translation>Sie ist größer als %1 Bytes.</translation>
+        <source>The file is larger than %1 bytes.</source>
+        <translation>Die Datei ist größer als %1 Bytes.</translation>
     </message>
 </context>
 <context>

@@ -24,12 +24,12 @@
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>There is no option &apos;%1&apos;.</source>
-        <translation>Es gibt keine Option &apos;%1&apos;.</translation>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>There is no option &apos;%1&apos;. Did you mean &apos;%2&apos;?</source>
-        <translation>Es gibt keine Option &apos;%1&apos;. Meinten Sie &apos;%2&apos;?</translation>
+        <source>Unknown option &apos;%1&apos;. Did you mean &apos;%2&apos;?</source>
+        <translation>Unbekannte Option &apos;%1&apos;. Meinten Sie &apos;%2&apos;?</translation>
     </message>
     <message>
         <source>%1 takes no value.</source>
@@ -48,16 +48,16 @@
         <translation>Das Argument %1 fehlt.</translation>
     </message>
     <message>
-        <source>The argument &apos;%1&apos; is one too many.</source>
-        <translation>Das Argument &apos;%1&apos; ist zu viel.</translation>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>Unerwartetes Argument &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>%1: %2 Try &apos;vrndevice %1 --help&apos;.</source>
         <translation>%1: %2 Siehe &apos;vrndevice %1 --help&apos;.</translation>
     </message>
     <message>
-        <source>--json cannot be had together with the document on standard output.</source>
-        <translation>--json geht nicht zusammen mit dem Dokument auf der Standardausgabe.</translation>
+        <source>--json cannot be combined with the document on standard output.</source>
+        <translation>--json kann nicht mit dem Dokument auf der Standardausgabe kombiniert werden.</translation>
     </message>
     <message>
         <source>FPGA images, the active one first</source>
@@ -84,8 +84,8 @@
         <translation>Liest, prüft und ändert Konfigurationen von Servoantrieben und Bewegungssteuerungen sowie die Dateien, die die Geräte selbst führen.</translation>
     </message>
     <message>
-        <source>Print this help; behind a command, the command&apos;s.</source>
-        <translation>Diese Hilfe ausgeben; hinter einem Befehl die des Befehls.</translation>
+        <source>Print this help; after a command, the help of the command.</source>
+        <translation>Diese Hilfe ausgeben; nach einem Befehl die Hilfe zu diesem Befehl.</translation>
     </message>
     <message>
         <source>Print the version.</source>
@@ -156,7 +156,7 @@
         <translation>%1: Die Datei konnte nicht gesichert werden: %2</translation>
     </message>
     <message>
-        <source>Standard output cannot be written.</source>
+        <source>Cannot write to standard output.</source>
         <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
     </message>
     <message>
@@ -176,8 +176,8 @@
         <translation>Baureihe des Antriebs.</translation>
     </message>
     <message>
-        <source>Name of the drive; by default made from its drive number.</source>
-        <translation>Name des Antriebs; ohne Angabe aus seiner Antriebsnummer gebildet.</translation>
+        <source>Name of the drive; by default derived from its drive number.</source>
+        <translation>Name des Antriebs; ohne Angabe aus seiner Antriebsnummer abgeleitet.</translation>
     </message>
     <message>
         <source>Drive number 0 to 254; by default the next free one.</source>
@@ -208,8 +208,8 @@
         <translation>Die Konfiguration, die geändert werden soll; - filtert die Standardeingabe.</translation>
     </message>
     <message>
-        <source>The entry to add, as drive[3] or files[a.xml]. Pairs of a path and a value may follow, which are then set; all of it is done, or nothing.</source>
-        <translation>Das Listenelement, das hinzugefügt werden soll, wie drive[3] oder files[a.xml]. Paare aus Pfad und Wert dürfen folgen, die dann gesetzt werden; alles davon geschieht oder nichts.</translation>
+        <source>The entry to add, such as drive[3] or files[a.xml]. Pairs of a path and a value may follow, which are then set. Either all changes are made or none.</source>
+        <translation>Das Listenelement, das hinzugefügt werden soll, wie drive[3] oder files[a.xml]. Paare aus Pfad und Wert dürfen folgen, die dann gesetzt werden. Entweder werden alle Änderungen vorgenommen oder keine.</translation>
     </message>
     <message>
         <source>Each path needs a value.</source>
@@ -220,40 +220,40 @@
         <translation>%1 hinzugefügt</translation>
     </message>
     <message>
-        <source>Add an entry to a list: a drive, a file, a plug-in, an option.</source>
-        <translation>Einer Liste etwas hinzufügen: einen Antrieb, eine Datei, ein Plug-in, eine Option.</translation>
+        <source>Add an entry to a list: a drive, a file, a plug-in or an option.</source>
+        <translation>Einer Liste ein Element hinzufügen: einen Antrieb, eine Datei, ein Plug-in oder eine Option.</translation>
     </message>
     <message>
-        <source>The changes to make, as &apos;diff --json&apos; prints them; - is standard input.</source>
-        <translation>Die Änderungen, wie &apos;diff --json&apos; sie ausgibt; - ist die Standardeingabe.</translation>
+        <source>The patch to apply, as &apos;diff --json&apos; prints it; - is standard input.</source>
+        <translation>Die Änderungsdatei, wie &apos;diff --json&apos; sie ausgibt; - ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>The configuration to change; - is standard input.</source>
         <translation>Die Konfiguration, die geändert werden soll; - ist die Standardeingabe.</translation>
     </message>
     <message>
-        <source>Only tell whether the changes can be made.</source>
-        <translation>Nur sagen, ob die Änderungen möglich sind.</translation>
+        <source>Only check whether the patch can be applied.</source>
+        <translation>Nur prüfen, ob die Änderungsdatei angewendet werden kann.</translation>
     </message>
     <message>
         <source>Save the changed configuration as another file; - is standard output.</source>
         <translation>Die geänderte Konfiguration als andere Datei sichern; - ist die Standardausgabe.</translation>
     </message>
     <message>
-        <source>Only one of the two can be standard input.</source>
-        <translation>Nur eine von beiden kann die Standardeingabe sein.</translation>
+        <source>Only one file can be standard input.</source>
+        <translation>Nur eine Datei kann die Standardeingabe sein.</translation>
     </message>
     <message>
-        <source>With --check nothing is saved: --output makes no sense.</source>
-        <translation>Mit --check wird nichts gesichert: --output hat keinen Sinn.</translation>
+        <source>--check saves nothing and cannot be combined with --output.</source>
+        <translation>--check sichert nichts und kann nicht mit --output kombiniert werden.</translation>
     </message>
     <message>
-        <source>Both the configuration and --json would be printed.</source>
-        <translation>Sowohl die Konfiguration als auch --json würden ausgegeben.</translation>
+        <source>The configuration and --json cannot both be printed to standard output.</source>
+        <translation>Die Konfiguration und --json können nicht beide auf der Standardausgabe ausgegeben werden.</translation>
     </message>
     <message>
-        <source>Make the changes that &apos;diff --json&apos; told in a configuration.</source>
-        <translation>Die Änderungen, die &apos;diff --json&apos; nennt, in einer Konfiguration vornehmen.</translation>
+        <source>Apply a patch written by &apos;diff --json&apos;.</source>
+        <translation>Eine Änderungsdatei anwenden, die &apos;diff --json&apos; geschrieben hat.</translation>
     </message>
     <message>
         <source>1 error</source>
@@ -308,7 +308,7 @@
         <translation>Eine Konfiguration, die geprüft werden soll.</translation>
     </message>
     <message>
-        <source>Fail for warnings, too.</source>
+        <source>Also fail for warnings.</source>
         <translation>Auch bei Warnungen scheitern.</translation>
     </message>
     <message>
@@ -316,8 +316,8 @@
         <translation>%1: alles in Ordnung</translation>
     </message>
     <message>
-        <source>Find everything that is wrong with a configuration.</source>
-        <translation>Alles finden, was an einer Konfiguration falsch ist.</translation>
+        <source>Report everything that is wrong with a configuration.</source>
+        <translation>Alles melden, was an einer Konfiguration falsch ist.</translation>
     </message>
     <message>
         <source>Commands: %1</source>
@@ -328,8 +328,8 @@
         <translation>Die Shell: %1.</translation>
     </message>
     <message>
-        <source>Print a script by which a shell completes command lines.</source>
-        <translation>Ein Skript ausgeben, mit dem eine Shell Befehlszeilen ergänzt.</translation>
+        <source>Print a completion script for a shell.</source>
+        <translation>Ein Vervollständigungsskript für eine Shell ausgeben.</translation>
     </message>
     <message>
         <source>The configuration to start from; - is standard input.</source>
@@ -340,20 +340,20 @@
         <translation>Die Konfiguration, die damit verglichen wird; - ist die Standardeingabe.</translation>
     </message>
     <message>
-        <source>Tell what differs between two configurations.</source>
-        <translation>Die Unterschiede zwischen zwei Konfigurationen nennen.</translation>
+        <source>Show the differences between two configurations.</source>
+        <translation>Die Unterschiede zwischen zwei Konfigurationen zeigen.</translation>
     </message>
     <message>
         <source>The configurations to format; - filters standard input.</source>
         <translation>Die Konfigurationen, die formatiert werden sollen; - filtert die Standardeingabe.</translation>
     </message>
     <message>
-        <source>Write nothing, but list the files that would change, and end with 1 when there are any.</source>
-        <translation>Nichts schreiben, sondern die Dateien auflisten, die sich ändern würden, und mit 1 enden, wenn es welche gibt.</translation>
+        <source>Write nothing; list the files that would change, and end with 1 if there are any.</source>
+        <translation>Nichts schreiben; die Dateien auflisten, die sich ändern würden, und mit 1 enden, wenn es welche gibt.</translation>
     </message>
     <message>
-        <source>Standard output takes one document, without other files and --json.</source>
-        <translation>Die Standardausgabe nimmt ein Dokument auf, ohne andere Dateien und --json.</translation>
+        <source>Standard input cannot be combined with other files or --json.</source>
+        <translation>Die Standardeingabe kann nicht mit anderen Dateien oder --json kombiniert werden.</translation>
     </message>
     <message>
         <source>%1: rewritten</source>
@@ -372,20 +372,20 @@
         <translation>Die Konfiguration, die gelesen werden soll.</translation>
     </message>
     <message>
-        <source>What to print: one item, or whatever items have in common, as device, files or drive[0]; by default everything.</source>
-        <translation>Was ausgegeben werden soll: ein Eintrag oder was Einträge gemeinsam haben, wie device, files oder drive[0]; ohne Angabe alles.</translation>
+        <source>What to print: one item, or all items of a path such as device, files or drive[0]; by default everything.</source>
+        <translation>Was ausgegeben werden soll: ein Eintrag oder alle Einträge eines Pfads wie device, files oder drive[0]; ohne Angabe alles.</translation>
     </message>
     <message>
         <source>Print items of a configuration.</source>
         <translation>Einträge einer Konfiguration ausgeben.</translation>
     </message>
     <message>
-        <source>The languages in which messages are wanted, the preferred one first, separated by colons; it counts unless the locale is C.</source>
-        <translation>Die gewünschten Sprachen der Meldungen, die bevorzugte zuerst, durch Doppelpunkte getrennt; gilt nicht, wenn die Locale C ist.</translation>
+        <source>The preferred languages of messages, separated by colons; not used in the locale C.</source>
+        <translation>Die bevorzugten Sprachen der Meldungen, durch Doppelpunkte getrennt; nicht verwendet in der Locale C.</translation>
     </message>
     <message>
-        <source>The locale: the first of them that is set. In a language for which there is no catalogue, and in the locale C, all texts are English. Numbers and dates are the same in every locale.</source>
-        <translation>Die Locale: die erste gesetzte von ihnen. In einer Sprache, für die es keinen Katalog gibt, und in der Locale C sind alle Texte englisch. Zahlen und Datumsangaben sind in jeder Locale gleich.</translation>
+        <source>The locale: the first variable that is set. In a language without a catalogue and in the locale C, all texts are English. Numbers and dates are the same in every locale.</source>
+        <translation>Die Locale: die erste Variable, die gesetzt ist. In einer Sprache ohne Katalog und in der Locale C sind alle Texte englisch. Zahlen und Datumsangaben sind in jeder Locale gleich.</translation>
     </message>
     <message>
         <source>If it is set and not empty, nothing is printed in colour.</source>
@@ -396,20 +396,20 @@
         <translation>Eine Konfiguration: das Gerät, seine Antriebe und Plug-ins und alle Dateien, die dazugehören.</translation>
     </message>
     <message>
-        <source>The names that a device and its drives were given.</source>
-        <translation>Die Namen, die ein Gerät und seine Antriebe bekommen haben.</translation>
+        <source>The names of a device and its drives.</source>
+        <translation>Die Namen eines Geräts und seiner Antriebe.</translation>
     </message>
     <message>
         <source>The Ethernet settings of a device.</source>
         <translation>Die Ethernet-Einstellungen eines Geräts.</translation>
     </message>
     <message>
-        <source>What the operating system of a device is made of.</source>
-        <translation>Woraus das Betriebssystem eines Geräts besteht.</translation>
+        <source>The product and the versions of a device&apos;s operating system.</source>
+        <translation>Produkt und Versionen des Betriebssystems eines Geräts.</translation>
     </message>
     <message>
-        <source>The catalogues of translated texts, as seen from the program.</source>
-        <translation>Die Kataloge mit den übersetzten Texten, vom Programm aus gesehen.</translation>
+        <source>The catalogues of translated texts, relative to the directory of the program.</source>
+        <translation>Die Kataloge mit den übersetzten Texten, relativ zum Verzeichnis des Programms.</translation>
     </message>
     <message>
         <source>User Commands</source>
@@ -440,8 +440,8 @@
         <translation>Beschreibung</translation>
     </message>
     <message>
-        <source>Results go to standard output, diagnostics to standard error. Programs should ask for --json: nothing in it but sentences depends on the language.</source>
-        <translation>Ergebnisse gehen auf die Standardausgabe, Meldungen auf die Standardfehlerausgabe. Programme sollten --json verlangen: Darin hängen nur Sätze von der Sprache ab.</translation>
+        <source>Results go to standard output, diagnostics to standard error. Programs should use --json: only the sentences in it depend on the language.</source>
+        <translation>Ergebnisse gehen auf die Standardausgabe, Meldungen auf die Standardfehlerausgabe. Programme sollten --json verwenden: Nur die Sätze darin hängen von der Sprache ab.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -480,96 +480,92 @@
         <translation>Siehe auch</translation>
     </message>
     <message>
-        <source>Print the manual page, as man(1) reads it.</source>
-        <translation>Die Handbuchseite ausgeben, wie man(1) sie liest.</translation>
+        <source>Print the manual page in the format of man(1).</source>
+        <translation>Die Handbuchseite im Format von man(1) ausgeben.</translation>
     </message>
     <message>
         <source>The configuration that both sides started from.</source>
         <translation>Die Konfiguration, von der beide Seiten ausgegangen sind.</translation>
     </message>
     <message>
-        <source>What one side made of it; the result replaces it.</source>
-        <translation>Was die eine Seite daraus gemacht hat; das Ergebnis ersetzt sie.</translation>
+        <source>The configuration with the changes of one side; the result replaces it.</source>
+        <translation>Die Konfiguration mit den Änderungen der einen Seite; das Ergebnis ersetzt sie.</translation>
     </message>
     <message>
-        <source>What the other side made of it.</source>
-        <translation>Was die andere Seite daraus gemacht hat.</translation>
+        <source>The configuration with the changes of the other side.</source>
+        <translation>Die Konfiguration mit den Änderungen der anderen Seite.</translation>
     </message>
     <message>
         <source>Save the result as another file; - is standard output.</source>
         <translation>Das Ergebnis als andere Datei sichern; - ist die Standardausgabe.</translation>
     </message>
     <message>
-        <source>Only one of the three can be standard input.</source>
-        <translation>Nur eine von den dreien kann die Standardeingabe sein.</translation>
-    </message>
-    <message>
         <source>conflict: %1</source>
         <translation>Konflikt: %1</translation>
     </message>
     <message>
-        <source>Bring together what two people changed in a configuration.</source>
-        <translation>Zusammenführen, was zwei Personen an einer Konfiguration geändert haben.</translation>
+        <source>Merge two changed versions of a configuration.</source>
+        <translation>Zwei geänderte Fassungen einer Konfiguration zusammenführen.</translation>
     </message>
     <message>
         <source>Code of a system message, 1024 to 1151 (0x400 to 0x47f).</source>
         <translation>Code einer Systemmeldung, 1024 bis 1151 (0x400 bis 0x47f).</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no code.</source>
-        <translation>&apos;%1&apos; ist kein Code.</translation>
+        <source>&apos;%1&apos; is not a valid code.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Code.</translation>
     </message>
     <message>
-        <source>%1 is no system message: they are 1024 to 1151.</source>
-        <translation>%1 ist keine Systemmeldung: Es gibt 1024 bis 1151.</translation>
+        <source>%1 is not the code of a system message; write a number from 1024 to 1151.</source>
+        <translation>%1 ist nicht der Code einer Systemmeldung; schreiben Sie eine Zahl von 1024 bis 1151.</translation>
     </message>
     <message>
-        <source>Tell what system messages of a device mean.</source>
-        <translation>Die Bedeutung von Systemmeldungen eines Geräts nennen.</translation>
+        <source>Show the meaning of system messages of a device.</source>
+        <translation>Die Bedeutung von Systemmeldungen eines Geräts zeigen.</translation>
     </message>
     <message>
-        <source>The slot is missing: OM and a number, such as OM1.</source>
-        <translation>Der Steckplatz fehlt: OM und eine Zahl, wie etwa OM1.</translation>
+        <source>The slot is missing; write OM and a number, such as OM1.</source>
+        <translation>Der Steckplatz fehlt; schreiben Sie OM und eine Zahl, wie etwa OM1.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no slot: OM and a number, such as OM1.</source>
-        <translation>&apos;%1&apos; ist kein Steckplatz: OM und eine Zahl, wie etwa OM1.</translation>
+        <source>&apos;%1&apos; is not a valid slot; write OM and a number, such as OM1.</source>
+        <translation>&apos;%1&apos; ist kein gültiger Steckplatz; schreiben Sie OM und eine Zahl, wie etwa OM1.</translation>
     </message>
     <message>
-        <source>The interface is missing: two letters or more, such as EC.</source>
-        <translation>Die Schnittstelle fehlt: zwei Buchstaben oder mehr, wie etwa EC.</translation>
+        <source>The interface is missing; write two letters or more, such as EC.</source>
+        <translation>Die Schnittstelle fehlt; schreiben Sie zwei Buchstaben oder mehr, wie etwa EC.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no interface: two letters or more, such as EC.</source>
-        <translation>&apos;%1&apos; ist keine Schnittstelle: zwei Buchstaben oder mehr, wie etwa EC.</translation>
+        <source>&apos;%1&apos; is not a valid interface; write two letters or more, such as EC.</source>
+        <translation>&apos;%1&apos; ist keine gültige Schnittstelle; schreiben Sie zwei Buchstaben oder mehr, wie etwa EC.</translation>
     </message>
     <message>
-        <source>The hardware version is missing: H and a number, such as H2.</source>
-        <translation>Die Hardwareversion fehlt: H und eine Zahl, wie etwa H2.</translation>
+        <source>The hardware version is missing; write H and a number, such as H2.</source>
+        <translation>Die Hardwareversion fehlt; schreiben Sie H und eine Zahl, wie etwa H2.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no hardware version: H and a number, such as H2.</source>
-        <translation>&apos;%1&apos; ist keine Hardwareversion: H und eine Zahl, wie etwa H2.</translation>
+        <source>&apos;%1&apos; is not a valid hardware version; write H and a number, such as H2.</source>
+        <translation>&apos;%1&apos; ist keine gültige Hardwareversion; schreiben Sie H und eine Zahl, wie etwa H2.</translation>
     </message>
     <message>
-        <source>The software version is missing: V and two numbers, such as V1_3.</source>
-        <translation>Die Softwareversion fehlt: V und zwei Zahlen, wie etwa V1_3.</translation>
+        <source>The software version is missing; write V and two numbers, such as V1_3.</source>
+        <translation>Die Softwareversion fehlt; schreiben Sie V und zwei Zahlen, wie etwa V1_3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no software version: V and two numbers, such as V1_3.</source>
-        <translation>&apos;%1&apos; ist keine Softwareversion: V und zwei Zahlen, wie etwa V1_3.</translation>
+        <source>&apos;%1&apos; is not a valid software version; write V and two numbers, such as V1_3.</source>
+        <translation>&apos;%1&apos; ist keine gültige Softwareversion; schreiben Sie V und zwei Zahlen, wie etwa V1_3.</translation>
     </message>
     <message>
         <source>The suffix is missing, such as .%1.</source>
         <translation>Die Dateiendung fehlt, wie etwa .%1.</translation>
     </message>
     <message>
-        <source>Behind the versions there may be &apos;_&apos; and a text, and then &apos;.&apos; and a suffix, both of letters, digits and &apos;_&apos;.</source>
-        <translation>Hinter den Versionen dürfen &apos;_&apos; und ein Text stehen, danach &apos;.&apos; und eine Dateiendung, beide aus Buchstaben, Ziffern und &apos;_&apos;.</translation>
+        <source>After the versions only &apos;_&apos; and a text may follow, then &apos;.&apos; and a suffix; text and suffix consist of letters, digits and &apos;_&apos;.</source>
+        <translation>Nach den Versionen dürfen nur &apos;_&apos; und ein Text folgen, danach &apos;.&apos; und eine Dateiendung; Text und Dateiendung bestehen aus Buchstaben, Ziffern und &apos;_&apos;.</translation>
     </message>
     <message>
-        <source>File name of option-module firmware, also with directories; the file need not be there.</source>
-        <translation>Dateiname einer Firmware für Optionsmodule, auch mit Verzeichnissen; die Datei muss nicht vorhanden sein.</translation>
+        <source>File name of option-module firmware, with or without directories; the file does not have to exist.</source>
+        <translation>Dateiname einer Firmware für Optionsmodule, mit oder ohne Verzeichnisse; die Datei muss nicht vorhanden sein.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -596,20 +592,20 @@
         <translation>TEXT</translation>
     </message>
     <message>
-        <source>Tell what a firmware file for an option module is for.</source>
-        <translation>Nennen, wofür eine Firmwaredatei für Optionsmodule bestimmt ist.</translation>
+        <source>Show which option module a firmware file is for.</source>
+        <translation>Zeigen, für welches Optionsmodul eine Firmwaredatei bestimmt ist.</translation>
     </message>
     <message>
         <source>The network.conf to check.</source>
         <translation>Die network.conf, die geprüft werden soll.</translation>
     </message>
     <message>
-        <source>Find what is wrong with a network.conf.</source>
-        <translation>Fehler in einer network.conf finden.</translation>
+        <source>Report errors in a network.conf.</source>
+        <translation>Fehler in einer network.conf melden.</translation>
     </message>
     <message>
-        <source>%1: These lines would be lost. Correct or remove them first.</source>
-        <translation>%1: Diese Zeilen gingen verloren. Berichtigen oder entfernen Sie sie zuerst.</translation>
+        <source>%1: The reported lines would be lost. Correct or remove them first.</source>
+        <translation>%1: Die gemeldeten Zeilen gingen verloren. Berichtigen oder entfernen Sie sie zuerst.</translation>
     </message>
     <message>
         <source>The network.conf to change.</source>
@@ -620,12 +616,12 @@
         <translation>Ein Schlüssel der Datei und sein neuer Wert.</translation>
     </message>
     <message>
-        <source>Start from the defaults if there is no such file.</source>
+        <source>Start from the defaults if the file does not exist.</source>
         <translation>Von den Vorgabewerten ausgehen, wenn es die Datei nicht gibt.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not KEY=VALUE.</source>
-        <translation>&apos;%1&apos; ist nicht KEY=VALUE.</translation>
+        <source>&apos;%1&apos; does not have the form KEY=VALUE.</source>
+        <translation>&apos;%1&apos; hat nicht die Form KEY=VALUE.</translation>
     </message>
     <message>
         <source>Change Ethernet settings in a network.conf.</source>
@@ -652,19 +648,19 @@
         <translation>Eine KD3-Steuerung mit zwei KD3-Antrieben und einem Plug-in als EtherCAT-Master</translation>
     </message>
     <message>
-        <source>There is no template &apos;%1&apos;, and no such file. Built in are: %2.</source>
-        <translation>Es gibt keine Vorlage &apos;%1&apos; und keine solche Datei. Eingebaut sind: %2.</translation>
+        <source>&apos;%1&apos; is neither a built-in template nor a file. The built-in templates are: %2.</source>
+        <translation>&apos;%1&apos; ist weder eine eingebaute Vorlage noch eine Datei. Die eingebauten Vorlagen sind: %2.</translation>
     </message>
     <message>
         <source>The template %1 is for the class &apos;%2&apos;, not for %3.</source>
         <translation>Die Vorlage %1 ist für die Klasse &apos;%2&apos;, nicht für %3.</translation>
     </message>
     <message>
-        <source>The configuration to create; - prints it. Needed except for --list-templates.</source>
+        <source>The configuration to create; - prints it. Required except with --list-templates.</source>
         <translation>Die Konfiguration, die angelegt werden soll; - gibt sie aus. Nötig, außer bei --list-templates.</translation>
     </message>
     <message>
-        <source>Class of the device: kc2 or kd3. Not needed with a template.</source>
+        <source>Class of the device: kc2 or kd3. Not required with a template.</source>
         <translation>Klasse des Geräts: kc2 oder kd3. Mit einer Vorlage nicht nötig.</translation>
     </message>
     <message>
@@ -672,8 +668,8 @@
         <translation>Name des Geräts.</translation>
     </message>
     <message>
-        <source>What to begin with: the name of a built-in template, or the file of a configuration.</source>
-        <translation>Womit begonnen wird: der Name einer eingebauten Vorlage oder die Datei einer Konfiguration.</translation>
+        <source>The template: the name of a built-in one, or the file of a configuration.</source>
+        <translation>Die Vorlage: der Name einer eingebauten oder die Datei einer Konfiguration.</translation>
     </message>
     <message>
         <source>Print the built-in templates.</source>
@@ -692,8 +688,8 @@
         <translation>--name fehlt.</translation>
     </message>
     <message>
-        <source>%1 exists already and is left as it is.</source>
-        <translation>%1 gibt es schon und bleibt, wie es ist.</translation>
+        <source>%1 already exists and is not changed.</source>
+        <translation>%1 existiert schon und wird nicht geändert.</translation>
     </message>
     <message>
         <source>Created %1: device %2</source>
@@ -732,8 +728,8 @@
         <translation>Die os-release, die gezeigt werden soll.</translation>
     </message>
     <message>
-        <source>Show what the operating system of a device is made of.</source>
-        <translation>Zeigen, woraus das Betriebssystem eines Geräts besteht.</translation>
+        <source>Show product and versions of a device&apos;s operating system.</source>
+        <translation>Produkt und Versionen des Betriebssystems eines Geräts zeigen.</translation>
     </message>
     <message>
         <source>parameter values</source>
@@ -808,8 +804,8 @@
         <translation>Jede Datei mit ihren Verzeichnissen auf dem Gerät und im Projekt auflisten.</translation>
     </message>
     <message>
-        <source>What to remove: entries of lists, single files, items. All of them are removed, or none.</source>
-        <translation>Was entfernt werden soll: Elemente von Listen, einzelne Dateien, Einträge. Alle werden entfernt oder keiner.</translation>
+        <source>What to remove: list entries, single files or items. Either all are removed or none.</source>
+        <translation>Was entfernt werden soll: Listenelemente, einzelne Dateien oder Einträge. Entweder werden alle entfernt oder keiner.</translation>
     </message>
     <message>
         <source>Removed %1</source>
@@ -820,19 +816,19 @@
         <translation>Listenelemente, Dateien oder Einträge einer Konfiguration entfernen.</translation>
     </message>
     <message>
-        <source>The configuration to report on. What is wrong with it stands in the page and does not make the command fail.</source>
-        <translation>Die Konfiguration, über die berichtet wird. Was an ihr falsch ist, steht auf der Seite und lässt den Befehl nicht scheitern.</translation>
+        <source>The configuration to report on. The page shows its findings, which do not make the command fail.</source>
+        <translation>Die Konfiguration, über die berichtet wird. Die Seite zeigt ihre Befunde, die den Befehl nicht scheitern lassen.</translation>
     </message>
     <message>
-        <source>Where to write the page; standard output by default.</source>
-        <translation>Wohin die Seite geschrieben wird; ohne Angabe auf die Standardausgabe.</translation>
+        <source>The file to write; by default standard output.</source>
+        <translation>Die Datei, die geschrieben wird; ohne Angabe die Standardausgabe.</translation>
     </message>
     <message>
-        <source>--output names no file.</source>
-        <translation>--output nennt keine Datei.</translation>
+        <source>The file name of --output is empty.</source>
+        <translation>Der Dateiname von --output ist leer.</translation>
     </message>
     <message>
-        <source>--json needs --output with the name of a file.</source>
+        <source>--json requires --output with the name of a file.</source>
         <translation>--json braucht --output mit dem Namen einer Datei.</translation>
     </message>
     <message>
@@ -844,35 +840,35 @@
         <translation>%1 geschrieben. Fehler: %2, Warnungen: %3.</translation>
     </message>
     <message>
-        <source>Make a page that shows a configuration and what is wrong.</source>
-        <translation>Eine Seite erzeugen, die eine Konfiguration und ihre Fehler zeigt.</translation>
+        <source>Create a page that shows a configuration and its findings.</source>
+        <translation>Eine Seite erzeugen, die eine Konfiguration und ihre Befunde zeigt.</translation>
     </message>
     <message>
-        <source>List the rules by which check judges.</source>
-        <translation>Die Regeln auflisten, nach denen check urteilt.</translation>
+        <source>List the rules that &apos;check&apos; applies.</source>
+        <translation>Die Regeln auflisten, die &apos;check&apos; anwendet.</translation>
     </message>
     <message>
         <source>The item to set.</source>
         <translation>Der Eintrag, der gesetzt werden soll.</translation>
     </message>
     <message>
-        <source>Its new value. More pairs of PATH and VALUE may follow; all are set, or none. Before a value that begins with a hyphen, -- must stand.</source>
-        <translation>Sein neuer Wert. Weitere Paare aus PATH und VALUE dürfen folgen; alle werden gesetzt oder keines. Vor einem Wert, der mit einem Bindestrich beginnt, muss -- stehen.</translation>
+        <source>Its new value. More pairs of PATH and VALUE may follow; either all are set or none. Write -- before a value that begins with a hyphen.</source>
+        <translation>Sein neuer Wert. Weitere Paare aus PATH und VALUE dürfen folgen; entweder werden alle gesetzt oder keines. Schreiben Sie -- vor einen Wert, der mit einem Bindestrich beginnt.</translation>
     </message>
     <message>
-        <source>Set items of a configuration and leave the rest as it is.</source>
-        <translation>Einträge einer Konfiguration setzen und den Rest lassen, wie er ist.</translation>
+        <source>Set items of a configuration and keep the rest unchanged.</source>
+        <translation>Einträge einer Konfiguration setzen und den Rest unverändert lassen.</translation>
     </message>
     <message>
         <source>The settings document to change.</source>
         <translation>Die Einstellungsdatei, die geändert werden soll.</translation>
     </message>
     <message>
-        <source>Name of the drive with that number, 0 to 254; may be repeated.</source>
-        <translation>Name des Antriebs mit dieser Nummer, 0 bis 254; darf mehrfach stehen.</translation>
+        <source>Name of the drive with the given number, 0 to 254; may be repeated.</source>
+        <translation>Name des Antriebs mit der angegebenen Nummer, 0 bis 254; darf mehrfach angegeben werden.</translation>
     </message>
     <message>
-        <source>Start a new document if there is no such file.</source>
+        <source>Start a new document if the file does not exist.</source>
         <translation>Eine neue Datei beginnen, wenn es sie nicht gibt.</translation>
     </message>
     <message>
@@ -884,16 +880,16 @@
         <translation>Weder --name noch --drive ist angegeben.</translation>
     </message>
     <message>
-        <source>Name a device and its drives.</source>
-        <translation>Ein Gerät und seine Antriebe benennen.</translation>
+        <source>Set the names of a device and its drives.</source>
+        <translation>Die Namen eines Geräts und seiner Antriebe setzen.</translation>
     </message>
     <message>
         <source>The settings document to show.</source>
         <translation>Die Einstellungsdatei, die gezeigt werden soll.</translation>
     </message>
     <message>
-        <source>Show the names that a device was given.</source>
-        <translation>Die Namen zeigen, die ein Gerät bekommen hat.</translation>
+        <source>Show the names of a device and its drives.</source>
+        <translation>Die Namen eines Geräts und seiner Antriebe zeigen.</translation>
     </message>
     <message>
         <source>The configuration to show.</source>
@@ -904,15 +900,15 @@
         <translation>Eine Konfiguration als Baum zeigen.</translation>
     </message>
     <message>
-        <source>This is no configuration.</source>
+        <source>This is not a configuration.</source>
         <translation>Dies ist keine Konfiguration.</translation>
     </message>
     <message>
-        <source>%1 is there already, and is no manifest: %2</source>
-        <translation>%1 ist schon da und kein Manifest: %2</translation>
+        <source>%1 already exists and is not a manifest: %2</source>
+        <translation>%1 existiert schon und ist kein Manifest: %2</translation>
     </message>
     <message>
-        <source>Staged %1 files with %2 bytes; sum of the manifest: %3</source>
+        <source>Staged %1 files with %2 bytes; checksum of the manifest: %3</source>
         <translation>%1 Dateien mit %2 Bytes bereitgestellt; Prüfsumme des Manifests: %3</translation>
     </message>
     <message>
@@ -920,44 +916,44 @@
         <translation>Die Konfiguration, die bereitgestellt werden soll.</translation>
     </message>
     <message>
-        <source>The directory that holds the files of the configuration.</source>
-        <translation>Das Verzeichnis, in dem die Dateien der Konfiguration liegen.</translation>
+        <source>The directory that contains the files of the configuration.</source>
+        <translation>Das Verzeichnis, das die Dateien der Konfiguration enthält.</translation>
     </message>
     <message>
-        <source>The directory to make, with all that has to be on the device.</source>
-        <translation>Das Verzeichnis, das erzeugt werden soll, mit allem, was auf dem Gerät sein muss.</translation>
+        <source>The directory to create for the files of the device.</source>
+        <translation>Das Verzeichnis, das für die Dateien des Geräts erzeugt werden soll.</translation>
     </message>
     <message>
-        <source>The archive to make, a .tar.gz file of the same content.</source>
-        <translation>Das Archiv, das erzeugt werden soll, eine .tar.gz-Datei desselben Inhalts.</translation>
+        <source>The archive to create, a .tar.gz file with the same content.</source>
+        <translation>Das Archiv, das erzeugt werden soll, eine .tar.gz-Datei mit demselben Inhalt.</translation>
     </message>
     <message>
-        <source>Replace the device tree that ROOT holds already.</source>
+        <source>Replace the device tree that ROOT already contains.</source>
         <translation>Den Gerätebaum ersetzen, den ROOT schon enthält.</translation>
     </message>
     <message>
-        <source>Keep the manifest in the project, too.</source>
-        <translation>Das Manifest auch im Projekt ablegen.</translation>
+        <source>Also write the manifest to the project.</source>
+        <translation>Das Manifest auch in das Projekt schreiben.</translation>
     </message>
     <message>
-        <source>Which project? Give --project DIR.</source>
-        <translation>Welches Projekt? Geben Sie --project DIR an.</translation>
+        <source>The project is missing. Give --project DIR.</source>
+        <translation>Das Projekt fehlt. Geben Sie --project DIR an.</translation>
     </message>
     <message>
-        <source>Nothing to make. Give --to ROOT, --archive OUT, or both.</source>
-        <translation>Nichts zu erzeugen. Geben Sie --to ROOT, --archive OUT oder beides an.</translation>
+        <source>The target is missing. Give --to ROOT, --archive OUT, or both.</source>
+        <translation>Das Ziel fehlt. Geben Sie --to ROOT, --archive OUT oder beides an.</translation>
     </message>
     <message>
-        <source>Nothing to replace. Give --to ROOT.</source>
-        <translation>Nichts zu ersetzen. Geben Sie --to ROOT an.</translation>
+        <source>Only a directory can be replaced. Give --to ROOT.</source>
+        <translation>Nur ein Verzeichnis kann ersetzt werden. Geben Sie --to ROOT an.</translation>
     </message>
     <message>
         <source>Staging</source>
         <translation>Bereitstellung</translation>
     </message>
     <message>
-        <source>Make the tree of files that goes on the device.</source>
-        <translation>Den Dateibaum erzeugen, der auf das Gerät kommt.</translation>
+        <source>Create the tree of files for the device.</source>
+        <translation>Den Dateibaum für das Gerät erzeugen.</translation>
     </message>
     <message>
         <source>device:</source>
@@ -980,24 +976,24 @@
         <translation>(Zeile %1, Spalte %2)</translation>
     </message>
     <message>
-        <source>The configuration to show. What is wrong with it stands in the tree and does not make the command fail.</source>
-        <translation>Die Konfiguration, die gezeigt werden soll. Was an ihr falsch ist, steht im Baum und lässt den Befehl nicht scheitern.</translation>
+        <source>The configuration to show. The tree shows its findings, which do not make the command fail.</source>
+        <translation>Die Konfiguration, die gezeigt werden soll. Der Baum zeigt ihre Befunde, die den Befehl nicht scheitern lassen.</translation>
     </message>
     <message>
-        <source>When to write in colours: always, never, or auto, which is for terminals and unless NO_COLOR is set.</source>
-        <translation>Wann farbig geschrieben wird: always, never oder auto, das heißt auf Terminals und wenn NO_COLOR nicht gesetzt ist.</translation>
+        <source>When to use colours: always, never or auto; auto uses them on terminals unless NO_COLOR is set.</source>
+        <translation>Wann Farben verwendet werden: always, never oder auto; auto verwendet sie auf Terminals, wenn NO_COLOR nicht gesetzt ist.</translation>
     </message>
     <message>
         <source>--color must be always, never or auto.</source>
         <translation>--color muss always, never oder auto sein.</translation>
     </message>
     <message>
-        <source>Show a configuration as a tree, with every place and what is wrong.</source>
-        <translation>Eine Konfiguration als Baum zeigen, mit jedem Ort und allem, was falsch ist.</translation>
+        <source>Show a configuration as a tree, with all places and findings.</source>
+        <translation>Eine Konfiguration als Baum zeigen, mit allen Plätzen und Befunden.</translation>
     </message>
     <message>
-        <source>%1: All %2 files are as the manifest tells.</source>
-        <translation>%1: Alle %2 Dateien sind so, wie das Manifest sagt.</translation>
+        <source>%1: All %2 files match the manifest.</source>
+        <translation>%1: Alle %2 Dateien stimmen mit dem Manifest überein.</translation>
     </message>
     <message>
         <source>A staged directory, or an archive of one.</source>
@@ -1008,24 +1004,24 @@
         <translation>Prüfung</translation>
     </message>
     <message>
-        <source>Find what is missing, surplus or changed in a staged tree.</source>
-        <translation>Finden, was in einem bereitgestellten Baum fehlt, überzählig oder geändert ist.</translation>
+        <source>Report missing, surplus and changed files of a staged tree.</source>
+        <translation>Fehlende, überzählige und geänderte Dateien eines bereitgestellten Baums melden.</translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;. Try &apos;vrndevice --help&apos;.</source>
-        <translation>Es gibt keinen Befehl &apos;%1&apos;. Siehe &apos;vrndevice --help&apos;.</translation>
+        <source>Unknown command &apos;%1&apos;. Try &apos;vrndevice --help&apos;.</source>
+        <translation>Unbekannter Befehl &apos;%1&apos;. Siehe &apos;vrndevice --help&apos;.</translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;. Did you mean &apos;%2&apos;?</source>
-        <translation>Es gibt keinen Befehl &apos;%1&apos;. Meinten Sie &apos;%2&apos;?</translation>
+        <source>Unknown command &apos;%1&apos;. Did you mean &apos;%2&apos;?</source>
+        <translation>Unbekannter Befehl &apos;%1&apos;. Meinten Sie &apos;%2&apos;?</translation>
     </message>
     <message>
-        <source>No command given. Try &apos;vrndevice --help&apos;.</source>
-        <translation>Kein Befehl angegeben. Siehe &apos;vrndevice --help&apos;.</translation>
+        <source>The command is missing. Try &apos;vrndevice --help&apos;.</source>
+        <translation>Der Befehl fehlt. Siehe &apos;vrndevice --help&apos;.</translation>
     </message>
     <message>
-        <source>Which command of &apos;%1&apos;? Try &apos;vrndevice %1 --help&apos;.</source>
-        <translation>Welcher Befehl von &apos;%1&apos;? Siehe &apos;vrndevice %1 --help&apos;.</translation>
+        <source>The command of &apos;%1&apos; is missing. Try &apos;vrndevice %1 --help&apos;.</source>
+        <translation>Der Befehl von &apos;%1&apos; fehlt. Siehe &apos;vrndevice %1 --help&apos;.</translation>
     </message>
 </context>
 </TS>

@@ -16,8 +16,8 @@ class CConfigurationCheckPrivate;
  * values, what contradicts each other in it and, when a project directory is given, the files that
  * it refers to. Nothing is changed, neither the document nor the project.
  *
- * The document is judged by how the device and the tools read it: what they would pass over, take
- * for something else, or cannot do is an error; what works but is hardly meant is a warning.
+ * The document is judged by how the device and the tools read it: what they would ignore, read as
+ * something else, or cannot do is an error; what works but is hardly meant is a warning.
  *
  * Files are judged by the rules by which CStagingPlan judges them, too.
  *
@@ -26,7 +26,7 @@ class CConfigurationCheckPrivate;
  * differ. A drive or a device without an identity fits any.
  *
  * One object checks any number of documents, one after the other, and keeps nothing of a document
- * but its findings. Not synchronised: distinct objects may be used from different threads.
+ * but its findings. Thread-safe as every file object: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CConfigurationCheck
 {
@@ -37,7 +37,7 @@ public:
         SConfigurationFinding::ESeverity severity = SConfigurationFinding::ERROR;
         /** What is wrong when the rule finds something; one sentence for the user. */
         QString description;
-        /** How to mend it; that of its findings, unless these know better. */
+        /** How to correct it; the hint of its findings, unless they have a more specific one. */
         QString hint;
     };
 
@@ -50,8 +50,8 @@ public:
     /**
      * From the next document on, also looks for the files in the project's directory, the one to
      * which the project paths are relative. When a CDeviceManifest::fileName() lies in it, sizes
-     * and sums must be those that it tells. An empty text, the default, leaves the files alone.
-     * @return false when there is no such directory, or it cannot be read; see errorText()
+     * and checksums must match it. An empty text, the default, leaves the files alone.
+     * @return false if the directory does not exist or cannot be read; see errorText()
      */
     bool setProjectDirectory(const QString &directory);
     QString projectDirectory() const;
@@ -62,13 +62,13 @@ public:
      * @return false when the file cannot be read or is refused; there are no findings then
      */
     bool open(const QString &path);
-    /** As open(), from memory; what errorText() tells has no name of a file. */
+    /** As open(), from memory; errorText() contains no file name. */
     bool load(const QByteArray &buffer);
 
     /**
      * What was found in the last document, by position, then by rule; what has no position comes
      * first. Texts of the document that are very long are shortened in messages, and of more than
-     * 100,000 findings the rest is left out, which the rule "findings-left-out" tells.
+     * 100,000 findings the rest is left out, which the rule "findings-left-out" reports.
      */
     QList<SConfigurationFinding> findings() const;
     /** "file:line:column: reason", as far as known; empty when the last call did not fail. */

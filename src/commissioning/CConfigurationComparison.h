@@ -9,9 +9,9 @@
  * Drives are the same when their numbers are; files, parameter files, FPGA images and plug-ins when
  * their names are; start options when their words are. Where several entries of a list have one
  * key, those are compared between which the least differs. The order of entries and elements, white
- * space, comments and attributes of the document have no meaning; which FPGA image comes first,
- * and is thus the active one, has one. An item that is missing is as good as an empty one, and the
- * same holds for lists, single files and the device.
+ * space, comments and attributes of the document have no meaning; which FPGA image comes first, and
+ * is thus the active one, has one. A missing item equals an empty one, and the same holds for
+ * lists, single files and the device.
  *
  * Compared is what CConfigurationItems knows. The meta data of the documents, and elements and
  * attributes that the library does not know, are outside the comparison.

@@ -17,8 +17,8 @@ class CConfigurationItemsPrivate;
  * without touching anything else in the document.
  *
  * A path is words joined by dots. An entry of a list is the list's name with the entry's key in
- * brackets; in a key, "]" and "\" stand behind a "\". Where several entries have one key, "[2]"
- * behind it means the second, and so on:
+ * brackets; in a key, "]" and "\" are preceded by a "\". Where several entries have one key, "[2]"
+ * after it means the second, and so on:
  *
  *     description.name  .comment  .version  .creationDate  .revisionDate
  *     device.name  .comment  .class  .hardwareId  .configurationName  .executionPlugin
@@ -39,15 +39,15 @@ class CConfigurationItemsPrivate;
  * An entry's key is itself an item, "name" or "driveNo" ("files[a.xml].name",
  * "drive[2].driveNo"): setting it renames the entry, which is then found under its new key.
  *
- * What is there, is what readers of the document take for it: parameter files and plug-ins at any
- * depth below their list, no files that tell nothing. Values are told as they stand in the
- * document, also those that no reader understands; a drive's key alone is its number as it is read,
- * and its text where that is none. An item is there when its element is, with the empty value when
- * nothing is in it.
+ * The items are those that readers of the document find: parameter files and plug-ins at any depth
+ * below their list, no empty files. Values are given as they stand in the document, also those that
+ * no reader understands; a drive's key alone is its number as it is read, and its text if that is
+ * not a number. An item is there when its element is, with the empty value when nothing is in it.
  *
  * The object works on a file object that it does not own and that must outlive it; what it changes
- * is in that document at once, and saved by its save(). Failures are told by the result and
- * errorText(); the document is then unchanged. Not synchronised, as the file object itself.
+ * is in that document at once, and saved by its save(). Failures are reported by the result and
+ * errorText(); the document is then unchanged. Thread-safe as every file object: see
+ * docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CConfigurationItems
 {
@@ -66,9 +66,9 @@ public:
      */
     QList<SItem> items() const;
     /**
-     * Of these, @p path itself and those below it: @p path may name an item, an entry, or whatever
-     * items have in common, as "device", "files" or "drive[0].param". Nothing, with an errorText(),
-     * for what is no path and for items, entries and single files that are not there.
+     * The items at and below @p path, which may name an item, an entry, or whatever items have in
+     * common, as "device", "files" or "drive[0].param". Nothing, with an errorText(), for an
+     * invalid path and for items, entries and single files that are not there.
      */
     QList<SItem> items(const QString &path) const;
     /** The entries of all lists in the same order: "drive[0]", "files[recipes.csv]", … */
@@ -76,7 +76,10 @@ public:
 
     /** Whether the item, entry, single file, group or list of that path is there. */
     bool contains(const QString &path) const;
-    /** The value of one item; fails, without changing @p value, when it is none or is absent. */
+    /**
+     * The value of one item; fails, without changing @p value, if @p path does not lead to an item
+     * or the item is absent.
+     */
     bool value(const QString &path, QString &value) const;
 
     /**
@@ -87,7 +90,7 @@ public:
      * - class: kc2, kd3 or Undefined; type: that of a parameter file, KD2_drive or KD3_drive
      * - hardwareId: as CDeviceHardwareId reads it, or empty; opcUaEnabled: true or false
      * - busId: 0 to 4294967295; priority: a signed 32-bit number; driveNo: 0 to 254
-     * - an option's argument: words, none of which begins with "-", with single blanks between
+     * - an option's argument: words, none of which begins with "-", with single spaces between
      * - names of entries and of the active FPGA image: not empty, and no other entry's name
      * - every text: only characters that XML can carry
      *
@@ -102,7 +105,7 @@ public:
      * "device.options[-trace]". Its items are empty, or have the values with which such an entry is
      * valid: a parameter file is of the type VornParameters, a plug-in has the priority 0; a drive
      * is a KD3 drive with the name and the hardware identity that
-     * CDeviceBaseElement::insertSubDevice() gives it. Fails when it is there already.
+     * CDeviceBaseElement::insertSubDevice() gives it. Fails if it already exists.
      */
     bool add(const QString &path);
     /**

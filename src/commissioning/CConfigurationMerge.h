@@ -11,10 +11,10 @@
  * What two people changed in copies of one configuration, brought together item by item.
  *
  * What one side changed is taken, and so is what both changed in the same way. Where they changed
- * one thing in different ways, it stays as OURS has it, and that is told as a conflict. What counts
- * as the same entry is told by CConfigurationComparison.
+ * one thing in different ways, it stays as OURS has it, and that is reported as a conflict. What
+ * counts as the same entry is defined by CConfigurationComparison.
  *
- * A value: it may be copied, and distinct ones may be used from different threads.
+ * Thread-safe as every value: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CConfigurationMerge
 {

@@ -13,7 +13,7 @@ class CConfigurationOverviewPrivate;
 /**
  * Everything that a configuration holds, ready to be shown: the device as configuration() of the
  * file reads it, each entry beside the path of its item in the document (see CConfigurationItems),
- * and each file with the directories that the document tells or the directory layout gives it.
+ * and each file with the directories that the document contains or the directory layout gives it.
  *
  * The overview is taken once; it does not follow later changes of the document. What the reading
  * warns of is posted to the message board as always. Entries stand in the order of the document,
@@ -48,7 +48,7 @@ public:
 
     struct SOption {
         QString item;
-        /** The option, with its argument behind a blank. */
+        /** The option, with its argument after a space. */
         QString text;
     };
 

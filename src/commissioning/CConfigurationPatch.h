@@ -12,11 +12,11 @@
  * Changes from one configuration to another, to be read by people, to be kept as a file, and to be
  * made in a document that is as the patch expects it.
  *
- * Paths are those of CConfigurationItems. The changes are made in their order, and each path tells
+ * Paths are those of CConfigurationItems. The changes are made in their order, and each path states
  * where its entry is found then. A single file, as "device.dictionary" or "drive[2].param", is
  * added and removed as an entry.
  *
- * A value: it may be copied, and distinct ones may be used from different threads.
+ * Thread-safe as every value: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CConfigurationPatch
 {
@@ -24,11 +24,11 @@ public:
     enum EChange {
         /** An entry of a list, or a single file, comes with its items. */
         ADD_ENTRY,
-        /** It goes, with its items. */
+        /** It is removed, with its items. */
         REMOVE_ENTRY,
         /** The value of an item becomes another one. */
         SET_ITEM,
-        /** An item goes from the document. */
+        /** An item is removed from the document. */
         REMOVE_ITEM
     };
 
@@ -61,8 +61,8 @@ public:
     bool readJson(const QByteArray &json, QString &errorText);
 
     /**
-     * The changes as an engineer would tell them, one line each: "drive 2: name DRIVE-2 ->
-     * GRIPPER". Behind an entry that is added or removed follow its items, indented lines each.
+     * The changes in the terms of an engineer, one line each: "drive 2: name DRIVE-2 -> GRIPPER".
+     * An entry that is added or removed is followed by its items, one indented line each.
      */
     QStringList describe() const;
     /** The first line alone. */

@@ -14,7 +14,7 @@
  *
  * The page is UTF-8 and complete in itself: it loads nothing and runs nothing, can be printed, and
  * follows the reader's choice of light or dark. It is XML, too. The same configuration and findings
- * give the same bytes; texts, and the language that the page tells, are those of the installed
+ * give the same bytes; texts, and the language that the page declares, are those of the installed
  * translation.
  */
 class VRNCOMMISSIONING_EXPORT CConfigurationReport

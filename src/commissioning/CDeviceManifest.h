@@ -12,7 +12,7 @@
  * What a device tree consists of: its directories, and the size and the SHA-256 sum of every file,
  * so that what is missing, surplus or changed can be found later, on the device or in the project.
  *
- * A value: it may be copied, and distinct ones may be used from different threads.
+ * Thread-safe as every value: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CDeviceManifest
 {

@@ -13,7 +13,7 @@
  * that is not shown, to the nearest one above it: "drive[2].param.name" to "drive[2].param", else
  * to "drive[2]", else to "drive", and at last to the whole document, whose path is empty.
  *
- * A value: it may be copied, and distinct ones may be used from different threads.
+ * Thread-safe as every value: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CItemFindings
 {

@@ -20,15 +20,15 @@
  *
  * Equal plans give equal trees and the same bytes of archives: files have the mode 0644,
  * directories 0755, everything the time of modification 1980-01-01 00:00:00 UTC; entries of
- * archives are in the order of their names, belong to user and group 0, and the compression tells
+ * archives are in the order of their names, belong to user and group 0, and the compression records
  * no time. All names are UTF-8, whatever the locale.
  *
- * Not synchronised: one object must not be used from two threads at once, distinct ones may.
+ * Thread-safe as every file object: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CStagedTree
 {
 public:
-    /** Told now and then, in bytes; false ends the work. */
+    /** Called now and then with the progress in bytes; false ends the work. */
     using Progress = std::function<bool(qint64 done, qint64 total)>;
 
     /** Where a plan is carried out; what is empty is not made. At least one must be given. */
@@ -56,7 +56,7 @@ public:
             /** A directory or link where a file should be, or the other way round. */
             WRONG_KIND,
             UNREADABLE,
-            /** There is no manifest, or none that can be read; nothing else is compared then. */
+            /** The manifest is missing or cannot be read; nothing else is compared then. */
             NO_MANIFEST,
             /** The archive is damaged or none; what follows is not compared. */
             BROKEN
@@ -82,7 +82,7 @@ public:
     /**
      * Compares the tree or archive @p path with the manifest in it. Nothing is extracted, links are
      * not followed, and little memory is used. Directories and files that the manifest does not
-     * tell are surplus; what is in such a directory is not told.
+     * list are surplus; the content of such a directory is not listed.
      * @return whether it could be compared at all, with or without differences()
      */
     bool verify(const QString &path);

@@ -10,11 +10,11 @@
 
 /**
  * What has to be put on a device so that it runs a configuration: every directory, and every file
- * with where it comes from and where it goes; and what is in the way of that.
+ * with its source and its place; and the problems that prevent staging.
  *
  * The directories are those of CDeviceFileSystem, those of every drive under the drive's own
  * number, and those in which files lie. The files are the document itself, which goes where
- * CDeviceBaseElement::configurationFile() tells, and all that CDeviceBaseElement::allFiles() names.
+ * CDeviceBaseElement::configurationFile() names, and all that CDeviceBaseElement::allFiles() names.
  *
  * Whether a file can be staged is judged as CConfigurationCheck does it, by the same rules. A file
  * of the project may be reached through symbolic links as long as it is in the project. A project
@@ -27,7 +27,7 @@
  *
  * The project is looked at once, when the plan is made.
  *
- * A value: it may be copied, and distinct ones may be used from different threads.
+ * Thread-safe as every value: see docs/architecture.md.
  */
 class VRNCOMMISSIONING_EXPORT CStagingPlan
 {
@@ -35,7 +35,7 @@ public:
     /** The document that describes the device, as it is to lie on the device. */
     struct SDocument {
         QByteArray content;
-        /** The file that it was read from; empty when it is none. */
+        /** The file that it was read from; empty if it was not read from a file. */
         QString path;
     };
 
@@ -44,7 +44,10 @@ public:
         QString devicePath;
         /** Relative to the project's directory; empty for a document that is not in it. */
         QString projectPath;
-        /** Name of the file that it comes from, as the system takes it; empty when it is none. */
+        /**
+         * Name of the file that it comes from, as the system takes it; empty if it does not come
+         * from a file.
+         */
         QByteArray source;
         /** That of the document; null for a file that is yet to be read. */
         QByteArray content;
@@ -60,7 +63,7 @@ public:
          * "file-and-directory".
          */
         QString rule;
-        /** As in SFile, or as the configuration tells it where that is wrong; may be empty. */
+        /** As in SFile, or as the configuration contains it where that is wrong; may be empty. */
         QString devicePath;
         QString projectPath;
         /** One sentence for the user. */

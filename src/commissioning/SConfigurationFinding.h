@@ -9,7 +9,7 @@ struct SConfigurationFinding {
     enum ESeverity {
         /** The device or a tool would not do what is meant. */
         ERROR,
-        /** It works, but somebody should look at it. */
+        /** It works, but is probably not intended. */
         WARNING
     };
 
@@ -26,6 +26,6 @@ struct SConfigurationFinding {
     QString found;
     /** What should stand there, in words; may be empty. */
     QString expected;
-    /** How to mend it, in a sentence or two. */
+    /** How to correct it, in a sentence or two. */
     QString hint;
 };

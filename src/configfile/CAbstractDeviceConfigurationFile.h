@@ -71,7 +71,7 @@ public:
 
     /** Builds a list element named @p tag and puts it in place of the one in @p parent. */
     void setFileElements(const QList<CFileElement> &files, const QString &tag, QDomElement parent);
-    /** As above, with names alone. */
+    /** The same files, with names alone. */
     void setFileStringList(const QStringList &fileNames, const QString &tag, QDomElement parent);
     /** Reads from @p element if it is a "File" with child nodes; else clears @p fileName. */
     void fileString(QString &fileName, const QDomElement &element) const;

@@ -347,7 +347,7 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
         if (assigned.number < 0) {
             withoutPlace.prepend(index);
             CMessageBoardHelper::setDebugWarning(
-                Texts::tr("The sub-device '%1' is left out: all drive numbers are used.")
+                Texts::tr("The drive '%1' is left out: all drive numbers are in use.")
                     .arg(subDevice.name()),
                 logfile());
             continue;

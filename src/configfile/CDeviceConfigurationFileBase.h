@@ -16,7 +16,7 @@ public:
 
     /**
      * Warns of a document of a previous or a later version, whose version then becomes the current
-     * one. Nothing happens when one of the texts is no revision.
+     * one. Nothing happens if one of the texts is not a valid revision.
      * @return true: a version never refuses a document
      */
     bool handleVersionError(const QString &required, const QString &existing) override;
@@ -25,7 +25,7 @@ public:
 
     /** Sets the children of the "Description" @p element. */
     virtual void setDescriptionElement(const CDescriptionElement &description, QDomElement element);
-    /** Reads the "Description" @p element; a default description when it is none. */
+    /** Reads the "Description" @p element; a default description if @p element is another one. */
     virtual void descriptionElement(CDescriptionElement &description,
                                     const QDomElement &element) const;
 
@@ -38,7 +38,7 @@ public:
     /** Appends what a KD2 drive has beyond other drives to its "SubDevice" @p element. */
     virtual void appendKD2SubDeviceElement(const CSubDeviceKD2Element &subDevice,
                                            QDomElement element);
-    /** Reads the "Device" @p element; a null device when it is none. */
+    /** Reads the "Device" @p element; a null device if @p element is another one. */
     virtual void deviceElement(CDeviceElement &device, const QDomElement &element) const;
     /**
      * Reads the sub-devices of the "Device" @p element. Each gets a drive number of its own: one
@@ -50,12 +50,12 @@ public:
     /** Reads all "File" elements below the "ParameterFiles" @p element. */
     virtual void paramFileElementList(QList<CParamFileElement> &files,
                                       const QDomElement &element) const;
-    /** Builds "ParameterFiles" anew in the "Config" @p config; invalid files are left out. */
+    /** Rebuilds "ParameterFiles" in the "Config" @p config; invalid files are left out. */
     virtual void setParamFileElementList(const QList<CParamFileElement> &files, QDomElement config);
     /** Reads all "Plugin" elements below the "Plugins" @p element. */
     virtual void pluginElementList(QList<CPluginElement> &plugins,
                                    const QDomElement &element) const;
-    /** Builds "Plugins" anew in the "Config" @p config. */
+    /** Rebuilds "Plugins" in the "Config" @p config. */
     virtual void setPluginElementList(const QList<CPluginElement> &plugins, QDomElement config);
 
     void setCurrentFileVersion(const QString &version);

@@ -25,16 +25,16 @@ class ICLogfile;
  * then save(). The object keeps the document and no elements: every getter reads the document,
  * every setter changes it at once. What a setter does not concern stays in the document, also
  * elements, attributes and comments that this library does not know; only setConfiguration() and
- * the setters of whole lists build their part of the document anew.
+ * the setters of whole lists rebuild their part of the document.
  *
  * Without a document, as after a failed open() or load(), getters give empty values, and setters
  * change nothing and return false. A getter never creates an element.
  *
- * Failures are told by the result and posted to the message board together with the log, as
+ * The result reports a failure, which is also posted to the message board together with the log, as
  * critical messages where the operation failed and as warnings where it went on.
  *
- * The virtual operations stand in the order that binary compatibility demands. Not synchronised:
- * one object must not be used from two threads at once, distinct ones may.
+ * The virtual operations stand in the order that binary compatibility demands. Thread-safe as every
+ * file object: see docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT ICDeviceConfigurationFile : public CXmlAbstractVornFile
 {
@@ -97,7 +97,7 @@ public:
     virtual bool configuration(CDeviceElement &device) const = 0;
 
     /**
-     * Object dictionary and fault texts, as the document tells them: with their project paths,
+     * Object dictionary and fault texts, as the document contains them: with their project paths,
      * whether or not configuration() would accept these. A null file removes the entry.
      */
     virtual bool setOdictFile(const CFileElement &file) = 0;
@@ -105,7 +105,7 @@ public:
     virtual bool setFaultTextFile(const CFileElement &file) = 0;
     virtual CFileElement faultTextFile() const = 0;
 
-    /** The parameter files, with name, type and comment; the document tells no directories. */
+    /** The parameter files, with name, type and comment; the document contains no directories. */
     virtual QList<CParamFileElement> paramFiles() const = 0;
     /** @return whether the document has a list of parameter files */
     virtual bool paramFiles(QList<CParamFileElement> &files) const = 0;
@@ -166,7 +166,7 @@ public:
     virtual bool setEtherCatMasterFile(const CFileElement &file) = 0;
     virtual CFileElement etherCatMasterFile() const = 0;
 
-    /** The start options, split at blanks: an option with an argument comes back as two. */
+    /** The start options, split at spaces: an option with an argument comes back as two. */
     virtual QStringList options() const = 0;
 
     // DOM helpers. They report no errors: what is absent is a null element or a cleared value. A

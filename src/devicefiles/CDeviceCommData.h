@@ -16,8 +16,7 @@ class CDeviceCommSharedData;
  * How a tool reaches a device in the network, and what it knows of it.
  *
  * Null means equal to a default-constructed record. Copies share their data until one of them is
- * changed; setters store what they are given. Distinct records may be used from different threads,
- * also when they share data; one record must not be written while another thread uses it.
+ * changed; setters store what they are given. Thread-safe as every value: see docs/architecture.md.
  *
  * The virtual operations stand in the order that binary compatibility demands.
  */
@@ -38,7 +37,7 @@ public:
 
     /**
      * Compares everything but the connection state, on purpose: a device stays the same when it
-     * goes off line, so whoever waits for a change of state must compare the states.
+     * goes off line, so code that waits for a change of state must compare the states.
      */
     bool operator==(const CDeviceCommData &other) const;
     bool operator!=(const CDeviceCommData &other) const;
@@ -64,7 +63,7 @@ public:
 
     CDeviceItem::EHostAddrType hostAddressType() const;
     void setHostAddressType(CDeviceItem::EHostAddrType type);
-    /** Name of a type, such as "IPv4"; "Undefined" for every number that is none. */
+    /** Name of a type, such as "IPv4"; "Undefined" for every other number. */
     static QString hostAddressTypeStr(CDeviceItem::EHostAddrType type);
 
     /** Address of the device; null when it is not known. */
@@ -82,7 +81,7 @@ public:
     /** Always CONNECTION_STATE_UNKNOWN while serial() is 0; the state that was set shows after. */
     NvrnGlobal::EConnectionState connectionState() const;
     void setConnectionState(NvrnGlobal::EConnectionState state);
-    /** Name of a state, such as "Connected"; "Unknown" for every number that is none. */
+    /** Name of a state, such as "Connected"; "Unknown" for every other number. */
     static QString connectionStateStr(NvrnGlobal::EConnectionState state);
 
     /** Place in the user's list of preferred devices; -1 when it is not in it. */

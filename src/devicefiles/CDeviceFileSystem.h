@@ -20,8 +20,7 @@
  * absolute and end in a separator. For an empty configuration name the directory of the
  * configuration is empty, and everything below it is only its own last part: check the name first.
  *
- * Nothing here touches a disk. Static operations may be used from any thread, an object by one
- * thread at a time.
+ * Nothing here touches a disk. Thread-safe as every value: see docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT CDeviceFileSystem
 {
@@ -104,7 +103,7 @@ public:
     static QString stdFaultTextFilePath(const QString &name);
     QString stdFaultTextFilePath() const;
     /**
-     * The configuration area of the opt tree for the data bases of device, firmware, logic and
+     * The configuration area of the opt tree for the databases of device, firmware, logic and
      * option modules, which all configurations share; else the configuration's own parameters.
      */
     static QString stdParamFilePath(NvrnGlobal::EParamFileType type, const QString &name);
@@ -125,11 +124,11 @@ public:
      * own directory, firmware, logic and parameters. Empty when the name is empty.
      */
     static QStringList smPathList(const QString &name, unsigned int subDeviceCount);
-    /** As above, for the held device and as many sub-devices as it has; empty when it is null. */
+    /** The same for the held device and all of its sub-devices; empty if the device is null. */
     QStringList smPathList() const;
     /** Every directory of a configuration in the opt tree; empty when the name is empty. */
     static QStringList optSMPathList(const QString &name);
-    /** As above, for the held device; empty when it is null. */
+    /** The same for the held device; empty if it is null. */
     QStringList optSMPathList() const;
 
     /**
@@ -146,7 +145,7 @@ public:
      *         as not found in the path
      */
     static QString toRelativeProjectPath(const QString &path, const CDeviceBaseElement &device);
-    /** As above, for the held device. */
+    /** The same for the held device. */
     QString toRelativeProjectPath(const QString &path) const;
 
 private:

@@ -12,20 +12,20 @@ class CDeviceOSReleaseFilePrivate;
 class ICLogfile;
 
 /**
- * The file "os-release" of a device: lines KEY=value that tell what its operating system is made
- * of. Keys that have no accessor here are kept and saved, too.
+ * The file "os-release" of a device: lines KEY=value that describe what its operating system is
+ * made of. Keys that have no accessor here are kept and saved, too.
  *
  * The text is UTF-8, with or without byte-order mark; lines end in a line feed, with or without
  * carriage return. Nothing is posted to the message board or written to the log.
  *
- * Not synchronised: one object must not be used from two threads at once, distinct ones may.
+ * Thread-safe as every file object: see docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT CDeviceOSReleaseFile
 {
 public:
     /** No keys. @p log is not owned, may be null, and is only kept for callers. */
     explicit CDeviceOSReleaseFile(ICLogfile *log = nullptr);
-    /** Calls open(), whose result is not told: a failure leaves isNull(). */
+    /** Calls open(), whose result is not reported: a failure leaves isNull(). */
     CDeviceOSReleaseFile(const QString &fileName, ICLogfile *log);
     /** Calls openFromBuffer(). */
     CDeviceOSReleaseFile(const QByteArray &buffer, ICLogfile *log);
@@ -42,11 +42,11 @@ public:
      * second "=" is dropped. A line without "=" is skipped. A key that comes twice keeps its first
      * place and gets its last value.
      *
-     * @return FILE_RESULT_SUCCESS; or FILE_RESULT_READ_FAILURE when there is no such file, when it
-     *         is no regular file, or when it cannot be read
+     * @return FILE_RESULT_SUCCESS; or FILE_RESULT_READ_FAILURE if the file does not exist, is not a
+     *         regular file, or cannot be read
      */
     NvrnGlobal::EFileResult open(const QString &fileName);
-    /** As above, from memory. @return FILE_RESULT_SUCCESS */
+    /** Opens from memory. @return FILE_RESULT_SUCCESS */
     NvrnGlobal::EFileResult openFromBuffer(const QByteArray &buffer);
 
     /**
@@ -56,12 +56,12 @@ public:
      * changed in place; keep the original.
      *
      * @return FILE_RESULT_SUCCESS; or FILE_RESULT_WRITE_FAILURE, and the old file is still there,
-     *         whole, or in the one case that the errorText() tells, the new one. Where the file can
-     * be written but its directory cannot, it is written in place, and a power cut half-way may
-     * damage it.
+     *         whole, or in the one case that the errorText() describes, the new one. Where the file
+     *         can be written but its directory cannot, it is written in place, and a power cut
+     *         half-way may damage it.
      */
     NvrnGlobal::EFileResult save(const QString &fileName);
-    /** As above, in place of what @p buffer held. @return FILE_RESULT_SUCCESS */
+    /** Saves to memory, in place of the content of @p buffer. @return FILE_RESULT_SUCCESS */
     NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer);
 
     /**

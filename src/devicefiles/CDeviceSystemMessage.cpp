@@ -111,7 +111,7 @@ QString translated(const char *text)
     return QCoreApplication::translate("CDeviceSystemMessage", text);
 }
 
-/** The result of @p text for the code in hexadecimal digits, empty when it is none. */
+/** The result of @p text for the code in hexadecimal digits, empty if it is not a valid code. */
 QString forCode(const QString &code, QString (*text)(int))
 {
     bool isNumber = false;

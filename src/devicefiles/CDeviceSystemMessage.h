@@ -10,7 +10,7 @@
  * one line, and a description for a view of details.
  *
  * The texts are translated when they are asked for, in the context "CDeviceSystemMessage". They are
- * the keys of the catalogues: with "Too much errors" spelt better, its translations would be lost.
+ * the keys of the catalogues: with a corrected "Too much errors", its translations would be lost.
  * All operations are static and may be used from any thread.
  */
 class VRNDEVICECORE_EXPORT CDeviceSystemMessage
@@ -35,8 +35,8 @@ public:
     static QString description(int code);
 
     /**
-     * As above; @p code is a hexadecimal number, with or without "0x", whatever it looks like:
-     * "400" is the code 1024. Empty when it is none.
+     * The same for a hexadecimal number, with or without "0x", whatever it looks like: "400" is the
+     * code 1024. Empty if @p code is not a number.
      */
     static QString message(const QString &code);
     static QString description(const QString &code);

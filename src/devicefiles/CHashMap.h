@@ -7,8 +7,7 @@
  * A map that keeps its keys in the order in which they were first inserted.
  *
  * Keys are equal when their operator== says so; they need a qHash(). Inserting and looking up take
- * the same time however many keys there are. Not synchronised: an object must not be written while
- * another thread uses it.
+ * the same time however many keys there are. Thread-safe as every value: see docs/architecture.md.
  */
 template <typename Key, typename Value>
 class CHashMap
@@ -33,7 +32,7 @@ public:
         m_values.append(value);
     }
 
-    /** The value of @p key; a default-constructed one when there is no such key. */
+    /** The value of @p key; a default-constructed one if the key is missing. */
     Value value(const Key &key) const { return m_values.value(m_indices.value(key, -1)); }
 
     /** In the order in which they were first inserted. */

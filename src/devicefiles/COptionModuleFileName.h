@@ -7,12 +7,12 @@
 #include <QString>
 
 /**
- * The file name of a firmware image for an option module, which tells what it is for:
+ * The file name of a firmware image for an option module, which states what it is for:
  * SLOT_INTERFACE_HARDWARE_SOFTWARE[_TEXT].SUFFIX, for example "OM1_EC_H2_V1_3.bin" or
  * "OM2_AI_H1_V10_0_special.bin".
  *
- * Null and empty mean that all parts are empty. Distinct objects may be used from different
- * threads; one object must not be written while another thread uses it.
+ * Null and empty mean that all parts are empty. Thread-safe as every value: see
+ * docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT COptionModuleFileName
 {
@@ -36,7 +36,10 @@ public:
 
     /** "OM" and a number, such as "OM1". */
     QString slot() const;
-    /** @return false, and nothing changes, when @p slot is none; so do the next three */
+    /**
+     * @return false, and nothing changes, if @p slot is not a valid slot; the next three do the
+     * same
+     */
     bool setSlot(const QString &slot);
     /** Two letters or more, such as "EC". */
     QString interface() const;
@@ -47,20 +50,20 @@ public:
     /** "V" and two numbers, such as "V1_3". */
     QString softwareVersion() const;
     bool setSoftwareVersion(const QString &version);
-    /** Free text behind the versions; stored unchecked, but only letters, digits and "_" are valid.
+    /** Free text after the versions; stored unchecked, but only letters, digits and "_" are valid.
      */
     QString text() const;
     void setText(const QString &text);
     /** Extension without its dot; empty stands for standardSuffix() in fileName(). */
     QString suffix() const;
-    /** Of a @p suffix with dots only the part behind the last one counts. */
+    /** Of a @p suffix with dots only the part after the last one counts. */
     void setSuffix(const QString &suffix);
 
     /** The number in the hardware version; -1 when it is empty or too large for an int. */
     int hardwareVersionAsInt() const;
-    /** The first number in the software version; -1 as above. */
+    /** The first number in the software version; -1 if it is empty or too large. */
     int softwareMajorVersionAsInt() const;
-    /** The last number in the software version; -1 as above. */
+    /** The last number in the software version; -1 if it is empty or too large. */
     int softwareMinorVersionAsInt() const;
 
     // Descriptions for the user, translated in the context "COptionModuleFileName". The texts are
@@ -71,9 +74,9 @@ public:
     static QString descriptionForSlot(const QString &slot);
     /** What the two letters stand for, in any case; "Unknown interface" for any other text. */
     static QString descriptionForInterface(const QString &interface);
-    /** As descriptionForSlot(); empty when @p slot is no slot. */
+    /** As descriptionForSlot(); empty if @p slot is not a valid slot. */
     static QString slotDescription(const QString &slot);
-    /** As descriptionForInterface(); empty when @p interface is no interface. */
+    /** As descriptionForInterface(); empty if @p interface is not a valid interface. */
     static QString interfaceDescription(const QString &interface);
     /** Of the own slot, also when it is empty. */
     QString slotDescription() const;

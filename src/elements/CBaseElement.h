@@ -21,9 +21,8 @@ class CSubDeviceKD3Element;
  * some element finds out what it is.
  *
  * An element is null from construction until one of its fields differs from the default. Copies
- * share their data until one of them is changed; setters store what they are given. Distinct
- * elements may be used from different threads, also when they share data; one element must not be
- * written while another thread uses it.
+ * share their data until one of them is changed; setters store what they are given. Thread-safe as
+ * every value: see docs/architecture.md.
  *
  * The virtual operations stand in the order that binary compatibility demands.
  */

@@ -16,9 +16,8 @@ class CDescriptionElementData;
  * A default-constructed description bears today's date twice, and null is compared with one built
  * at the moment of asking: a description that was null yesterday is not null today.
  *
- * Copies share their data until one of them is changed. Distinct elements may be used from
- * different threads, also when they share data; one element must not be written while another
- * thread uses it.
+ * Copies share their data until one of them is changed. Thread-safe as every value: see
+ * docs/architecture.md.
  *
  * The virtual operations stand in the order that binary compatibility demands.
  */

@@ -18,17 +18,17 @@
 class CDeviceBaseElementData;
 
 /**
- * A device (a controller or a drive) with everything that a configuration tells of it: its files,
- * plug-ins and start options, its address on the network, and the sub-devices it carries, by drive
- * number.
+ * A device (a controller or a drive) with everything that a configuration contains about it: its
+ * files, plug-ins and start options, its address on the network, and the sub-devices it carries, by
+ * drive number.
  *
  * The sub-devices follow the device: whenever its serial number, name, configuration name or
  * hardware identity is set, they get the same values that they get when they are inserted.
  *
- * Callers create a CDeviceElement. Copies share their data until one of them is changed; the
- * thread rule is that of CBaseElement. Positions in lists count from 0; one that is negative or
- * behind the end is absent. The virtual operations stand in the order that binary compatibility
- * demands.
+ * Callers create a CDeviceElement. Copies share their data until one of them is changed;
+ * thread-safe as every value: see docs/architecture.md. Positions in lists count from 0; one that
+ * is negative or past the end is absent. The virtual operations stand in the order that binary
+ * compatibility demands.
  */
 class VRNDEVICECORE_EXPORT CDeviceBaseElement : public CBaseElement
 {
@@ -75,7 +75,7 @@ public:
     /**
      * Whether a parameter file that was made for @p hardwareId fits this device: prefix, name and
      * platform must be the same. Version and revision must be the same, too, for the firmware and
-     * the logic data base, whose images are built for one state of the hardware; all other types
+     * the logic database, whose images are built for one state of the hardware; all other types
      * hold values that later states of the hardware understand as well.
      */
     virtual bool isParameterHardwareIdCompatible(const CDeviceHardwareId &hardwareId,
@@ -89,16 +89,18 @@ public:
     virtual void setDeviceClass(NDeviceConf::EDeviceClass deviceClass);
 
     /**
-     * Adds a parameter file. One that is there already, which is one of the same name, type and
-     * drive number, is replaced where it stands.
+     * Adds a parameter file. An existing one of the same name, type and drive number is replaced in
+     * its position.
      * @return false, and nothing is changed, when @p file is not valid
      */
     virtual bool addParameterFile(const CParamFileElement &file);
-    /** As above, for a file of that base name and type that belongs to no drive. */
+    /**
+     * Adds a parameter file of that base name and type that belongs to no drive, by the same rules.
+     */
     virtual bool addParameterFile(const QString &name, NvrnGlobal::EParamFileType type);
-    /** Removes the first equal parameter file; false when there is none. */
+    /** Removes the first equal parameter file; false if there is none. */
     virtual bool removeParameterFile(const CParamFileElement &file);
-    /** Removes the first parameter file of that base name and type; false when there is none. */
+    /** Removes the first parameter file of that base name and type; false if there is none. */
     virtual bool removeParameterFile(const QString &name, NvrnGlobal::EParamFileType type);
 
     /** Object dictionary. */
@@ -128,11 +130,11 @@ public:
      *
      * With 255 it gets nextFreeDriveID(), unless 255 itself is in use. A sub-device that has the
      * number already is replaced.
-     * @param subDevice is changed as told
+     * @param subDevice is changed as described
      * @return the drive number used
      */
     virtual quint8 insertSubDevice(CSubDeviceElement &subDevice, unsigned char id = 255);
-    /** As above, with a copy; @p subDevice keeps its values. */
+    /** Inserts a copy by the same rules; @p subDevice keeps its values. */
     virtual quint8 insertSubDevice(const CSubDeviceElement &subDevice, unsigned char id = 255);
 
     /** The configuration document itself, where the directory layout puts it. */
@@ -160,10 +162,10 @@ public:
     void setOptions(const QStringList &options);
     /**
      * Replaces the list by the options in @p options; a new one begins at each "-" at the start or
-     * behind white space, so "-a -b x" gives "-a" and "-b x".
+     * after white space, so "-a -b x" gives "-a" and "-b x".
      */
     void setOptions(const QString &options);
-    /** Appends an option that begins with "-"; one that is there already stays where it is. */
+    /** Appends an option that begins with "-"; an existing one keeps its position. */
     void appendOption(const QString &option);
     /**
      * Removes the first entry that is @p option alone or followed by white space and an argument.
@@ -174,14 +176,14 @@ public:
 
     // FPGA images
 
-    /** The FPGA images, if @p kinds contains DEVICE_FILE_FPGA, as allFiles() tells them. */
+    /** The FPGA images, if @p kinds contains DEVICE_FILE_FPGA, as allFiles() lists them. */
     QList<CFileElement> fpgaFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const;
     /** One FPGA image as a file at its place on the device and in the project; null when absent. */
     CFileElement fpgaFileElement(int index) const;
     int fpgaFileCount() const;
     void setFpgaFiles(const QStringList &fileNames);
     void appendFpgaFile(const QString &fileName);
-    /** Removes the first entry equal to @p fileName; false when there is none. */
+    /** Removes the first entry equal to @p fileName; false if there is none. */
     bool removeFpgaFile(const QString &fileName);
     /** False when absent. */
     bool removeFpgaFile(int index);
@@ -200,9 +202,9 @@ public:
 
     QList<CParamFileElement> parameterFiles() const;
     QList<CParamFileElement> parameterFiles(NvrnGlobal::EParamFileType type) const;
-    /** The value and definition files asked for by @p kinds, as allFiles() tells them. */
+    /** The value and definition files asked for by @p kinds, as allFiles() lists them. */
     QList<CFileElement> parameterFiles(QFlags<NvrnDeviceCore::EDeviceFile> kinds) const;
-    /** The value and definition files of one type, as allFiles() tells them. */
+    /** The value and definition files of one type, as allFiles() lists them. */
     QList<CFileElement> parameterFileElements(NvrnGlobal::EParamFileType type) const;
     void setParameterFiles(const QList<CParamFileElement> &files);
     /** Whether an equal parameter file is there; the comment does not count. */
@@ -216,7 +218,7 @@ public:
     int additionalFileCount() const;
     void setAdditionalFiles(const QList<CFileElement> &files);
     void appendAdditionalFile(const CFileElement &file);
-    /** Removes the first equal file; false when there is none. */
+    /** Removes the first equal file; false if there is none. */
     bool removeAdditionalFile(const CFileElement &file);
     /** False when absent. */
     bool removeAdditionalFile(int index);
@@ -226,7 +228,7 @@ public:
 
     QList<CPluginElement> plugins() const;
     void setPlugins(const QList<CPluginElement> &plugins);
-    /** The libraries of the plug-ins, as allFiles() tells them. */
+    /** The libraries of the plug-ins, as allFiles() lists them. */
     QList<CFileElement> pluginFileElements() const;
     /** Name of the plug-in that runs the application; empty when there is none. */
     QString executionPlugin() const;
@@ -241,7 +243,7 @@ public:
     void setOpcUaFiles(const QList<CFileElement> &files);
     void appendOpcUaFile(const CFileElement &file);
 
-    /** Bus configuration of the EtherCAT master; null when the device is none. */
+    /** Bus configuration of the EtherCAT master; null if the device is not an EtherCAT master. */
     CFileElement etherCatMasterFile() const;
     void setEtherCatMasterFile(const CFileElement &file);
 
@@ -275,7 +277,7 @@ public:
     /** Whether one was removed. */
     bool removeSubDevice(unsigned char id);
     /**
-     * The highest number in use plus one; 0 when there are no sub-devices, and again behind 255.
+     * The highest number in use plus one; 0 when there are no sub-devices, and again after 255.
      * Gaps below are never used again, so that a drive keeps its number for good.
      */
     quint8 nextFreeDriveID() const;

@@ -13,9 +13,8 @@ class CFileElementData;
  * A file that belongs to a configuration: its name, the directory that holds it on the device, and
  * the directory that holds it in the project.
  *
- * Null means that nothing is told: all four texts are empty. Copies share their data until one of
- * them is changed. Distinct elements may be used from different threads, also when they share
- * data; one element must not be written while another thread uses it.
+ * Null means that all four texts are empty. Copies share their data until one of them is changed.
+ * Thread-safe as every value: see docs/architecture.md.
  *
  * The virtual operations stand in the order that binary compatibility demands; those that compose
  * a path call the accessors through their virtual operations.
@@ -35,14 +34,14 @@ public:
     virtual CFTPath::EEntryPoint deviceEntryPoint() const;
 
     /**
-     * Directory on the device. Back-slashes are stored as forward slashes, and one stands at the
+     * Directory on the device. Backslashes are stored as forward slashes, and one stands at the
      * start and at the end; an empty directory is stored as null.
      */
     virtual QString devicePath() const;
     virtual void setDevicePath(const QString &devicePath);
 
     /**
-     * Directory in the project, relative or absolute. Back-slashes are stored as forward slashes,
+     * Directory in the project, relative or absolute. Backslashes are stored as forward slashes,
      * and one stands at the end; an empty directory is stored as null.
      */
     virtual QString projectPath() const;

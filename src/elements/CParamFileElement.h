@@ -14,9 +14,8 @@ class CParamFileElementData;
  * A parameter file of a configuration: a pair of a value file and a definition file that share a
  * base name.
  *
- * Copies share their data until one of them is changed. Distinct elements may be used from
- * different threads, also when they share data; one element must not be written while another
- * thread uses it.
+ * Copies share their data until one of them is changed. Thread-safe as every value: see
+ * docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT CParamFileElement
 {

@@ -9,11 +9,10 @@
 class CPluginElementData;
 
 /**
- * A plug-in that the device loads: a shared library, told by name, version and load priority.
+ * A plug-in that the device loads: a shared library, with name, version and load priority.
  *
  * Null means as default-constructed. Copies share their data until one of them is changed.
- * Distinct elements may be used from different threads, also when they share data; one element
- * must not be written while another thread uses it.
+ * Thread-safe as every value: see docs/architecture.md.
  *
  * The virtual operations stand in the order that binary compatibility demands.
  */

@@ -10,10 +10,11 @@ class CSubDeviceBaseElementData;
 /**
  * What the sub-devices (drives) of both series have in common. Beside what every element has, a
  * sub-device knows the serial number and the name of the device that carries it, its place on the
- * field bus, and its parameter file.
+ * fieldbus, and its parameter file.
  *
- * Copies share their data until one of them is changed; the thread rule is that of CBaseElement.
- * The virtual operations stand in the order that binary compatibility demands.
+ * Copies share their data until one of them is changed; thread-safe as every value: see
+ * docs/architecture.md. The virtual operations stand in the order that binary compatibility
+ * demands.
  */
 class VRNDEVICECORE_EXPORT CSubDeviceBaseElement : public CBaseElement
 {
@@ -60,7 +61,7 @@ public:
     /** Every file of the sub-device that has a name, without duplicates. */
     virtual QList<CFileElement> allFiles() const;
 
-    /** Identifier on the field bus; 0 when none is assigned. */
+    /** Identifier on the fieldbus; 0 when none is assigned. */
     unsigned int busId() const;
     void setBusId(unsigned int busId);
 

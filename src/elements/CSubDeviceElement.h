@@ -18,8 +18,8 @@
  * sub-devices.
  *
  * Every operation is that of the same name of the held sub-device. In an empty container setters do
- * nothing and getters give zero or an empty value. Copying copies the sub-device. One container
- * must not be used from two threads at once unless both only read it.
+ * nothing and getters give zero or an empty value. Copying copies the sub-device. Thread-safe as
+ * every value: see docs/architecture.md.
  *
  * The virtual operations stand in the order that binary compatibility demands.
  */

@@ -13,7 +13,7 @@ const QLatin1Char Separator('/');
 
 QString withForwardSlashes(const QString &path)
 {
-    // On Linux fromNativeSeparators() leaves back-slashes, but projects also come from Windows.
+    // On Linux fromNativeSeparators() leaves backslashes, but projects also come from Windows.
     return QDir::fromNativeSeparators(path).replace(QLatin1Char('\\'), Separator);
 }
 

@@ -15,15 +15,14 @@
  * stand in an XML document. The text of a null identity is empty, and the empty text is the null
  * identity.
  *
- * A value class; copies share their strings. Not synchronised: distinct objects may be used from
- * different threads.
+ * Thread-safe as every value: see docs/architecture.md. Copies share their strings.
  */
 class VRNCORE_EXPORT CDeviceHardwareId
 {
 public:
     /** A null identity: empty texts and zeros. */
     CDeviceHardwareId() = default;
-    /** The identity that @p text tells, see operator=(const QString &). */
+    /** The identity that @p text contains, see operator=(const QString &). */
     explicit CDeviceHardwareId(const QString &text);
 
     /**

@@ -13,7 +13,7 @@ public:
 
     /** Kind of a host address. On a data stream it is a signed 32-bit number. */
     enum EHostAddrType : qint32 {
-        /** Not told; the address itself shows whether it is IPv4 or IPv6. */
+        /** Not set; the address itself shows whether it is IPv4 or IPv6. */
         HOST_ADDRESS_UNDEFINED = 0,
         HOST_ADDRESS_IPV4 = 1,
         HOST_ADDRESS_IPV6 = 2,

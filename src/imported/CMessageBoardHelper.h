@@ -9,7 +9,7 @@
 class ICLogfile;
 
 /**
- * The message board: where libraries post what the user of the program should be told.
+ * The message board: where libraries post messages for the user of the program.
  *
  * A message first goes to the log, if one is given, and then to the program's handler. Without a
  * handler it becomes one line on standard error, "program: warning: text" or

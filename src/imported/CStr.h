@@ -17,7 +17,7 @@ public:
      * 0. The first is at most 4293, the others at most 999. The number is first * 1000000 +
      * second * 1000 + third, so "1.10" gives 1010000.
      *
-     * @param ok when not null, told whether @p text is a revision; signs, blanks, empty parts and
+     * @param ok if not null, set to whether @p text is a revision; signs, spaces, empty parts and
      *           any other text are not
      * @return 0 when it is not one
      */

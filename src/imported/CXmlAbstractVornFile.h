@@ -21,22 +21,23 @@ class ICLogfile;
  *
  * The type of a document is the name of its root element; the root's attribute "version" carries
  * the version, its child "Head" the meta data. Reading keeps unknown elements, attributes,
- * comments, CDATA sections and processing instructions, and all text except blanks that only indent
- * child elements. Read are UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252. Refused are what
- * is not well-formed, whatever declares or needs entities of its own, and what exceeds limits().
+ * comments, CDATA sections and processing instructions, and all text except white space that only
+ * indents child elements. Read are UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252. Refused
+ * are what is not well-formed, whatever declares or needs entities of its own, and what exceeds
+ * limits().
  *
  * Saving writes UTF-8, the same bytes for the same document in every process: one element a line,
- * indented by one blank a level, attributes in the order of their names (by UTF-16 units). A text
+ * indented by one space per level, attributes in the order of their names (by UTF-16 units). A text
  * that XML cannot carry, like a control character, makes it fail and is named by element and code.
  *
- * Failures of open() and save() are told by their result and an error text, and are posted as
+ * open() and save() report failures by their result and an error text, which is also posted as
  * critical messages to the message board together with the log.
  *
  * Elements are handles: changing one changes the document it belongs to. A null parent element
  * stands for the document's root everywhere below.
  *
- * The virtual operations stand in the order that binary compatibility demands. Not synchronised:
- * one object must not be used from two threads at once, distinct ones may.
+ * The virtual operations stand in the order that binary compatibility demands. Thread-safe as every
+ * file object: see docs/architecture.md.
  */
 class VRNXML_EXPORT CXmlAbstractVornFile
 {
@@ -56,7 +57,7 @@ public:
      */
     virtual bool open(const QString &path, const QString &documentType,
                       const QString &requiredVersion, QString &errorText);
-    /** As above, from memory; the error text names no file. */
+    /** Opens a document from memory; the error text names no file. */
     virtual bool open(const QByteArray &buffer, const QString &documentType,
                       const QString &requiredVersion, QString &errorText);
 
@@ -73,9 +74,9 @@ public:
      * @return false on failure, also when there is no document
      */
     virtual bool save(const QString &path, QString &errorText);
-    /** As above, with @p documentName as document type in the file; the document keeps its own. */
+    /** Saves with @p documentName as document type in the file; the document keeps its own. */
     virtual bool save(const QString &path, const QString &documentName, QString &errorText);
-    /** As above, into memory; @p buffer is unchanged on failure. */
+    /** Saves into memory; @p buffer is unchanged on failure. */
     virtual bool save(QByteArray &buffer, QString &errorText);
 
     /** The document's meta data; null when it has none. */
@@ -95,7 +96,7 @@ public:
      */
     virtual bool handleVersionError(const QString &required, const QString &existing) = 0;
 
-    /** The meta data in @p element; @p ok (may be null) is told whether there are any. */
+    /** The meta data in @p element; @p ok (may be null) is set to whether there are any. */
     virtual CXMLMetaData metaData(const QDomElement &element, bool *ok) const;
     /** Writes the meta data into @p element, as its first child. */
     virtual void setMetaData(const CXMLMetaData &metaData, QDomElement element);
@@ -126,7 +127,7 @@ public:
 
     /**
      * Starts a document that holds only a root element named @p documentType.
-     * @return false, and the file then holds no document, when that is no XML name
+     * @return false, and the file then holds no document, if that is not a valid XML name
      */
     bool createNewDocument(const QString &documentType, const QString &version);
 

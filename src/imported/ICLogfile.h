@@ -27,7 +27,9 @@ public:
 
     virtual ~ICLogfile();
 
-    /** Adds one entry. Failure to write is not reported: a log never stops the work it tells of. */
+    /**
+     * Adds one entry. Failure to write is not reported: a log never stops the work that it records.
+     */
     virtual void write(ELevel level, const QString &text) = 0;
 
     /** Who writes this log; stands as author in the meta data of documents. May be empty. */
@@ -36,7 +38,7 @@ public:
     /**
      * A log that appends to the file @p fileName, which is created when it is missing. Each entry
      * is one line, "2026-01-31T12:00:00.000Z [warn] text": the time in UTC, the name of the level,
-     * the text with its line breaks and back-slashes escaped as in C. Lines of several threads or
+     * the text with its line breaks and backslashes escaped as in C. Lines of several threads or
      * processes do not mix.
      *
      * @param author as author() will give it; when empty, the application's name

@@ -15,7 +15,7 @@
  * texts of booleans are "TRUE" and "FALSE", numbers are written in the C locale so that they read
  * back exactly.
  *
- * Not synchronised; one document must not be used from two threads at once.
+ * Thread-safe as every file object: see docs/architecture.md.
  */
 class VRNXML_EXPORT ICXmlSettings
 {
@@ -26,16 +26,16 @@ public:
     virtual QStringList names() const = 0;
 
     /**
-     * The value named @p name, of the type that the document tells; invalid when there is none,
-     * its type is unknown, or its text does not fit its type.
+     * The value named @p name, of the type that the document states; invalid if there is none, its
+     * type is unknown, or its text does not fit its type.
      */
     virtual QVariant value(const QString &name) const = 0;
 
     /**
      * Stores @p value under @p name, replacing a value of that name and keeping its unit and
      * comment.
-     * @return false, and nothing is changed, when the name is empty or the value's type is none of
-     *         the above
+     * @return false, and nothing is changed, when the name is empty or the value's type is not one
+     *         of the above
      */
     virtual bool setValue(const QString &name, const QVariant &value) = 0;
 

@@ -14,8 +14,7 @@ class CDeviceSettingsData;
  * sub-devices, by drive number.
  *
  * Null means no device name and no sub-device. Copies share their data until one of them is
- * changed. Distinct objects may be used from different threads, also when they share data; one
- * object must not be written while another thread uses it.
+ * changed. Thread-safe as every value: see docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT CDeviceSettings
 {
@@ -35,13 +34,16 @@ public:
 
     /** Name of the device; empty when none is set. */
     QString deviceName() const;
-    /** As above; @p defaultName when none is set. */
+    /** The name; @p defaultName if no name is set. */
     QString deviceName(const QString &defaultName) const;
     void setDeviceName(const QString &name);
 
     /** Name of the sub-device with the drive number @p driveNo, 0 to 255; null when it has none. */
     QString subDeviceName(quint8 driveNo) const;
-    /** As above; @p defaultName when it has none. A name that was set empty stays empty. */
+    /**
+     * The name; @p defaultName if the drive has no name. A name that was set to the empty text
+     * stays empty.
+     */
     QString subDeviceName(quint8 driveNo, const QString &defaultName) const;
     /** All names, by drive number. */
     QMap<quint8, QString> subDeviceNameMap() const;

@@ -16,11 +16,11 @@ class ICLogfile;
  *
  * Each operation names the version of the document; the only one there is is "1.0". Results are
  * FILE_RESULT_SUCCESS; FILE_RESULT_VERSION_MISMATCH when the document is of another version; and
- * FILE_RESULT_FAILURE for every other failure, also for a document whose version is no revision and
- * for a @p version that is not known here, which touches no file and posts no message. All other
+ * FILE_RESULT_FAILURE for every other failure, also for a document whose version is not a valid
+ * revision and for an unknown @p version, which touches no file and posts no message. All other
  * failures are posted as critical messages to the message board together with the log.
  *
- * Not synchronised: one object must not be used from two threads at once, distinct ones may.
+ * Thread-safe as every file object: see docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT CDeviceSettingsFile
 {
@@ -37,7 +37,7 @@ public:
 
     /** Reads the file @p fileName; on failure the settings stay as they were. */
     NvrnGlobal::EFileResult open(const QString &fileName, const QString &version);
-    /** As above, from memory. */
+    /** Opens from memory. */
     NvrnGlobal::EFileResult openFromBuffer(const QByteArray &buffer, const QString &version);
 
     /**
@@ -46,7 +46,7 @@ public:
      * CXmlAbstractVornFile::save().
      */
     NvrnGlobal::EFileResult save(const QString &fileName, const QString &version);
-    /** As above, into memory; @p buffer is unchanged on failure. */
+    /** Saves into memory; @p buffer is unchanged on failure. */
     NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer, const QString &version);
 
 private:

@@ -9,7 +9,7 @@
  * A settings document of one version; what does not depend on the version.
  *
  * The operations that open and save take the version that the caller asked for, and return results
- * as CDeviceSettingsFile tells them. The text of an error goes to the message board alone.
+ * as CDeviceSettingsFile describes them. The text of an error goes to the message board alone.
  *
  * The virtual operations stand in the order that binary compatibility demands.
  */
@@ -22,8 +22,8 @@ public:
     using CXmlAbstractVornFile::open;
 
     /**
-     * Refuses the document with a critical message that tells both versions as revision numbers, 0
-     * for a text that is none. The open result becomes FILE_RESULT_VERSION_MISMATCH when
+     * Refuses the document with a critical message that contains both versions as revision numbers,
+     * 0 for an invalid text. The open result becomes FILE_RESULT_VERSION_MISMATCH when
      * @p existing is a revision, else FILE_RESULT_FAILURE.
      * @return false
      */

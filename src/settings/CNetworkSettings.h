@@ -12,10 +12,9 @@ class CNetworkSettingsData;
  * The Ethernet settings of a device: how it gets its address, and where it sends its system log,
  * its network console and its questions for the time.
  *
- * Addresses are texts and are stored as they are given; CNetworkSettingsCheck tells what is wrong
- * with one. Copies share their data until one of them is changed. Distinct objects may be used from
- * different threads, also when they share data; one object must not be written while another thread
- * uses it.
+ * Addresses are texts and are stored as they are given; CNetworkSettingsCheck reports what is wrong
+ * with one. Copies share their data until one of them is changed. Thread-safe as every value: see
+ * docs/architecture.md.
  */
 class VRNDEVICECORE_EXPORT CNetworkSettings
 {
@@ -26,11 +25,11 @@ public:
         NETWORK_MODE_UNKNOWN = 0,
         /** "DISABLED": the interface is off. */
         NETWORK_MODE_DISABLED = 1,
-        /** "STATIC": address, subnet mask and gateway are those told here. */
+        /** "STATIC": address, subnet mask and gateway are those of these settings. */
         NETWORK_MODE_STATIC = 2,
         /** "ID_SWITCH": as STATIC, with the host number from the switch on the device. */
         NETWORK_MODE_ID_SWITCH = 3,
-        /** "DHCP": a server in the network tells. */
+        /** "DHCP": a server in the network assigns them. */
         NETWORK_MODE_DHCP = 4
     };
 
@@ -72,7 +71,7 @@ public:
 
     ENetworkMode mode() const;
     void setMode(ENetworkMode mode);
-    /** Text of the mode; "UNKNOWN" for every number that is none. */
+    /** Text of the mode; "UNKNOWN" for every other number. */
     QString modeStr() const;
     /** Sets the mode with that text, in any case; NETWORK_MODE_UNKNOWN for any other text. */
     void setModeStr(const QString &mode);
@@ -103,7 +102,7 @@ public:
 
     ENtpMode ntpMode() const;
     void setNtpMode(ENtpMode mode);
-    /** Text of the mode; "UNKNOWN" for every number that is none. */
+    /** Text of the mode; "UNKNOWN" for every other number. */
     QString ntpModeStr() const;
     /** Sets the mode with that text, in any case; NTP_MODE_UNKNOWN for any other text. */
     void setNtpModeStr(const QString &mode);

@@ -32,7 +32,7 @@ quint32 toNumber(const QString &address)
     return number;
 }
 
-/** Empty when @p value is one of the texts in @p table, whose first row is no choice. */
+/** Empty when @p value is one of the texts in @p table, whose first row cannot be chosen. */
 template <typename Value>
 QString problemOfMode(const TextTables::Table<Value> &table, const QString &value)
 {
@@ -43,7 +43,7 @@ QString problemOfMode(const TextTables::Table<Value> &table, const QString &valu
     if (choices.contains(value, Qt::CaseInsensitive)) {
         return QString();
     }
-    return Texts::tr("'%1' is none of %2.").arg(value, choices.join(QStringLiteral(", ")));
+    return Texts::tr("'%1' is not one of %2.").arg(value, choices.join(QStringLiteral(", ")));
 }
 
 QString problemOf(const NetworkText::SKey &key, const QString &value)
@@ -61,19 +61,22 @@ QString problemOf(const NetworkText::SKey &key, const QString &value)
         Q_FALLTHROUGH();
     case KIND_ADDRESS:
         if (!matches(NvrnGlobal::IPV4_PATTERN, value)) {
-            return Texts::tr("'%1' is no IPv4 address, such as 192.168.1.10.").arg(value);
+            return Texts::tr("'%1' is not a valid IPv4 address; write one such as 192.168.1.10.")
+                .arg(value);
         }
         break;
     case KIND_MASK:
         if (!matches(NvrnGlobal::IPV4_SUBNET_PATTERN, value)) {
-            return Texts::tr("'%1' is no subnet mask, such as 255.255.255.0.").arg(value);
+            return Texts::tr("'%1' is not a valid subnet mask; write one such as 255.255.255.0.")
+                .arg(value);
         }
         break;
     case KIND_PORT: {
         bool isNumber = false;
         const uint port = value.toUInt(&isNumber);
         if (!isNumber || port == 0 || port > HighestPort) {
-            return Texts::tr("'%1' is no port number, 1 to 65535.").arg(value);
+            return Texts::tr("'%1' is not a valid port number; write a number from 1 to 65535.")
+                .arg(value);
         }
         break;
     }
@@ -81,7 +84,8 @@ QString problemOf(const NetworkText::SKey &key, const QString &value)
         CNetworkSettings settings;
         settings.setKernelLogLevel(value);
         if (settings.kernelLogLevel() != value) {
-            return Texts::tr("'%1' is no kernel log level, 0 to 7.").arg(value);
+            return Texts::tr("'%1' is not a valid kernel log level; write a number from 0 to 7.")
+                .arg(value);
         }
         break;
     }
@@ -90,9 +94,9 @@ QString problemOf(const NetworkText::SKey &key, const QString &value)
 }
 
 /**
- * The lines of a file as the parser sees them. It tells no lines, and whether a line counts depends
- * on quotation marks, backslashes and sections before it; so it is given a copy of the file in
- * which the name of each key carries the number of its line, and is asked what it has read.
+ * The lines of a file as the parser sees them. It reports no lines, and whether a line counts
+ * depends on quotation marks, backslashes and sections before it; so it is given a copy of the file
+ * in which the name of each key carries the number of its line, and is asked what it has read.
  */
 class Lines
 {
@@ -202,7 +206,7 @@ private:
             m_isInSection = m_isInSectionByName.value(name, m_isInSection);
             if (isRead && m_isInSection) {
                 tell(Check::FINDING_SECTION, line,
-                     Texts::tr("A section begins: no key in it is read."));
+                     Texts::tr("A section begins here; its keys are ignored."));
             }
         } else if (!line.isAssignment) {
             tell(Check::FINDING_NO_ASSIGNMENT, line,
@@ -210,10 +214,10 @@ private:
         } else if (m_isInSection) {
             return;
         } else if (NetworkText::findKey(line.key) == nullptr) {
-            tell(Check::FINDING_UNKNOWN_KEY, line, Texts::tr("There is no such key."));
+            tell(Check::FINDING_UNKNOWN_KEY, line, Texts::tr("Unknown key."));
         } else if (!isRead) {
             tell(Check::FINDING_NOT_READ, line,
-                 Texts::tr("This line is not read: it belongs to a quotation mark or backslash "
+                 Texts::tr("This line is ignored: it belongs to a quotation mark or backslash "
                            "before it."));
         } else {
             takeKey(line);
@@ -224,7 +228,7 @@ private:
     {
         if (m_lineOfKey.contains(line.key)) {
             tell(Check::FINDING_REPEATED_KEY, line,
-                 Texts::tr("This replaces what line %1 tells.")
+                 Texts::tr("This overrides the value in line %1.")
                      .arg(QString::number(lineOf(line.key))));
         }
         m_lineOfKey.insert(line.key, line.number);
@@ -289,5 +293,5 @@ QList<CNetworkSettingsCheck::SFinding> CNetworkSettingsCheck::check(const QByteA
 QString CNetworkSettingsCheck::problem(const QString &key, const QString &value)
 {
     const NetworkText::SKey *const found = NetworkText::findKey(key);
-    return found == nullptr ? Texts::tr("There is no such key.") : problemOf(*found, value);
+    return found == nullptr ? Texts::tr("Unknown key.") : problemOf(*found, value);
 }

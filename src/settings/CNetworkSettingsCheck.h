@@ -7,8 +7,8 @@
 #include <QString>
 
 /**
- * Tells what is wrong with a "network.conf", which CNetworkSettingsFile reads without a complaint.
- * All members are static and may be used from any thread.
+ * Reports what is wrong with a "network.conf", which CNetworkSettingsFile reads without a
+ * complaint. All members are static and may be used from any thread.
  */
 class VRNDEVICECORE_EXPORT CNetworkSettingsCheck
 {
@@ -42,11 +42,11 @@ public:
     };
 
     /**
-     * Every finding in the content of a file, in the order of lines: lines that are no
-     * "KEY=value", sections, unknown and repeated keys, keys that are not read because of a
-     * quotation mark or backslash before them, values that are none, a static address that is
-     * missing, and one whose gateway lies in another subnet. A gateway "0.0.0.0" is none. Keys in a
-     * section are not looked at.
+     * Every finding in the content of a file, in the order of lines: lines that do not have the
+     * form "KEY=value", sections, unknown and repeated keys, keys that are not read because of a
+     * quotation mark or backslash before them, invalid values, a static address that is missing,
+     * and one whose gateway lies in another subnet. A gateway "0.0.0.0" means that there is no
+     * gateway. Keys in a section are not checked.
      */
     static QList<SFinding> check(const QByteArray &content);
 

@@ -220,7 +220,7 @@ const QList<SKey> &keys()
          QStringLiteral("\n"
                         "\n"
                         "# NTP Time Server\n")},
-        // "DISABLED" is no NTP mode, and is meant so: without this key the mode is unknown.
+        // "DISABLED" is deliberately not an NTP mode: without this key the mode is unknown.
         {QStringLiteral("NTP_MODE"), QStringLiteral("DISABLED"), KIND_NTP_MODE,
          [](const S &s) { return s.ntpModeStr(); },
          [](S &s, const QString &v) { s.setNtpModeStr(v); },

@@ -31,7 +31,7 @@ struct SKey {
     EKind kind;
     QString (*get)(const CNetworkSettings &settings);
     void (*set)(CNetworkSettings &settings, const QString &value);
-    /** The comment lines and blank lines that stand before the key in a file. */
+    /** The comment lines and empty lines before the key in a file. */
     QString preface;
 };
 

@@ -34,7 +34,7 @@ SResult failure(EOutcome outcome, int error)
 
 SResult notRegular()
 {
-    return {NOT_OPENED, Texts::tr("This is no regular file.")};
+    return {NOT_OPENED, Texts::tr("This is not a regular file.")};
 }
 
 /** The name as the system takes it; empty when it cannot be one. */
@@ -160,7 +160,7 @@ private:
 SResult notConfirmed(int error)
 {
     return {NOT_CONFIRMED,
-            Texts::tr("%1; the new content is in place, but a power cut may undo it")
+            Texts::tr("%1; the new content is in place, but a power failure may undo this")
                 .arg(qt_error_string(error))};
 }
 
@@ -262,7 +262,7 @@ SResult writeTo(Descriptor &device, const QByteArray &content)
 
 QString tooLarge(qint64 maximumSize)
 {
-    return Texts::tr("It is larger than %1 bytes.").arg(maximumSize);
+    return Texts::tr("The file is larger than %1 bytes.").arg(maximumSize);
 }
 
 SResult read(const QString &path, QByteArray &content, qint64 maximumSize)

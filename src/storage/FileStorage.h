@@ -54,7 +54,7 @@ QString tooLarge(qint64 maximumSize);
  * A file that has this content already is not written, and keeps its time of modification.
  *
  * In the end the directory is synced, so that the file's name outlives a power cut, too; a failure
- * of that alone is told as NOT_CONFIRMED. A directory that may not be read cannot be synced.
+ * of that alone is reported as NOT_CONFIRMED. A directory that may not be read cannot be synced.
  *
  * The file keeps its mode, owner and group; one that may not be given away belongs to whoever
  * replaces it. A symbolic link stays one, and its target is replaced; other hard links keep the old

@@ -169,12 +169,12 @@ QString CommandLine::noSuchOption(const QString &given) const
     for (const SOption &option : m_options) {
         names.append(written(option.names.last()));
     }
-    // One hyphen where two belong is no letter that is wrong.
+    // A word with one hyphen instead of two is not reported as an unknown letter.
     const bool isShort = !given.startsWith(QLatin1String("--"));
     const QString nearest = nearestName(isShort ? QLatin1Char('-') + given : given, names);
     return nearest.isEmpty()
-        ? Texts::tr("There is no option '%1'.").arg(given)
-        : Texts::tr("There is no option '%1'. Did you mean '%2'?").arg(given, nearest);
+        ? Texts::tr("Unknown option '%1'.").arg(given)
+        : Texts::tr("Unknown option '%1'. Did you mean '%2'?").arg(given, nearest);
 }
 
 /** Takes "-ab", "-aVALUE" and "-a=VALUE"; @p following are the words behind it. */
@@ -206,7 +206,7 @@ QString CommandLine::sortLetters(const QString &word, QStringList &following)
     return QString();
 }
 
-/** Tells options from arguments. @return what is wrong; empty when nothing is */
+/** Separates options from arguments. @return what is wrong; empty when nothing is */
 QString CommandLine::sort(const QStringList &given)
 {
     QStringList words = given;
@@ -272,7 +272,7 @@ QString CommandLine::problem() const
     }
     return index == m_givenArguments.size()
         ? QString()
-        : Texts::tr("The argument '%1' is one too many.").arg(m_givenArguments.at(index));
+        : Texts::tr("Unexpected argument '%1'.").arg(m_givenArguments.at(index));
 }
 
 bool CommandLine::parse(const QStringList &arguments)

@@ -27,7 +27,7 @@ struct SCommand {
     QString name;
     /** Untranslated, see summary(). */
     const char *summaryText;
-    /** Tells which arguments and options the command takes. */
+    /** Describes the arguments and options that the command takes. */
     void (*describe)(CommandLine &line);
     /** Runs with the command line that was given and returns an exit code. */
     int (*run)(const CommandLine &line);
@@ -58,7 +58,7 @@ public:
         bool isOptional = false;
         /** The only texts that make sense, beside files; empty when anything may be given. */
         QStringList choices;
-        /** How files that make sense are called, with wildcards; for the completion only. */
+        /** Name patterns of suitable files, with wildcards; for the completion only. */
         QStringList fileNames;
     };
 
@@ -70,7 +70,7 @@ public:
         QString valueName;
         /** The only values that make sense, beside files; empty when anything may be given. */
         QStringList choices;
-        /** As of an argument. */
+        /** As for an argument. */
         QStringList fileNames;
     };
 
@@ -84,14 +84,14 @@ public:
     /** Adds arguments of which at least one must be given; nothing can follow them. */
     void addArguments(const QString &name, const QString &description);
     /**
-     * Tells how the files are called that the argument or option which was added last is for. Where
-     * there are choices, a file may be given in place of one of them.
+     * Sets the file name patterns of the argument or option that was added last. Where there are
+     * choices, a file may be given in place of one of them.
      */
     void setFileNames(const QStringList &patterns);
     /** Without @p valueName the option is a switch. */
     void addOption(const QString &name, const QString &description,
                    const QString &valueName = QString(), const QStringList &choices = {});
-    /** As above, with a short name of one letter beside the long one. */
+    /** Adds an option that has a short name of one letter beside the long one. */
     void addOption(QChar letter, const QString &name, const QString &description,
                    const QString &valueName = QString(), const QStringList &choices = {});
     /** Takes away --json, for a command whose output is text by its nature. */

@@ -10,7 +10,7 @@ int editConfiguration(const CommandLine &line,
     const QString path = line.argument(0);
     if (isStandardStream(path) && line.wantsJson()) {
         return line.badUsage(
-            Texts::tr("--json cannot be had together with the document on standard output."));
+            Texts::tr("--json cannot be combined with the document on standard output."));
     }
     CDeviceConfigurationFile10 file(nullptr);
     if (!openConfiguration(path, file)) {

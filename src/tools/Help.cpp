@@ -129,7 +129,7 @@ QString purpose()
 QList<CommandLine::SOption> optionsOfTool()
 {
     return {{{QStringLiteral("h"), QStringLiteral("help")},
-             Texts::tr("Print this help; behind a command, the command's."),
+             Texts::tr("Print this help; after a command, the help of the command."),
              QString(),
              {},
              {}},

@@ -11,12 +11,12 @@ int printHelp(const QString &group);
 /** The help on one command. */
 int printHelp(const CommandLine &line);
 
-/** The commands whose first word is @p group; empty when it is none of a group. */
+/** The commands whose first word is @p group; empty if it is not the name of a group. */
 QList<SCommand> commandsOfGroup(const QString &group);
 /** The words that may follow the name of the tool: commands and groups of commands, in order. */
 QStringList firstWords();
 
-/** @p text in lines of at most @p length characters, broken at blanks where it can be. */
+/** @p text in lines of at most @p length characters, broken at spaces where possible. */
 QStringList wrapped(const QString &text, int length);
 
 /** What the tool is for. */

@@ -2,7 +2,8 @@
 
 #include "imported/CMessageBoardHelper.h"
 
-/** As long as it lives, what is posted is kept from the user, who is told the same in another way.
+/** As long as it lives, what is posted is kept from the user, who gets the same message in another
+ * way.
  */
 class MessageSilence
 {

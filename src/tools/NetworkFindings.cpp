@@ -5,7 +5,7 @@
 bool readFindings(const QString &path, CNetworkSettingsFile &settings,
                   QList<CNetworkSettingsCheck::SFinding> &findings)
 {
-    // First as settings: that refuses what has no end or no measure, and tells why.
+    // First as settings: that refuses endless or oversized input, and reports why.
     QFile file(path);
     if (settings.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS || !file.open(QIODevice::ReadOnly)) {
         return false;

@@ -5,7 +5,8 @@
 
 /**
  * Reads the file @p path into @p settings and checks it.
- * @return false when it cannot be read; nothing has been printed, and the settings tell why
+ * @return false when it cannot be read; nothing has been printed, and the settings contain the
+ * reason
  */
 bool readFindings(const QString &path, CNetworkSettingsFile &settings,
                   QList<CNetworkSettingsCheck::SFinding> &findings);

@@ -53,7 +53,7 @@ int Output::finish()
     m_bytes.clear();
     m_stream.seek(0);
     if (!written) {
-        printError(Texts::tr("Standard output cannot be written."));
+        printError(Texts::tr("Cannot write to standard output."));
     }
     return written ? EXIT_DONE : EXIT_NOT_DONE;
 }

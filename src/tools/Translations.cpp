@@ -32,7 +32,7 @@ bool install(const QString &language)
 
 void installTranslations()
 {
-    // In the locale "C" everything is English whatever LANGUAGE tells; Qt's list does not know
+    // In the locale "C" everything is English whatever LANGUAGE contains; Qt's list does not know
     // that.
     if (QLocale::system().language() == QLocale::C) {
         return;

@@ -18,15 +18,15 @@ int reportUnknown(const QString &name, const QStringList &known)
 {
     const QString nearest = nearestName(name, known);
     printError(nearest.isEmpty()
-                   ? Texts::tr("There is no command '%1'. Try 'vrndevice --help'.").arg(name)
-                   : Texts::tr("There is no command '%1'. Did you mean '%2'?").arg(name, nearest));
+                   ? Texts::tr("Unknown command '%1'. Try 'vrndevice --help'.").arg(name)
+                   : Texts::tr("Unknown command '%1'. Did you mean '%2'?").arg(name, nearest));
     return EXIT_BAD_USAGE;
 }
 
 int run(QStringList arguments)
 {
     if (arguments.isEmpty()) {
-        printError(Texts::tr("No command given. Try 'vrndevice --help'."));
+        printError(Texts::tr("The command is missing. Try 'vrndevice --help'."));
         return EXIT_BAD_USAGE;
     }
     QString name = arguments.takeFirst();
@@ -42,7 +42,8 @@ int run(QStringList arguments)
     const QList<SCommand> group = commandsOfGroup(name);
     if (!group.isEmpty()) {
         if (arguments.isEmpty()) {
-            printError(Texts::tr("Which command of '%1'? Try 'vrndevice %1 --help'.").arg(name));
+            printError(
+                Texts::tr("The command of '%1' is missing. Try 'vrndevice %1 --help'.").arg(name));
             return EXIT_BAD_USAGE;
         }
         if (isHelp(arguments.constFirst())) {

@@ -128,10 +128,10 @@ enum EFileResult : qint32 {
 
 /** Whether a tool is connected with a device; see CDeviceCommData::connectionState(). */
 enum EConnectionState : qint32 {
-    /** The device does not answer, or nobody has called it. */
+    /** The device does not answer, or was not called. */
     CONNECTION_STATE_DISCONNECTED = 0,
     CONNECTION_STATE_CONNECTED = 1,
-    /** Nothing is known; the state of a record that tells no device. */
+    /** Nothing is known; the state of a record without a device. */
     CONNECTION_STATE_UNKNOWN = 2
 };
 

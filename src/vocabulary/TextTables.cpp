@@ -50,7 +50,7 @@ const Table<NvrnDeviceCore::EElementType> &subDeviceTypes()
 const Table<NvrnGlobal::EConnectionState> &connectionStates()
 {
     using namespace NvrnGlobal;
-    // The default comes first: it stands for every number that is no state.
+    // The default comes first: it stands for every number that is not a state.
     static const Table<EConnectionState> table = {
         {CONNECTION_STATE_UNKNOWN, QStringLiteral("Unknown")},
         {CONNECTION_STATE_DISCONNECTED, QStringLiteral("Disconnected")},

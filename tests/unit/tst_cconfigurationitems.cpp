@@ -108,83 +108,89 @@ void tst_cconfigurationitems::refusedPaths_data()
     const auto row = [](const char *name, const char *path, const char *errorText) {
         QTest::newRow(name) << QString::fromUtf8(path) << QString::fromUtf8(errorText);
     };
-    row("empty", "", "'' is no path: a word is missing at character 1");
-    row("dot alone", ".", "'.' is no path: a word is missing at character 1");
-    row("dot at the start", ".device", "'.device' is no path: a word is missing at character 1");
-    row("dot at the end", "device.", "'device.' is no path: a word is missing at character 8");
-    row("two dots", "device..name", "'device..name' is no path: a word is missing at character 8");
-    row("bracket alone", "[", "'[' is no path: a word is missing at character 1");
-    row("key alone", "[a]", "'[a]' is no path: a word is missing at character 1");
+    row("empty", "", "'' is not a valid path: a word is missing at character 1");
+    row("dot alone", ".", "'.' is not a valid path: a word is missing at character 1");
+    row("dot at the start", ".device",
+        "'.device' is not a valid path: a word is missing at character 1");
+    row("dot at the end", "device.",
+        "'device.' is not a valid path: a word is missing at character 8");
+    row("two dots", "device..name",
+        "'device..name' is not a valid path: a word is missing at character 8");
+    row("bracket alone", "[", "'[' is not a valid path: a word is missing at character 1");
+    row("key alone", "[a]", "'[a]' is not a valid path: a word is missing at character 1");
     row("closing bracket in a word", "files]",
-        "'files]' is no path: a '.' is missing at character 6");
-    row("open key", "files[a", "'files[a' is no path: a ']' is missing at character 8");
-    row("open empty key", "files[", "'files[' is no path: a ']' is missing at character 7");
-    row("escaped end", "files[a\\]", "'files[a\\]' is no path: a ']' is missing at character 10");
+        "'files]' is not a valid path: a '.' is missing at character 6");
+    row("open key", "files[a", "'files[a' is not a valid path: a ']' is missing at character 8");
+    row("open empty key", "files[",
+        "'files[' is not a valid path: a ']' is missing at character 7");
+    row("escaped end", "files[a\\]",
+        "'files[a\\]' is not a valid path: a ']' is missing at character 10");
     row("escape of nothing", "files[a\\",
-        "'files[a\\' is no path: only ']' and '\\' can stand behind a '\\' at character 9");
+        "'files[a\\' is not a valid path: only ']' and '\\' can follow a '\\' at character 9");
     row("escape of a letter", "files[a\\b]",
-        "'files[a\\b]' is no path: only ']' and '\\' can stand behind a '\\' at character 9");
+        "'files[a\\b]' is not a valid path: only ']' and '\\' can follow a '\\' at character 9");
     row("text behind a key", "files[a]name",
-        "'files[a]name' is no path: a '.' is missing at character 9");
+        "'files[a]name' is not a valid path: a '.' is missing at character 9");
     row("third bracket", "files[a][2][2]",
-        "'files[a][2][2]' is no path: a '.' is missing at character 12");
+        "'files[a][2][2]' is not a valid path: a '.' is missing at character 12");
     const char *const counts[] = {"", "0", "1", "-2", "+2", "02", " 2", "2 ", "a", "2147483648"};
     for (const char *count : counts) {
         const QByteArray path = QByteArray("files[a][") + count + "]";
         row(("count '" + QByteArray(count) + "'").constData(), path.constData(),
             ("'" + path
-             + "' is no path: behind a key only a number from 2 on can stand in brackets at "
-               "character 10")
+             + "' is not a valid path: after a key, brackets can only contain a number from 2 on "
+               "at character 10")
                 .constData());
     }
-    row("open count", "files[a][2", "'files[a][2' is no path: a ']' is missing at character 10");
+    row("open count", "files[a][2",
+        "'files[a][2' is not a valid path: a ']' is missing at character 10");
 
     row("unknown word", "colour",
-        "colour: there is no such item; there are description, device, drive, files");
+        "colour: unknown item; expected is one of description, device, drive, files");
     row("unknown word below", "drive[0].colour",
-        "drive[0].colour: there is no such item; there are driveNo, type, hardwareId, name, "
+        "drive[0].colour: unknown item; expected is one of driveNo, type, hardwareId, name, "
         "comment, busId, param");
     row("unknown word of a KD2 drive", "drive[2].colour",
-        "drive[2].colour: there is no such item; there are driveNo, type, hardwareId, name, "
+        "drive[2].colour: unknown item; expected is one of driveNo, type, hardwareId, name, "
         "comment, busId, param, kd2Param, kd2Logic, kd2Firmware");
     row("letter missing", "device.coment",
-        "device.coment: there is no such item; did you mean device.comment?");
+        "device.coment: unknown item; did you mean device.comment?");
     row("other capitals", "device.hardwareID",
-        "device.hardwareID: there is no such item; did you mean device.hardwareId?");
-    row("plural", "drives[0]", "drives[0]: there is no such item; did you mean drive?");
+        "device.hardwareID: unknown item; did you mean device.hardwareId?");
+    row("plural", "drives[0]", "drives[0]: unknown item; did you mean drive?");
     row("nearer of two", "device.opcUaFile",
-        "device.opcUaFile: there is no such item; did you mean device.opcUaFiles?");
+        "device.opcUaFile: unknown item; did you mean device.opcUaFiles?");
     row("short word", "drive[0].x.y",
-        "drive[0].x: there is no such item; there are driveNo, type, hardwareId, name, comment, "
+        "drive[0].x: unknown item; expected is one of driveNo, type, hardwareId, name, comment, "
         "busId, param");
-    row("below an item", "device.name.x", "device.name.x: there is no such item");
-    row("below a key", "files[recipes.csv].name.x",
-        "files[recipes.csv].name.x: there is no such item");
-    row("blank", "device. name", "device. name: there is no such item; did you mean device.name?");
+    row("below an item", "device.name.x", "device.name.x: unknown item");
+    row("below a key", "files[recipes.csv].name.x", "files[recipes.csv].name.x: unknown item");
+    row("blank", "device. name", "device. name: unknown item; did you mean device.name?");
     row("key behind an item", "device.name[3]",
-        "device.name[3]: name is no list, nothing can stand in brackets behind it");
+        "device.name[3]: name is not a list and takes no brackets");
     row("key behind a group", "device[0].name",
-        "device[0]: device is no list, nothing can stand in brackets behind it");
+        "device[0]: device is not a list and takes no brackets");
     row("list without key", "files.comment",
-        "files.comment: an entry of the list must be named, as in files[…]");
+        "files.comment: name an entry of the list, as in files[…]");
     row("list in a group without key", "device.plugins.version",
-        "device.plugins.version: an entry of the list must be named, as in device.plugins[…]");
+        "device.plugins.version: name an entry of the list, as in device.plugins[…]");
 
-    row("no such drive", "drive[7]", "drive[7]: there is no such drive");
-    row("no such second drive", "drive[0][2].name", "drive[0][2]: there is no such drive");
-    row("no such number", "drive[x].name", "drive[x]: there is no such drive");
-    row("no such file", "files[x].comment", "files[x]: there is no such file");
+    row("no such drive", "drive[7]", "drive[7]: the drive does not exist");
+    row("no such second drive", "drive[0][2].name", "drive[0][2]: the drive does not exist");
+    row("no such number", "drive[x].name", "drive[x]: the drive does not exist");
+    row("no such file", "files[x].comment", "files[x]: the file does not exist");
     row("no such parameter file", "device.parameterFiles[x].type",
-        "device.parameterFiles[x]: there is no such parameter file");
-    row("no such image", "device.fpgaFiles[x]", "device.fpgaFiles[x]: there is no such FPGA image");
+        "device.parameterFiles[x]: the parameter file does not exist");
+    row("no such image", "device.fpgaFiles[x]",
+        "device.fpgaFiles[x]: the FPGA image does not exist");
     row("no such OPC UA file", "device.opcUaFiles[x].comment",
-        "device.opcUaFiles[x]: there is no such OPC UA file");
+        "device.opcUaFiles[x]: the OPC UA file does not exist");
     row("no such plug-in", "device.plugins[Motion].version",
-        "device.plugins[Motion]: there is no such plug-in");
+        "device.plugins[Motion]: the plug-in does not exist");
     row("no such option", "device.options[-TRACE]",
-        "device.options[-TRACE]: there is no such option");
+        "device.options[-TRACE]: the option does not exist");
     row("no such second option", "device.options[-trace][2]",
-        "device.options[-trace][2]: there is no such option");
+        "device.options[-trace][2]: the option does not exist");
 }
 
 void tst_cconfigurationitems::refusedPaths()
@@ -385,7 +391,7 @@ void tst_cconfigurationitems::whatIsNotThereIsNotListed()
     for (const QString &path :
          {u"device.comment"_s, u"device.activeFpgaFile"_s, u"device.dictionary"_s,
           u"device.dictionary.name"_s, u"device.faultTextFile"_s, u"description.name"_s}) {
-        const QString expected = path + u": the configuration does not have it"_s;
+        const QString expected = path + u": the configuration does not contain this item"_s;
         QVERIFY(!opened.items.contains(path));
         QCOMPARE(opened.items.errorText(), expected);
         QVERIFY(opened.items.items(path).isEmpty());
@@ -543,7 +549,7 @@ void tst_cconfigurationitems::withoutDocument()
 {
     CDeviceConfigurationFile10 file(nullptr);
     CConfigurationItems items(file);
-    const QString expected = u"There is no configuration."_s;
+    const QString expected = u"The document contains no configuration."_s;
     QVERIFY(items.items().isEmpty());
     QVERIFY(items.entries().isEmpty());
     QVERIFY(items.items(u"device"_s).isEmpty());

@@ -303,10 +303,11 @@ void tst_cconfigurationmerge::whatCannotBeStoredIsAConflict()
     const SConflict conflict = merge.conflicts().constFirst();
     QCOMPARE(int(conflict.conflict), int(CConfigurationMerge::NOT_POSSIBLE));
     QCOMPARE(conflict.path, u"files[recipes.csv][2]"_s);
-    QCOMPARE(CConfigurationMerge::describe(conflict),
-             QStringList({u"files[recipes.csv][2]: what theirs changed cannot be stored"_s,
-                          u"    files[recipes.csv][2]: a second entry of the same key cannot be "
-                          u"added"_s}));
+    QCOMPARE(
+        CConfigurationMerge::describe(conflict),
+        QStringList(
+            {u"files[recipes.csv][2]: the change of theirs cannot be stored"_s,
+             u"    files[recipes.csv][2]: a second entry with the same key cannot be added"_s}));
     QStringList mismatches;
     QVERIFY(merge.patch().apply(*ours, mismatches));
 }

@@ -281,12 +281,15 @@ void tst_cconfigurationpatch::refused_data()
     row("other format", withHead("\"format\":\"x\",\"version\":1,\"changes\":[]"), "not a patch");
     row("format is no text", withHead("\"format\":1,\"version\":1,\"changes\":[]"), "not a patch");
     row("no format", withHead("\"version\":1,\"changes\":[]"), "not a patch");
-    row("no version", withHead(Format + ",\"changes\":[]"), "another version than 1");
-    row("later version", withHead(Format + ",\"version\":2,\"changes\":[]"), "another version");
+    row("no version", withHead(Format + ",\"changes\":[]"), "version 1 is required");
+    row("later version", withHead(Format + ",\"version\":2,\"changes\":[]"),
+        "version 1 is required");
     row("version as text", withHead(Format + ",\"version\":\"1\",\"changes\":[]"),
-        "another version");
-    row("version between", withHead(Format + ",\"version\":1.5,\"changes\":[]"), "another version");
-    row("huge version", withHead(Format + ",\"version\":1e300,\"changes\":[]"), "another version");
+        "version 1 is required");
+    row("version between", withHead(Format + ",\"version\":1.5,\"changes\":[]"),
+        "version 1 is required");
+    row("huge version", withHead(Format + ",\"version\":1e300,\"changes\":[]"),
+        "version 1 is required");
     row("version beyond numbers", withHead(Format + ",\"version\":1e999,\"changes\":[]"), "");
     row("no changes", withHead(Format + ",\"version\":1"), "\"changes\" is missing");
     row("changes are an object", withHead(Format + ",\"version\":1,\"changes\":{}"),
@@ -295,10 +298,11 @@ void tst_cconfigurationpatch::refused_data()
         "\"x\" is unknown");
     row("change is a text", withHead(Format + ",\"version\":1,\"changes\":[\"x\"]"),
         "Change 1: This is not an object");
-    row("empty change", withChange(""), "Change 1: \"change\" tells no change");
+    row("empty change", withChange(""),
+        "Change 1: The value of \"change\" is not a known kind of change");
     row("unknown change", withChange("\"change\":\"move\",\"path\":\"device.name\""),
-        "Change 1: \"change\" tells no change");
-    row("change is a number", withChange("\"change\":1"), "tells no change");
+        "Change 1: The value of \"change\" is not a known kind of change");
+    row("change is a number", withChange("\"change\":1"), "is not a known kind of change");
     row("path missing", withChange("\"change\":\"setItem\",\"before\":\"\",\"after\":\"\""),
         "Change 1: \"path\" is missing");
     row("path is null",
@@ -340,17 +344,17 @@ void tst_cconfigurationpatch::refused_data()
     row("item twice",
         withChange("\"change\":\"addEntry\",\"path\":\"files[a]\",\"items\":["
                    "{\"item\":\"a\",\"value\":\"1\"},{\"item\":\"a\",\"value\":\"2\"}]"),
-        "The item \"a\" is told twice");
+        "The item \"a\" occurs more than once");
     row("path twice",
         withChange("\"change\":\"removeItem\",\"path\":\"device.name\",\"before\":\"a\"},"
                    "{\"change\":\"removeItem\",\"path\":\"device.name\",\"before\":\"a\""),
-        "Change 2: \"device.name\" was changed before");
+        "Change 2: \"device.name\" is changed more than once");
     for (const char *path :
          {"", ".", "device.", ".name", "files[", "files[a", "files[a\\\\", "files[a]b", "files[a].",
           "files[a][1]", "files[a][02]", "files[a][x]", "files[a][2", "files[a][99999999999]"}) {
         QTest::addRow("no path: %s", path) << withChange("\"change\":\"removeItem\",\"path\":\""
                                                          + QByteArray(path) + "\",\"before\":\"a\"")
-                                           << u"is no path"_s;
+                                           << u"is not a valid path"_s;
     }
 }
 
@@ -474,15 +478,15 @@ void tst_cconfigurationpatch::mismatch_data()
     row("other value of what is removed", cleared(u"device.comment"_s, u"x"_s),
         u"device: comment is Folding box line 4, hall B, but x is expected."_s);
     row("no such drive", set(u"drive[3].name"_s, QString(), u"GRIPPER"_s),
-        u"drive 3 is not there."_s);
-    row("drive to remove is not there", removed(u"drive[3]"_s), u"drive 3 is not there."_s);
+        u"drive 3 does not exist."_s);
+    row("drive to remove is not there", removed(u"drive[3]"_s), u"drive 3 does not exist."_s);
     row("second entry of a name", removed(u"files[recipes.csv][2]"_s),
-        u"file recipes.csv [2] is not there."_s);
-    row("drive to add is there", added(u"drive[2]"_s), u"drive 2 is there already."_s);
+        u"file recipes.csv [2] does not exist."_s);
+    row("drive to add is there", added(u"drive[2]"_s), u"drive 2 already exists."_s);
     row("single file to add is there", added(u"device.dictionary"_s),
-        u"object dictionary is there already."_s);
+        u"object dictionary already exists."_s);
     row("single file to remove is not there", removed(u"drive[0].kd2Param"_s),
-        u"drive 0: KD2 parameter file is not there."_s);
+        u"drive 0: KD2 parameter file does not exist."_s);
     row("other item of what is removed",
         removed(u"device.plugins[motion]"_s, {{u"priority"_s, u"20"_s}, {u"version"_s, u"3"_s}}),
         u"plug-in motion: version is 2, but 3 is expected."_s);
@@ -505,15 +509,15 @@ void tst_cconfigurationpatch::mismatch_data()
     row("no option", added(u"device.options[trace]"_s), u"'trace' is not a valid start option"_s);
     row("empty name", added(u"files[]"_s), u"The name is empty"_s);
     row("second of one name", added(u"files[recipes.csv][2]"_s),
-        u"a second entry of the same key cannot be added"_s);
+        u"a second entry with the same key cannot be added"_s);
     row("item that no such entry has", added(u"files[a]"_s, {{u"busId"_s, u"1"_s}}),
-        u"there is no such item"_s);
+        u"unknown item"_s);
     row("KD2 file of a KD3 drive", added(u"drive[0].kd2Logic"_s, {{u"name"_s, u"l"_s}}),
         u"only a drive of the type KD2_drive has this file"_s);
-    row("list to remove", removed(u"device.options"_s), u"options is not there."_s);
-    row("no path", removed(u"files[a"_s), u"'files[a' is no path."_s);
-    row("no list", removed(u"spare[a]"_s), u"spare a is not there."_s);
-    row("list to add to", added(u"spare[a]"_s), u"there is no such item"_s);
+    row("list to remove", removed(u"device.options"_s), u"options does not exist."_s);
+    row("not a valid path", removed(u"files[a"_s), u"'files[a' is not a valid path."_s);
+    row("no list", removed(u"spare[a]"_s), u"spare a does not exist."_s);
+    row("list to add to", added(u"spare[a]"_s), u"unknown item"_s);
 }
 
 void tst_cconfigurationpatch::mismatch()
@@ -543,7 +547,7 @@ void tst_cconfigurationpatch::everyMismatchIsTold()
     QVERIFY(!patch.apply(*file, mismatches));
     QCOMPARE(
         mismatches,
-        QStringList({u"drive 2: name is Gluer, but a is expected."_s, u"file x is not there."_s,
+        QStringList({u"drive 2: name is Gluer, but a is expected."_s, u"file x does not exist."_s,
                      u"plug-in motion: priority is 20, but 1 is expected."_s,
                      u"plug-in motion: version is 2, but (empty) is expected."_s}));
 }
@@ -563,7 +567,7 @@ void tst_cconfigurationpatch::withoutDocument()
     CDeviceConfigurationFile10 file(nullptr);
     QStringList mismatches;
     QVERIFY(!patchOf({}).apply(file, mismatches));
-    QCOMPARE(mismatches, QStringList{u"There is no configuration."_s});
+    QCOMPARE(mismatches, QStringList{u"The document contains no configuration."_s});
 }
 
 void tst_cconfigurationpatch::emptyPatch()

@@ -149,17 +149,18 @@ private slots:
         const auto row = [](const char *name, const QByteArray &bytes, const char *reason) {
             QTest::newRow(name) << bytes << QString::fromUtf8(reason);
         };
-        row("nothing", "", "no JSON");
-        row("no JSON", "manifest", "no JSON");
-        row("cut off", json.chopped(3), "no JSON");
-        row("something behind it", json + "{}", "no JSON");
-        row("a list", "[]", "no manifest of a device tree");
-        row("other JSON", "{}", "no manifest of a device tree");
-        row("another format", changed("vrn-device-manifest", "manifest"), "no manifest");
-        row("a format that is no text", changed("\"vrn-device-manifest\"", "1"), "no manifest");
-        row("a later version", changed("\"version\": 1", "\"version\": 2"), "another version");
+        row("nothing", "", "not JSON");
+        row("no JSON", "manifest", "not JSON");
+        row("cut off", json.chopped(3), "not JSON");
+        row("something behind it", json + "{}", "not JSON");
+        row("a list", "[]", "not a manifest of a device tree");
+        row("other JSON", "{}", "not a manifest of a device tree");
+        row("another format", changed("vrn-device-manifest", "manifest"), "not a manifest");
+        row("a format that is no text", changed("\"vrn-device-manifest\"", "1"), "not a manifest");
+        row("a later version", changed("\"version\": 1", "\"version\": 2"),
+            "version 1 is required");
         row("a version as text", changed("\"version\": 1", "\"version\": \"1\""),
-            "another version");
+            "version 1 is required");
         row("a version with a fraction", changed("\"version\": 1", "\"version\": 1.5"), "version");
         row("no files", changed("\"files\"", "\"fils\""), "key \"files\" is missing");
         row("no directories", changed("\"directories\"", "\"dirs\""), "\"directories\" is missing");
@@ -168,11 +169,11 @@ private slots:
         row("files are no list",
             R"({"format":"vrn-device-manifest","version":1,"directories":[],)"
             R"("files":{}})",
-            "no lists");
+            "must be lists");
         row("directories are no list",
             R"({"format":"vrn-device-manifest","version":1,)"
             R"("directories":"","files":[]})",
-            "no lists");
+            "must be lists");
         row("an entry that is none", manifestOf("", "1"), "\"devicePath\" is missing");
         row("an entry with an unknown key", manifestOf("", "{\"a\":1," + file("a").mid(1)),
             "\"a\"");
@@ -182,8 +183,8 @@ private slots:
                        R"("sha256":""})"),
             "\"size\" is missing");
         row("a device path that is no text",
-            manifestOf("", QByteArray(file("a")).replace("\"a\"", "1")), "no path");
-        row("a directory that is no text", manifestOf("1", ""), "no path on a device");
+            manifestOf("", QByteArray(file("a")).replace("\"a\"", "1")), "not a valid path");
+        row("a directory that is no text", manifestOf("1", ""), "not a valid path on a device");
         row("a negative size", manifestOf("", file("a", "", "-1")), "size of \"a\"");
         row("a size with a fraction", manifestOf("", file("a", "", "1.5")), "size of \"a\"");
         row("a size as text", manifestOf("", file("a", "", "\"1\"")), "size of \"a\"");
@@ -202,9 +203,11 @@ private slots:
             "sum");
         row("a sum with a wide digit",
             manifestOf("", file("a", "", "1", QByteArray("\xEF\xBC\x91") + Sum.mid(1))), "sum");
-        row("a file twice", manifestOf("", file("a") + ',' + file("a")), "\"a\" is there twice");
-        row("a directory twice", manifestOf(R"("a","a")", ""), "\"a\" is there twice");
-        row("a file and a directory", manifestOf(R"("a")", file("a")), "\"a\" is there twice");
+        row("a file twice", manifestOf("", file("a") + ',' + file("a")),
+            "\"a\" occurs more than once");
+        row("a directory twice", manifestOf(R"("a","a")", ""), "\"a\" occurs more than once");
+        row("a file and a directory", manifestOf(R"("a")", file("a")),
+            "\"a\" occurs more than once");
         row("a file in a file", manifestOf("", file("a") + ',' + file("a-b") + ',' + file("a/b")),
             "\"a\" is both");
         row("a directory in a file", manifestOf(R"("a/b/c")", file("a/b")), "\"a/b\" is both");
@@ -218,13 +221,14 @@ private slots:
             "changed");
         row("another form of a text", manifestOf("", file("\\u0061")), "changed");
         row("half a pair", manifestOf("", file("\\ud800")), "");
-        row("an absolute project path", manifestOf("", file("a", "/b")), "no path in a project");
-        row("a project path that leads up", manifestOf("", file("a", "b/../../c")), "no path in a");
+        row("an absolute project path", manifestOf("", file("a", "/b")), "The project path");
+        row("a project path that leads up", manifestOf("", file("a", "b/../../c")),
+            "The project path");
         row("a project path that is no text",
             manifestOf(
                 "", QByteArray(file("a")).replace("\"projectPath\":\"\"", "\"projectPath\":null")),
-            "no path in a project");
-        row("deeply nested", QByteArray(100000, '['), "no JSON");
+            "The project path");
+        row("deeply nested", QByteArray(100000, '['), "not JSON");
         row("a byte-order mark", "\xEF\xBB\xBF" + json, "");
         row("too long", json + QByteArray(static_cast<int>(CDeviceManifest::maximumSize()), ' '),
             "larger than");

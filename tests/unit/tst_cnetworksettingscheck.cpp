@@ -64,7 +64,7 @@ const SInvalid InvalidFiles[] = {
 };
 
 const QString NotRead =
-    u"This line is not read: it belongs to a quotation mark or backslash before it."_s;
+    u"This line is ignored: it belongs to a quotation mark or backslash before it."_s;
 
 } // namespace
 
@@ -149,8 +149,8 @@ void tst_cnetworksettingscheck::defaultSettingsHaveNoModes()
 {
     const QByteArray content = Files::read(directory(u"valid/default.conf"_s));
     QCOMPARE(told(content),
-             (QStringList{u"5 MODE: 'UNKNOWN' is none of DISABLED, STATIC, ID_SWITCH, DHCP."_s,
-                          u"23 NTP_MODE: 'UNKNOWN' is none of NTP_DISABLE, NTP_DAEMON, "
+             (QStringList{u"5 MODE: 'UNKNOWN' is not one of DISABLED, STATIC, ID_SWITCH, DHCP."_s,
+                          u"23 NTP_MODE: 'UNKNOWN' is not one of NTP_DISABLE, NTP_DAEMON, "
                           "NTP_SET_ON_STARTUP."_s}));
 }
 
@@ -162,43 +162,45 @@ void tst_cnetworksettingscheck::messages_data()
     const auto row = [](const char *name, const QByteArray &content, const QStringList &findings) {
         QTest::newRow(name) << content << findings;
     };
-    const QString modes = u" is none of DISABLED, STATIC, ID_SWITCH, DHCP."_s;
+    const QString modes = u" is not one of DISABLED, STATIC, ID_SWITCH, DHCP."_s;
 
     row("no assignment", "MODE=DHCP\nx\n", {u"2 : This is neither KEY=value nor a comment."_s});
     row("key alone", "MODE\n", {u"1 : This is neither KEY=value nor a comment."_s});
-    row("section", "MODE=DHCP\n[x]\n", {u"2 : A section begins: no key in it is read."_s});
-    row("unknown key", "\n\nWLAN = 1\n", {u"3 WLAN: There is no such key."_s});
-    row("key in other case", "Mode=DHCP\n", {u"1 Mode: There is no such key."_s});
-    row("no key", "=1\n", {u"1 : There is no such key."_s});
+    row("section", "MODE=DHCP\n[x]\n", {u"2 : A section begins here; its keys are ignored."_s});
+    row("unknown key", "\n\nWLAN = 1\n", {u"3 WLAN: Unknown key."_s});
+    row("key in other case", "Mode=DHCP\n", {u"1 Mode: Unknown key."_s});
+    row("no key", "=1\n", {u"1 : Unknown key."_s});
     row("repeated key", "MODE=DHCP\n\nMODE=DHCP\n",
-        {u"3 MODE: This replaces what line 1 tells."_s});
+        {u"3 MODE: This overrides the value in line 1."_s});
     row("key three times", "MODE=DHCP\nMODE=DHCP\nMODE=DHCP\n",
-        {u"2 MODE: This replaces what line 1 tells."_s,
-         u"3 MODE: This replaces what line 2 tells."_s});
-    row("not read", "x=\"\nMODE=DHCP\n",
-        {u"1 x: There is no such key."_s, u"2 MODE: "_s + NotRead});
+        {u"2 MODE: This overrides the value in line 1."_s,
+         u"3 MODE: This overrides the value in line 2."_s});
+    row("not read", "x=\"\nMODE=DHCP\n", {u"1 x: Unknown key."_s, u"2 MODE: "_s + NotRead});
 
     row("mode", "\nMODE=AUTO\n", {u"2 MODE: 'AUTO'"_s + modes});
     row("empty mode", "MODE=\n", {u"1 MODE: ''"_s + modes});
     row("place marker", "MODE=%2\n", {u"1 MODE: '%2'"_s + modes});
     row("not ASCII", "MODE=\xC3\xB6\n", {u"1 MODE: '\u00f6'"_s + modes});
     row("NTP mode", "NTP_MODE=DISABLED\n",
-        {u"1 NTP_MODE: 'DISABLED' is none of NTP_DISABLE, NTP_DAEMON, NTP_SET_ON_STARTUP."_s});
+        {u"1 NTP_MODE: 'DISABLED' is not one of NTP_DISABLE, NTP_DAEMON, NTP_SET_ON_STARTUP."_s});
     row("address", "ADDRESS=1.2.3\n",
-        {u"1 ADDRESS: '1.2.3' is no IPv4 address, such as 192.168.1.10."_s});
-    row("gateway", "GATEWAY=x\n", {u"1 GATEWAY: 'x' is no IPv4 address, such as 192.168.1.10."_s});
+        {u"1 ADDRESS: '1.2.3' is not a valid IPv4 address; write one such as 192.168.1.10."_s});
+    row("gateway", "GATEWAY=x\n",
+        {u"1 GATEWAY: 'x' is not a valid IPv4 address; write one such as 192.168.1.10."_s});
     row("system log", "SYSLOGTARGET=\n",
-        {u"1 SYSLOGTARGET: '' is no IPv4 address, such as 192.168.1.10."_s});
+        {u"1 SYSLOGTARGET: '' is not a valid IPv4 address; write one such as 192.168.1.10."_s});
     row("console", "NETCON_TARGET=1.1.1.1,2.2.2.2\n",
-        {u"1 NETCON_TARGET: '1.1.1.1,2.2.2.2' is no IPv4 address, such as 192.168.1.10."_s});
+        {u"1 NETCON_TARGET: '1.1.1.1,2.2.2.2' is not a valid IPv4 address; write one such as "
+         u"192.168.1.10."_s});
     row("time server", "NTP_TIMESERVER=x\n",
-        {u"1 NTP_TIMESERVER: 'x' is no IPv4 address, such as 192.168.1.10."_s});
+        {u"1 NTP_TIMESERVER: 'x' is not a valid IPv4 address; write one such as 192.168.1.10."_s});
     row("mask", "SUBNETMASK=255.0.255.0\n",
-        {u"1 SUBNETMASK: '255.0.255.0' is no subnet mask, such as 255.255.255.0."_s});
+        {u"1 SUBNETMASK: '255.0.255.0' is not a valid subnet mask; write one such as "
+         u"255.255.255.0."_s});
     row("port", "NETCON_PORT=65536\n",
-        {u"1 NETCON_PORT: '65536' is no port number, 1 to 65535."_s});
+        {u"1 NETCON_PORT: '65536' is not a valid port number; write a number from 1 to 65535."_s});
     row("level", "KERNEL_LOGLEVEL=8\n",
-        {u"1 KERNEL_LOGLEVEL: '8' is no kernel log level, 0 to 7."_s});
+        {u"1 KERNEL_LOGLEVEL: '8' is not a valid kernel log level; write a number from 0 to 7."_s});
 
     row("no address", "MODE=STATIC\n", {u"0 ADDRESS: The mode STATIC needs an address."_s});
     row("address 0", "MODE=STATIC\nADDRESS=000.000.000.000\n",
@@ -208,16 +210,16 @@ void tst_cnetworksettingscheck::messages_data()
          "mask 255.255.255.0."_s});
 
     row("order of lines", "KERNEL_LOGLEVEL=8\nADDRESS=x\n[x]\nMODE=x\nx\n",
-        {u"1 KERNEL_LOGLEVEL: '8' is no kernel log level, 0 to 7."_s,
-         u"2 ADDRESS: 'x' is no IPv4 address, such as 192.168.1.10."_s,
-         u"3 : A section begins: no key in it is read."_s,
+        {u"1 KERNEL_LOGLEVEL: '8' is not a valid kernel log level; write a number from 0 to 7."_s,
+         u"2 ADDRESS: 'x' is not a valid IPv4 address; write one such as 192.168.1.10."_s,
+         u"3 : A section begins here; its keys are ignored."_s,
          u"5 : This is neither KEY=value nor a comment."_s});
     row("repeated with a bad value", "MODE=DHCP\nMODE=x\n",
-        {u"2 MODE: This replaces what line 1 tells."_s, u"2 MODE: 'x'"_s + modes});
+        {u"2 MODE: This overrides the value in line 1."_s, u"2 MODE: 'x'"_s + modes});
     row("escaped character in a key", "%4DODE=x\n", {u"1 MODE: 'x'"_s + modes});
-    row("no-break space in a key", "MODE\xC2\xA0=x\n", {u"1 MODE\u00A0: There is no such key."_s});
+    row("no-break space in a key", "MODE\xC2\xA0=x\n", {u"1 MODE\u00A0: Unknown key."_s});
     row("bad value that is replaced", "MODE=x\nMODE=DHCP\n",
-        {u"2 MODE: This replaces what line 1 tells."_s});
+        {u"2 MODE: This overrides the value in line 1."_s});
 }
 
 void tst_cnetworksettingscheck::messages()
@@ -298,14 +300,15 @@ void tst_cnetworksettingscheck::notRead_data()
     };
     const QString mode = u" MODE: "_s + NotRead;
     const QString port = u" NETCON_PORT: "_s + NotRead;
-    const QString noKey = u": There is no such key."_s;
+    const QString noKey = u": Unknown key."_s;
 
     row("quotation mark", "x=\"\nMODE=DHCP\nNETCON_PORT=1\n",
         {u"1 x"_s + noKey, u"2"_s + mode, u"3"_s + port});
     row("until it is closed", "x=\"\nMODE=DHCP\ny=\"\nNETCON_PORT=1\n",
         {u"1 x"_s + noKey, u"2"_s + mode, u"3 y"_s + noKey});
     row("quotation mark in a known value", "SYSLOGTARGET=\"1.1.1.1\nMODE=DHCP\n",
-        {u"1 SYSLOGTARGET: '1.1.1.1\nMODE=DHCP\n' is no IPv4 address, such as 192.168.1.10."_s,
+        {u"1 SYSLOGTARGET: '1.1.1.1\nMODE=DHCP\n' is not a valid IPv4 address; write one such "
+         u"as 192.168.1.10."_s,
          u"2"_s + mode});
     row("backslash", "x=1\\\nMODE=DHCP\nNETCON_PORT=1\n", {u"1 x"_s + noKey, u"2"_s + mode});
     row("backslash before two characters", "x=1\\\r\nMODE=DHCP\r\n",
@@ -320,7 +323,7 @@ void tst_cnetworksettingscheck::notRead_data()
     row("again in a quotation", "MODE=DHCP\nx=\"\nMODE=DISABLED\n",
         {u"2 x"_s + noKey, u"3"_s + mode});
     row("again in a quotation, bad value before", "MODE=x\ny=\"\nMODE=DISABLED\n",
-        {u"1 MODE: 'x' is none of DISABLED, STATIC, ID_SWITCH, DHCP."_s, u"2 y"_s + noKey,
+        {u"1 MODE: 'x' is not one of DISABLED, STATIC, ID_SWITCH, DHCP."_s, u"2 y"_s + noKey,
          u"3"_s + mode});
     row("again behind a backslash", "MODE=DHCP\nx=\\\nMODE=DISABLED\n",
         {u"2 x"_s + noKey, u"3"_s + mode});
@@ -347,9 +350,9 @@ void tst_cnetworksettingscheck::sections_data()
     const auto row = [](const char *name, const QByteArray &content, const QStringList &findings) {
         QTest::newRow(name) << content << findings;
     };
-    const QString section = u" : A section begins: no key in it is read."_s;
-    const QString mode = u" MODE: 'x' is none of DISABLED, STATIC, ID_SWITCH, DHCP."_s;
-    const QString noKey = u": There is no such key."_s;
+    const QString section = u" : A section begins here; its keys are ignored."_s;
+    const QString mode = u" MODE: 'x' is not one of DISABLED, STATIC, ID_SWITCH, DHCP."_s;
+    const QString noKey = u": Unknown key."_s;
 
     // One finding is enough for a whole section.
     row("nothing in it counts", "[a]\nMODE=x\nx=1\nMODE=DHCP\n", {u"1"_s + section});
@@ -401,9 +404,9 @@ void tst_cnetworksettingscheck::linesOfAllKinds()
     QFETCH(QByteArray, content);
 
     QCOMPARE(told(content),
-             (QStringList{u"1 a: There is no such key."_s,
-                          u"4 MODE: 'x' is none of DISABLED, STATIC, ID_SWITCH, DHCP."_s,
-                          u"5 b: There is no such key."_s}));
+             (QStringList{u"1 a: Unknown key."_s,
+                          u"4 MODE: 'x' is not one of DISABLED, STATIC, ID_SWITCH, DHCP."_s,
+                          u"5 b: Unknown key."_s}));
 }
 
 void tst_cnetworksettingscheck::subnet_data()
@@ -508,15 +511,15 @@ void tst_cnetworksettingscheck::problem_data()
 
     accept(u"MODE"_s,
            {u"DISABLED"_s, u"STATIC"_s, u"ID_SWITCH"_s, u"DHCP"_s, u"static"_s, u"Id_Switch"_s});
-    reject(u"MODE"_s, u" is none of DISABLED, STATIC, ID_SWITCH, DHCP."_s,
+    reject(u"MODE"_s, u" is not one of DISABLED, STATIC, ID_SWITCH, DHCP."_s,
            {u"UNKNOWN"_s, u""_s, u"2"_s, u"STATIC "_s, u"NTP_DAEMON"_s, u"%1 %2"_s});
 
     accept(u"NTP_MODE"_s,
            {u"NTP_DISABLE"_s, u"NTP_DAEMON"_s, u"NTP_SET_ON_STARTUP"_s, u"ntp_disable"_s});
-    reject(u"NTP_MODE"_s, u" is none of NTP_DISABLE, NTP_DAEMON, NTP_SET_ON_STARTUP."_s,
+    reject(u"NTP_MODE"_s, u" is not one of NTP_DISABLE, NTP_DAEMON, NTP_SET_ON_STARTUP."_s,
            {u"UNKNOWN"_s, u""_s, u"DISABLED"_s, u"NTP_DISABLED"_s});
 
-    const QString noAddress = u" is no IPv4 address, such as 192.168.1.10."_s;
+    const QString noAddress = u" is not a valid IPv4 address; write one such as 192.168.1.10."_s;
     for (const QString &key :
          {u"ADDRESS"_s, u"GATEWAY"_s, u"SYSLOGTARGET"_s, u"NETCON_TARGET"_s, u"NTP_TIMESERVER"_s}) {
         accept(key,
@@ -535,20 +538,20 @@ void tst_cnetworksettingscheck::problem_data()
     accept(u"SUBNETMASK"_s,
            {u"255.255.255.0"_s, u"255.255.000.000"_s, u"0.0.0.0"_s, u"255.255.255.255"_s,
             u"255.254.0.0"_s, u"128.0.0.0"_s});
-    reject(u"SUBNETMASK"_s, u" is no subnet mask, such as 255.255.255.0."_s,
+    reject(u"SUBNETMASK"_s, u" is not a valid subnet mask; write one such as 255.255.255.0."_s,
            {u""_s, u"255.0.255.0"_s, u"0.0.0.255"_s, u"255.255.253.0"_s, u"192.168.1.1"_s,
             u"255.255.255"_s, u"24"_s});
 
     accept(u"NETCON_PORT"_s, {u"1"_s, u"6666"_s, u"65535"_s, u"010"_s});
-    reject(u"NETCON_PORT"_s, u" is no port number, 1 to 65535."_s,
+    reject(u"NETCON_PORT"_s, u" is not a valid port number; write a number from 1 to 65535."_s,
            {u"0"_s, u"65536"_s, u"-1"_s, u"4294967297"_s, u""_s, u"x"_s, u"0x10"_s, u"6666.0"_s});
 
     accept(u"KERNEL_LOGLEVEL"_s, {u"0"_s, u"4"_s, u"7"_s, u"007"_s});
-    reject(u"KERNEL_LOGLEVEL"_s, u" is no kernel log level, 0 to 7."_s,
+    reject(u"KERNEL_LOGLEVEL"_s, u" is not a valid kernel log level; write a number from 0 to 7."_s,
            {u"8"_s, u"-1"_s, u""_s, u"x"_s, u"4.0"_s, u"4294967296"_s});
 
     for (const QString &key : {u"WLAN"_s, u"mode"_s, u""_s, u"MODE "_s}) {
-        row(key, u"DHCP"_s, u"There is no such key."_s);
+        row(key, u"DHCP"_s, u"Unknown key."_s);
     }
 }
 
@@ -575,8 +578,9 @@ void tst_cnetworksettingscheck::translated()
     }
     const MarkingTranslator translator("CNetworkSettingsCheck");
     QCOMPARE(told(content), findings);
-    QCOMPARE(Check::problem(u"x"_s, u"1"_s), u"<There is no such key.>"_s);
-    QCOMPARE(Check::problem(u"NETCON_PORT"_s, u"x"_s), u"<'x' is no port number, 1 to 65535.>"_s);
+    QCOMPARE(Check::problem(u"x"_s, u"1"_s), u"<Unknown key.>"_s);
+    QCOMPARE(Check::problem(u"NETCON_PORT"_s, u"x"_s),
+             u"<'x' is not a valid port number; write a number from 1 to 65535.>"_s);
     QCOMPARE(Check::problem(u"NETCON_PORT"_s, u"1"_s), QString());
 }
 

@@ -76,11 +76,11 @@ void tst_vrndevice::usage_data()
                             << exitCode << QString::fromLatin1(output)
                             << QString::fromLatin1(errors);
     };
-    row("nothing", "", 2, "", "No command given");
+    row("nothing", "", 2, "", "The command is missing");
     row("help", "--help", 0, "add-drive", "");
     row("version", "--version", 0, "vrndevice 1.0.0\n", "");
-    row("unknown command", "shwo x", 2, "", "There is no command 'shwo'");
-    row("mistyped command", "shwo x", 2, "", "There is no command 'shwo'. Did you mean 'show'?");
+    row("unknown command", "shwo x", 2, "", "Unknown command 'shwo'");
+    row("mistyped command", "shwo x", 2, "", "Unknown command 'shwo'. Did you mean 'show'?");
     row("mistyped group", "netwrok show x", 2, "", "'netwrok'. Did you mean 'network'?");
     row("mistyped command of a group", "network shwo x", 2, "", "Did you mean 'network show'?");
     row("command in capitals", "SHOW x", 2, "", "Did you mean 'show'?");
@@ -98,16 +98,17 @@ void tst_vrndevice::usage_data()
     row("value missing", "new x --name", 2, "", "new: The value of --name is missing.");
     row("argument that is none of the choices", "completion tcsh", 2, "",
         "completion: SHELL must be bash, zsh or fish.");
-    row("neither a choice nor a file", "new x --template y --name N", 3, "", "no template 'y'");
-    row("hyphens alone before an option", "show -- --json x", 2, "", "'x' is one too many");
+    row("neither a choice nor a file", "new x --template y --name N", 3, "",
+        "'y' is neither a built-in template nor a file");
+    row("hyphens alone before an option", "show -- --json x", 2, "", "Unexpected argument 'x'");
     row("help in spite of what is missing", "add-drive -h --type KD4_drive", 0, "Usage: ", "");
     row("no help after what is unknown", "show --jsn --help", 2, "", "'--jsn'");
-    row("group alone", "network", 2, "", "Which command of 'network'?");
-    row("unknown command of a group", "network shwo x", 2, "", "no command 'network shwo'");
-    row("help of a group", "network --help", 0, "  network check  Find", "");
+    row("group alone", "network", 2, "", "The command of 'network' is missing.");
+    row("unknown command of a group", "network shwo x", 2, "", "Unknown command 'network shwo'");
+    row("help of a group", "network --help", 0, "  network check  Report", "");
     row("help on a group", "--help", 0, "  network check  ", "");
     row("argument missing", "show", 2, "", "show: The argument FILE is missing.");
-    row("argument too many", "show a b", 2, "", "show: The argument 'b' is one too many.");
+    row("argument too many", "show a b", 2, "", "show: Unexpected argument 'b'.");
     row("class missing", "new x --name N", 2, "", "--class must be kc2 or kd3");
     row("class in capitals", "new x --class KD3 --name N", 2, "", "--class must be");
     row("class Undefined", "new x --class Undefined --name N", 2, "", "--class must be");
@@ -181,7 +182,7 @@ void tst_vrndevice::newKeepsAnExistingFile()
     const SResult result = run(
         {QStringLiteral("new"), path(), QStringLiteral("--class=kd3"), QStringLiteral("--name=N")});
     QCOMPARE(result.exitCode, 1);
-    QVERIFY(result.errors.contains(QStringLiteral("exists already")));
+    QVERIFY(result.errors.contains(QStringLiteral("already exists")));
     QCOMPARE(Files::read(path()), before);
 }
 

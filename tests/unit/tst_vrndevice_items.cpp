@@ -68,8 +68,8 @@ void tst_vrndevice_items::usage_data()
     QTest::addColumn<QString>("errors");
 
     QTest::newRow("get: nothing") << QStringList{u"get"_s} << u"The argument FILE is missing."_s;
-    QTest::newRow("get: too much") << QStringList{u"get"_s, FileName, u"a"_s, u"b"_s}
-                                   << u"The argument 'b' is one too many."_s;
+    QTest::newRow("get: too much")
+        << QStringList{u"get"_s, FileName, u"a"_s, u"b"_s} << u"Unexpected argument 'b'."_s;
     QTest::newRow("set: no path") << QStringList{u"set"_s, FileName}
                                   << u"The argument PATH is missing."_s;
     QTest::newRow("set: no value")
@@ -89,7 +89,7 @@ void tst_vrndevice_items::usage_data()
     QTest::newRow("fmt: nothing") << QStringList{u"fmt"_s} << u"The argument FILE is missing."_s;
     QTest::newRow("fmt: two outputs") << QStringList{u"fmt"_s, u"--json"_s, u"-"_s} << u"--json"_s;
     QTest::newRow("fmt: two documents")
-        << QStringList{u"fmt"_s, u"-"_s, FileName} << u"takes one document"_s;
+        << QStringList{u"fmt"_s, u"-"_s, FileName} << u"cannot be combined with other files"_s;
     QTest::newRow("new: no file") << QStringList{u"new"_s, u"--class=kd3"_s, u"--name=N"_s}
                                   << u"FILE is missing."_s;
     QTest::newRow("new: no name") << QStringList{u"new"_s, u"x"_s, u"--template=kd3-drive"_s}
@@ -164,22 +164,22 @@ void tst_vrndevice_items::failuresLeaveTheFile_data()
     const auto row = [](const char *name, const QStringList &arguments, const QString &reason) {
         QTest::newRow(name) << arguments << reason;
     };
-    row("get: no drive", {u"get"_s, u"drive[7]"_s}, u"drive[7]: there is no such drive"_s);
+    row("get: no drive", {u"get"_s, u"drive[7]"_s}, u"drive[7]: the drive does not exist"_s);
     row("get: no item", {u"get"_s, u"device.coment"_s},
-        u"device.coment: there is no such item; did you mean device.comment?"_s);
+        u"device.coment: unknown item; did you mean device.comment?"_s);
     row("get: no path", {u"get"_s, QString()},
-        u"'' is no path: a word is missing at character 1"_s);
+        u"'' is not a valid path: a word is missing at character 1"_s);
     row("set: second", {u"set"_s, u"device.name"_s, u"N"_s, u"drive[7].name"_s, u"x"_s},
-        u"drive[7]: there is no such drive"_s);
+        u"drive[7]: the drive does not exist"_s);
     row("set: value", {u"set"_s, u"device.name"_s, u"N"_s, u"drive[0].busId"_s, u"x"_s},
         u"drive[0].busId: 'x' is not a valid number. Expected: a number from 0 to 4294967295."_s);
     row("add: there", {u"add"_s, u"drive[0]"_s}, u"drive[0]: there is such a drive already"_s);
     row("add: value", {u"add"_s, u"drive[7]"_s, u"drive[7].busId"_s, u"x"_s},
         u"drive[7].busId: 'x' is not a valid number. Expected: a number from 0 to 4294967295."_s);
     row("remove: second", {u"remove"_s, u"drive[0]"_s, u"drive[7]"_s},
-        u"drive[7]: there is no such drive"_s);
+        u"drive[7]: the drive does not exist"_s);
     row("remove: twice", {u"remove"_s, u"drive[0]"_s, u"drive[0]"_s},
-        u"drive[0]: there is no such drive"_s);
+        u"drive[0]: the drive does not exist"_s);
 }
 
 void tst_vrndevice_items::failuresLeaveTheFile()

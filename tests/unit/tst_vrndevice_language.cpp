@@ -112,8 +112,8 @@ void tst_vrndevice_language::language()
     const SResult error = run({u"shwo"_s}, settings);
     QCOMPARE(error.exitCode, 2);
     QCOMPARE(error.errors,
-             isGerman ? u"vrndevice: error: Es gibt keinen Befehl 'shwo'. Meinten Sie 'show'?\n"_s
-                      : u"vrndevice: error: There is no command 'shwo'. Did you mean 'show'?\n"_s);
+             isGerman ? u"vrndevice: error: Unbekannter Befehl 'shwo'. Meinten Sie 'show'?\n"_s
+                      : u"vrndevice: error: Unknown command 'shwo'. Did you mean 'show'?\n"_s);
 }
 
 void tst_vrndevice_language::everythingIsGerman()

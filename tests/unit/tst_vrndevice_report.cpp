@@ -452,12 +452,12 @@ void tst_vrndevice_report::usage_data()
     QTest::newRow("tree without a file")
         << QStringList{u"tree"_s} << u"The argument FILE is missing."_s;
     QTest::newRow("JSON and page on one stream")
-        << QStringList{u"report"_s, FileName, u"--json"_s} << u"--json needs --output"_s;
+        << QStringList{u"report"_s, FileName, u"--json"_s} << u"--json requires --output"_s;
     QTest::newRow("JSON and page on standard output")
         << QStringList{u"report"_s, FileName, u"--json"_s, u"-o"_s, u"-"_s}
-        << u"--json needs --output"_s;
-    QTest::newRow("output without a name")
-        << QStringList{u"report"_s, FileName, u"--output="_s} << u"--output names no file"_s;
+        << u"--json requires --output"_s;
+    QTest::newRow("output without a name") << QStringList{u"report"_s, FileName, u"--output="_s}
+                                           << u"The file name of --output is empty"_s;
     QTest::newRow("page in place of the configuration")
         << QStringList{u"report"_s, FileName, u"-o"_s, u"./"_s + FileName}
         << u"would overwrite the configuration"_s;

@@ -106,19 +106,21 @@ void tst_vrndevice_smallfiles::usage_data()
     row(u"settings set settings.3conf --drive -1=x"_s, u"--drive must be"_s);
     row(u"settings set settings.3conf --drive x=x --name N"_s, u"--drive must be"_s);
     row(u"network set network.conf"_s, u"The argument KEY=VALUE is missing."_s);
-    row(u"network set network.conf MODE"_s, u"'MODE' is not KEY=VALUE"_s);
-    row(u"network set network.conf mode=DHCP"_s, u"mode: There is no such key"_s);
-    row(u"network set network.conf MODE=UNKNOWN"_s, u"MODE: 'UNKNOWN' is none of"_s);
-    row(u"network set network.conf MODE=DHCP ADDRESS=1.2.3"_s, u"ADDRESS: '1.2.3' is no IPv4"_s);
-    row(u"network set network.conf ADDRESS="_s, u"ADDRESS: '' is no IPv4"_s);
-    row(u"network set network.conf NETCON_PORT=65536"_s, u"NETCON_PORT: '65536' is no port"_s);
-    row(u"network set network.conf KERNEL_LOGLEVEL=8"_s, u"KERNEL_LOGLEVEL: '8' is no"_s);
+    row(u"network set network.conf MODE"_s, u"'MODE' does not have the form KEY=VALUE"_s);
+    row(u"network set network.conf mode=DHCP"_s, u"mode: Unknown key"_s);
+    row(u"network set network.conf MODE=UNKNOWN"_s, u"MODE: 'UNKNOWN' is not one of"_s);
+    row(u"network set network.conf MODE=DHCP ADDRESS=1.2.3"_s,
+        u"ADDRESS: '1.2.3' is not a valid IPv4"_s);
+    row(u"network set network.conf ADDRESS="_s, u"ADDRESS: '' is not a valid IPv4"_s);
+    row(u"network set network.conf NETCON_PORT=65536"_s,
+        u"NETCON_PORT: '65536' is not a valid port"_s);
+    row(u"network set network.conf KERNEL_LOGLEVEL=8"_s, u"KERNEL_LOGLEVEL: '8' is not a valid"_s);
     row(u"module"_s, u"The argument NAME is missing."_s);
     row(u"message"_s, u"The argument CODE is missing."_s);
-    row(u"message 1024 400x"_s, u"'400x' is no code"_s);
-    row(u"message 4294968320"_s, u"'4294968320' is no code"_s);
-    row(u"message 0x"_s, u"'0x' is no code"_s);
-    row(u"message 4a"_s, u"'4a' is no code"_s);
+    row(u"message 1024 400x"_s, u"'400x' is not a valid code"_s);
+    row(u"message 4294968320"_s, u"'4294968320' is not a valid code"_s);
+    row(u"message 0x"_s, u"'0x' is not a valid code"_s);
+    row(u"message 4a"_s, u"'4a' is not a valid code"_s);
 }
 
 void tst_vrndevice_smallfiles::usage()
@@ -184,7 +186,7 @@ void tst_vrndevice_smallfiles::pipeInPlaceOfAFile()
     QCOMPARE(mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
     const SResult result = run(arguments);
     QCOMPARE(result.exitCode, 3);
-    QVERIFY2(result.errors.contains(u"no regular file"_s), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(u"not a regular file"_s), qPrintable(result.errors));
 }
 
 void tst_vrndevice_smallfiles::settingsShow()
@@ -361,8 +363,9 @@ void tst_vrndevice_smallfiles::networkCheck()
     QVERIFY(text.errors.isEmpty());
     const QStringList lines = text.output.split(QLatin1Char('\n'));
     QCOMPARE(lines.size(), 3);
-    QCOMPARE(lines.at(0), u"network.conf:2: ADRESS: There is no such key."_s);
-    QVERIFY(lines.at(1).startsWith(u"network.conf:4: GATEWAY: '1.2.300.1' is no IPv4 address"_s));
+    QCOMPARE(lines.at(0), u"network.conf:2: ADRESS: Unknown key."_s);
+    QVERIFY(lines.at(1).startsWith(
+        u"network.conf:4: GATEWAY: '1.2.300.1' is not a valid IPv4 address"_s));
 
     const SResult json = run(u"network check network.conf --json"_s);
     QCOMPARE(json.exitCode, 1);
@@ -473,20 +476,20 @@ void tst_vrndevice_smallfiles::modulesThatAreNone_data()
     const auto row = [](const QString &name, const QString &reason) {
         QTest::newRow(qPrintable(name)) << name << reason;
     };
-    row(u"om1_EC_H2_V1_3.bin"_s, u"'om1' is no slot: OM and a number"_s);
-    row(u"OM_EC_H2_V1_3.bin"_s, u"'OM' is no slot"_s);
+    row(u"om1_EC_H2_V1_3.bin"_s, u"'om1' is not a valid slot; write OM and a number"_s);
+    row(u"OM_EC_H2_V1_3.bin"_s, u"'OM' is not a valid slot"_s);
     row(u"_EC_H2_V1_3.bin"_s, u"The slot is missing"_s);
-    row(u"OM1_E_H2_V1_3.bin"_s, u"'E' is no interface: two letters or more"_s);
+    row(u"OM1_E_H2_V1_3.bin"_s, u"'E' is not a valid interface; write two letters or more"_s);
     row(u"OM1_EC.bin"_s, u"The hardware version is missing"_s);
-    row(u"OM1_EC_2_V1_3.bin"_s, u"'2' is no hardware version: H and a number"_s);
+    row(u"OM1_EC_2_V1_3.bin"_s, u"'2' is not a valid hardware version; write H and a number"_s);
     row(u"OM1_EC_H2.bin"_s, u"The software version is missing"_s);
-    row(u"OM1_EC_H2_V1.bin"_s, u"'V1' is no software version: V and two numbers"_s);
-    row(u"OM1_EC_H2_V1_x.bin"_s, u"'V1_x' is no software version"_s);
+    row(u"OM1_EC_H2_V1.bin"_s, u"'V1' is not a valid software version; write V and two numbers"_s);
+    row(u"OM1_EC_H2_V1_x.bin"_s, u"'V1_x' is not a valid software version"_s);
     row(u"OM1_EC_H2_V1_3"_s, u"The suffix is missing, such as .bin"_s);
     row(u"OM1_EC_H2_V1_3."_s, u"The suffix is missing"_s);
-    row(u"OM1_EC_H2_V1_3_.bin"_s, u"Behind the versions"_s);
-    row(u"OM1_EC_H2_V1_3_a-b.bin"_s, u"Behind the versions"_s);
-    row(u"OM1_EC_H2_V1_3.b-n"_s, u"Behind the versions"_s);
+    row(u"OM1_EC_H2_V1_3_.bin"_s, u"After the versions"_s);
+    row(u"OM1_EC_H2_V1_3_a-b.bin"_s, u"After the versions"_s);
+    row(u"OM1_EC_H2_V1_3.b-n"_s, u"After the versions"_s);
 }
 
 void tst_vrndevice_smallfiles::modulesThatAreNone()
@@ -526,7 +529,8 @@ void tst_vrndevice_smallfiles::message_data()
     QTest::newRow("without text") << u"1030"_s << 0 << u"1030 (0x406): 1030\n"_s << QString();
     QTest::newRow("none, and one")
         << u"1023 1151"_s << 1 << u"1151 (0x47f): Signal 64: SIGRTMAX\n  Real-time 31 (Max).\n"_s
-        << u"vrndevice: error: 1023 is no system message: they are 1024 to 1151.\n"_s;
+        << u"vrndevice: error: 1023 is not the code of a system message; write a number from "
+           u"1024 to 1151.\n"_s;
 }
 
 void tst_vrndevice_smallfiles::message()

@@ -293,7 +293,7 @@ private slots:
         QVERIFY(Files::write(at(u"whole"_s), archive.chopped(100)));
         const Tool::SResult broken = run({u"verify"_s, u"whole"_s});
         QCOMPARE(broken.exitCode, 1);
-        QVERIFY(broken.output.startsWith(u"whole: The archive is broken: "_s));
+        QVERIFY(broken.output.startsWith(u"whole: The archive is damaged: "_s));
     }
 
     void signalRemovesWhatIsHalfDone_data()

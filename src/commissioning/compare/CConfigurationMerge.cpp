@@ -451,7 +451,7 @@ QStringList CConfigurationMerge::describe(const SConflict &conflict)
                      .arg(ConfigurationWords::subject(path, QString()));
         break;
     case NOT_POSSIBLE:
-        lines << Texts::tr("%1: what theirs changed cannot be stored").arg(conflict.path);
+        lines << Texts::tr("%1: the change of theirs cannot be stored").arg(conflict.path);
         break;
     }
     for (const QString &detail : conflict.details) {

@@ -89,8 +89,9 @@ public:
                 Texts::tr("This is not a patch: \"%1\" is not \"%2\".").arg(FormatKey, Format));
         }
         if (root.value(VersionKey) != Version) {
-            return fail(Texts::tr("This patch has another version than %1, which can be read.")
-                            .arg(Version));
+            return fail(
+                Texts::tr("The version of the patch is not supported; version %1 is required.")
+                    .arg(Version));
         }
         return checkKeys(root, {FormatKey, VersionKey, ChangesKey})
             && readChanges(root.value(ChangesKey).toArray(), changes);
@@ -139,7 +140,7 @@ private:
                 return false;
             }
             if (paths.contains(change.path)) {
-                return fail(Texts::tr("\"%1\" was changed before.").arg(change.path));
+                return fail(Texts::tr("\"%1\" is changed more than once.").arg(change.path));
             }
             paths.insert(change.path);
             changes << change;
@@ -159,7 +160,8 @@ private:
                 return name == QLatin1String(candidate.name);
             });
         if (kind == std::end(Kinds)) {
-            return fail(Texts::tr("\"%1\" tells no change that is known.").arg(ChangeKey));
+            return fail(
+                Texts::tr("The value of \"%1\" is not a known kind of change.").arg(ChangeKey));
         }
         QStringList keys = {ChangeKey, PathKey, kind->hasItems ? ItemsKey : BeforeKey};
         if (kind->hasAfter) {
@@ -174,7 +176,7 @@ private:
         change.after = object.value(AfterKey).toString();
         SItemPath path;
         return (SItemPath::parse(change.path, path)
-                || fail(Texts::tr("\"%1\" is no path.").arg(change.path)))
+                || fail(Texts::tr("\"%1\" is not a valid path.").arg(change.path)))
             && readItems(object.value(ItemsKey).toArray(), change.items);
     }
 
@@ -189,7 +191,7 @@ private:
             const CConfigurationItems::SItem item = {object.value(ItemKey).toString(),
                                                      object.value(ValueKey).toString()};
             if (paths.contains(item.path)) {
-                return fail(Texts::tr("The item \"%1\" is told twice.").arg(item.path));
+                return fail(Texts::tr("The item \"%1\" occurs more than once.").arg(item.path));
             }
             paths.insert(item.path);
             items << item;
@@ -307,7 +309,7 @@ bool CConfigurationPatch::check(const CDeviceConfigurationFile10 &file,
     mismatches.clear();
     const auto copy = ConfigurationChanges::copyOf(file);
     if (copy == nullptr) {
-        mismatches << Texts::tr("There is no configuration.");
+        mismatches << Texts::tr("The document contains no configuration.");
         return false;
     }
     return makeAll(m_changes, *copy, mismatches);

@@ -138,7 +138,7 @@ bool Maker::changeItem(const SChange &change, const SItemPath &path)
     QString value;
     if (!m_items.value(change.path, value) && path.isInList()
         && !m_items.contains(path.entryPath())) {
-        return fail(Texts::tr("%1 is not there.").arg(ConfigurationWords::subject(entry)));
+        return fail(Texts::tr("%1 does not exist.").arg(ConfigurationWords::subject(entry)));
     }
     if (!checkValue(path, value, change.before)) {
         return false;
@@ -157,7 +157,7 @@ bool Maker::changeItem(const SChange &change, const SItemPath &path)
 bool Maker::addEntry(const SChange &change, const SItemPath &path)
 {
     if (isThere(path)) {
-        return fail(Texts::tr("%1 is there already.").arg(nameOf(path)));
+        return fail(Texts::tr("%1 already exists.").arg(nameOf(path)));
     }
     if (path.item.isEmpty() && !m_items.add(change.path)) {
         return fail(m_items.errorText());
@@ -186,7 +186,7 @@ bool Maker::addEntry(const SChange &change, const SItemPath &path)
 bool Maker::removeEntry(const SChange &change, const SItemPath &path)
 {
     if (!isThere(path)) {
-        return fail(Texts::tr("%1 is not there.").arg(nameOf(path)));
+        return fail(Texts::tr("%1 does not exist.").arg(nameOf(path)));
     }
     const SSnapshotEntry present = entryAt(path);
     SSnapshotEntry expected;
@@ -357,7 +357,7 @@ bool ConfigurationChanges::make(const SChange &change, CConfigurationItems &item
 {
     SItemPath path;
     if (!SItemPath::parse(change.path, path)) {
-        mismatches << Texts::tr("'%1' is no path.").arg(change.path);
+        mismatches << Texts::tr("'%1' is not a valid path.").arg(change.path);
         return false;
     }
     Maker maker(items, mismatches);

@@ -73,7 +73,7 @@ private:
             if (take(Escape)
                 && (m_index == m_path.size()
                     || (m_path.at(m_index) != KeyEnd && m_path.at(m_index) != Escape))) {
-                return fail(Texts::tr("only ']' and '\\' can stand behind a '\\'"));
+                return fail(Texts::tr("only ']' and '\\' can follow a '\\'"));
             }
             key += m_path.at(m_index);
             ++m_index;
@@ -91,7 +91,7 @@ private:
         bool isNumber = false;
         occurrence = text.toInt(&isNumber);
         if (!isNumber || occurrence < 2 || QString::number(occurrence) != text) {
-            return fail(Texts::tr("behind a key only a number from 2 on can stand in brackets"));
+            return fail(Texts::tr("after a key, brackets can only contain a number from 2 on"));
         }
         m_index = end + 1;
         return true;
@@ -110,7 +110,7 @@ private:
 
     bool fail(const QString &reason)
     {
-        m_errorText = Texts::tr("'%1' is no path: %2 at character %3")
+        m_errorText = Texts::tr("'%1' is not a valid path: %2 at character %3")
                           .arg(m_path, reason, QString::number(m_index + 1));
         return false;
     }

@@ -136,7 +136,7 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
     entry.projectPath = object.value(Key::PROJECT_PATH).toString();
     entry.sha256 = object.value(Key::SHA256).toString().toLatin1();
     if (!CDeviceManifest::isDevicePath(entry.devicePath)) {
-        errorText = Texts::tr("\"%1\" is no path on a device.").arg(entry.devicePath);
+        errorText = Texts::tr("\"%1\" is not a valid path on a device.").arg(entry.devicePath);
         return false;
     }
     if (!object.value(Key::PROJECT_PATH).isString()
@@ -146,12 +146,12 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
         return false;
     }
     if (!isSize(object.value(Key::SIZE))) {
-        errorText = Texts::tr("The size of \"%1\" is none.").arg(entry.devicePath);
+        errorText = Texts::tr("The size of \"%1\" is not valid.").arg(entry.devicePath);
         return false;
     }
     entry.size = static_cast<qint64>(object.value(Key::SIZE).toDouble());
     if (!isSum(object.value(Key::SHA256).toString())) {
-        errorText = Texts::tr("The sum of \"%1\" is none.").arg(entry.devicePath);
+        errorText = Texts::tr("The checksum of \"%1\" is not valid.").arg(entry.devicePath);
         return false;
     }
     return true;
@@ -161,7 +161,7 @@ bool readDirectory(const QJsonValue &value, QString &directory, QString &errorTe
 {
     directory = value.toString();
     if (!CDeviceManifest::isDevicePath(directory)) {
-        errorText = Texts::tr("\"%1\" is no path on a device.").arg(directory);
+        errorText = Texts::tr("\"%1\" is not a valid path on a device.").arg(directory);
         return false;
     }
     return true;
@@ -213,7 +213,7 @@ bool isTree(const QStringList &directories, const QList<CDeviceManifest::SEntry>
         const SNode &parent = nodes[i - 1];
         const QString &key = nodes[i].key;
         if (key == parent.key) {
-            errorText = Texts::tr("\"%1\" is there twice.").arg(parent.path());
+            errorText = Texts::tr("\"%1\" occurs more than once.").arg(parent.path());
             return false;
         }
         if (parent.isFile && key.startsWith(parent.key) && key.at(parent.key.size()).isNull()) {
@@ -227,18 +227,20 @@ bool isTree(const QStringList &directories, const QList<CDeviceManifest::SEntry>
 bool isHeader(const QJsonObject &root, QString &errorText)
 {
     if (root.value(Key::FORMAT) != format()) {
-        errorText = Texts::tr("This is no manifest of a device tree.");
+        errorText = Texts::tr("This is not a manifest of a device tree.");
         return false;
     }
     if (root.value(Key::VERSION) != Version) {
-        errorText = Texts::tr("This is a manifest of another version than %1.").arg(Version);
+        errorText =
+            Texts::tr("The version of the manifest is not supported; version %1 is required.")
+                .arg(Version);
         return false;
     }
     if (!hasKeys(root, {Key::FORMAT, Key::VERSION, Key::DIRECTORIES, Key::FILES}, errorText)) {
         return false;
     }
     if (!root.value(Key::DIRECTORIES).isArray() || !root.value(Key::FILES).isArray()) {
-        errorText = Texts::tr("The directories and the files are no lists.");
+        errorText = Texts::tr("The directories and the files must be lists.");
         return false;
     }
     return true;
@@ -298,7 +300,7 @@ bool CDeviceManifest::readJson(const QByteArray &json, QString &errorText)
     QJsonParseError error;
     const QJsonObject root = QJsonDocument::fromJson(json, &error).object();
     if (error.error != QJsonParseError::NoError) {
-        errorText = Texts::tr("This is no JSON: %1.").arg(error.errorString());
+        errorText = Texts::tr("This is not JSON: %1.").arg(error.errorString());
         return false;
     }
     if (!isHeader(root, errorText)) {
@@ -316,8 +318,8 @@ bool CDeviceManifest::readJson(const QByteArray &json, QString &errorText)
     read.setEntries(entries);
     // What is left: keys that appear twice, another order, other forms of numbers and texts.
     if (withoutSpaces(json) != withoutSpaces(read.toJson())) {
-        errorText = Texts::tr("The manifest has been changed: it is not in the form in which "
-                              "manifests are written.");
+        errorText = Texts::tr(
+            "The manifest was changed: it does not have the form in which manifests are written.");
         return false;
     }
     *this = read;
@@ -349,7 +351,7 @@ bool CDeviceManifest::measure(const QString &path, qint64 &size, QByteArray &sha
         return false;
     }
     if (!S_ISREG(status.st_mode)) {
-        errorText = Texts::tr("This is no regular file.");
+        errorText = Texts::tr("This is not a regular file.");
         return false;
     }
     QCryptographicHash hash(QCryptographicHash::Sha256);

@@ -30,12 +30,12 @@ bool CStagedTree::write(const CStagingPlan &plan, const STarget &target)
     m_wasCancelled = false;
     m_errorText.clear();
     if (!plan.problems().isEmpty() || plan.files().isEmpty()) {
-        m_errorText = plan.problems().isEmpty() ? Texts::tr("There is nothing to be made.")
+        m_errorText = plan.problems().isEmpty() ? Texts::tr("The plan contains no files.")
                                                 : plan.problems().constFirst().message;
         return false;
     }
     if (target.root.isEmpty() && target.archive.isEmpty()) {
-        m_errorText = Texts::tr("There is no place for the tree.");
+        m_errorText = Texts::tr("Neither a directory nor an archive is given.");
         return false;
     }
     TreeMaker maker(plan, m_progress);
@@ -86,7 +86,7 @@ bool CStagedTree::verify(const QString &path)
     }
     m_wasCancelled = comparison.isCancelled();
     if (m_wasCancelled) {
-        m_errorText = Texts::tr("It was cancelled.");
+        m_errorText = Texts::tr("The operation was cancelled.");
         return false;
     }
     m_differences = comparison.differences(isComplete);

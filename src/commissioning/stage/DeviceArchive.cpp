@@ -21,7 +21,7 @@ using StagedTreeTexts::Texts;
 QString reasonOf(archive *broken)
 {
     const char *const text = archive_error_string(broken);
-    return text != nullptr ? QString::fromUtf8(text) : Texts::tr("It ends too early.");
+    return text != nullptr ? QString::fromUtf8(text) : Texts::tr("The archive is truncated.");
 }
 
 std::unique_ptr<archive, int (*)(archive *)> reader()
@@ -42,7 +42,7 @@ bool isGzip(archive *read)
 
 QString noArchive()
 {
-    return Texts::tr("This is no tar archive that is compressed by gzip.");
+    return Texts::tr("This is not a tar archive compressed with gzip.");
 }
 
 } // namespace
@@ -209,7 +209,8 @@ bool ArchiveReader::read(const std::function<bool(const char *, int)> &take)
     }
     // Holes do not come as bytes: one may be of any size, and costs nothing in the archive.
     if (done != m_size) {
-        m_errorText = Texts::tr("%1 has holes, or ends too early.").arg(QString::fromUtf8(m_name));
+        m_errorText =
+            Texts::tr("%1 is a sparse file or is truncated.").arg(QString::fromUtf8(m_name));
         broken();
         return false;
     }
@@ -252,7 +253,7 @@ bool isWholeGzip(int fd, const std::function<bool()> &step, QString &errorText)
         || ::read(fd, trailer.data(), trailer.size()) != trailerSize
         || qFromLittleEndian<quint32>(trailer.data()) != crc
         || qFromLittleEndian<quint32>(trailer.data() + sizeof(quint32)) != length) {
-        errorText = Texts::tr("The check sum of the archive is wrong.");
+        errorText = Texts::tr("The checksum of the archive is wrong.");
         return false;
     }
     return true;

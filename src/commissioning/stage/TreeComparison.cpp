@@ -190,7 +190,7 @@ private:
     void addBroken(const QString &reason)
     {
         m_comparison.add(TreeComparison::EKind::BROKEN, QByteArray(),
-                         Texts::tr("The archive is broken: %1").arg(reason));
+                         Texts::tr("The archive is damaged: %1").arg(reason));
     }
 
     bool look()
@@ -206,8 +206,9 @@ private:
             return true;
         }
         if (!m_comparison.find(name)) {
-            m_comparison.add(TreeComparison::EKind::SURPLUS, name,
-                             Texts::tr("%1 is in the archive twice.").arg(QString::fromUtf8(name)));
+            m_comparison.add(
+                TreeComparison::EKind::SURPLUS, name,
+                Texts::tr("%1 occurs more than once in the archive.").arg(QString::fromUtf8(name)));
             return true;
         }
         const bool isDirectory = expected == TreeComparison::DIRECTORY;
@@ -319,16 +320,17 @@ void TreeComparison::addSurplus(const QByteArray &name)
 {
     const QString path = QString::fromUtf8(name);
     add(EKind::SURPLUS, name,
-        CDeviceManifest::isDevicePath(path) ? Texts::tr("%1 is not in the manifest.").arg(path)
-                                            : Texts::tr("\"%1\" cannot be on a device.").arg(path));
+        CDeviceManifest::isDevicePath(path)
+            ? Texts::tr("%1 is not in the manifest.").arg(path)
+            : Texts::tr("\"%1\" is not a valid path on a device.").arg(path));
 }
 
 void TreeComparison::addWrongKind(const QByteArray &name, EExpected should)
 {
     const QString path = QString::fromUtf8(name);
     add(EKind::WRONG_KIND, name,
-        should == DIRECTORY ? Texts::tr("%1 is no directory.").arg(path)
-                            : Texts::tr("%1 is no regular file.").arg(path));
+        should == DIRECTORY ? Texts::tr("%1 is not a directory.").arg(path)
+                            : Texts::tr("%1 is not a regular file.").arg(path));
 }
 
 void TreeComparison::addChanged(const QByteArray &name)
@@ -379,7 +381,7 @@ bool compareArchive(int fd, TreeComparison &comparison)
     const auto step = [&] { return comparison.step(0); };
     if (!isWholeGzip(fd, step, errorText) && !comparison.isCancelled()) {
         comparison.add(TreeComparison::EKind::BROKEN, QByteArray(),
-                       Texts::tr("The archive is broken: %1").arg(errorText));
+                       Texts::tr("The archive is damaged: %1").arg(errorText));
     }
     return true;
 }
@@ -393,7 +395,7 @@ bool readTreeManifest(int root, CDeviceManifest &manifest, QString &errorText)
         return false;
     }
     if (!S_ISREG(status.st_mode)) {
-        errorText = noManifest(Texts::tr("This is no regular file."));
+        errorText = noManifest(Texts::tr("This is not a regular file."));
         return false;
     }
     if (status.st_size > CDeviceManifest::maximumSize()) {
@@ -429,12 +431,11 @@ bool readArchiveManifest(int fd, CDeviceManifest &manifest, bool &isBroken, QStr
         const ArchiveReader::EStep step = reader.next();
         if (step == ArchiveReader::BROKEN) {
             isBroken = true;
-            errorText = Texts::tr("The archive is broken: %1").arg(reader.errorText());
+            errorText = Texts::tr("The archive is damaged: %1").arg(reader.errorText());
             return false;
         }
         if (step == ArchiveReader::END) {
-            errorText =
-                Texts::tr("There is no %1 in the archive.").arg(CDeviceManifest::fileName());
+            errorText = Texts::tr("%1 is missing in the archive.").arg(CDeviceManifest::fileName());
             return false;
         }
         if (reader.name() == manifestName()) {
@@ -443,7 +444,7 @@ bool readArchiveManifest(int fd, CDeviceManifest &manifest, bool &isBroken, QStr
     }
     if (reader.kind() != ArchiveReader::FILE || reader.size() > CDeviceManifest::maximumSize()) {
         errorText = noManifest(reader.kind() != ArchiveReader::FILE
-                                   ? Texts::tr("This is no regular file.")
+                                   ? Texts::tr("This is not a regular file.")
                                    : FileStorage::tooLarge(CDeviceManifest::maximumSize()));
         return false;
     }
@@ -454,7 +455,7 @@ bool readArchiveManifest(int fd, CDeviceManifest &manifest, bool &isBroken, QStr
     });
     if (!isRead) {
         isBroken = true;
-        errorText = Texts::tr("The archive is broken: %1").arg(reader.errorText());
+        errorText = Texts::tr("The archive is damaged: %1").arg(reader.errorText());
         return false;
     }
     QString reason;

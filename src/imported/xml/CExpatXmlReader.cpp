@@ -58,7 +58,7 @@ Utf16 utf16Of(const QByteArray &bytes)
     return Utf16::No;
 }
 
-/** The text in UTF-8, up to the first unit that is none; @p complete tells whether that is all. */
+/** The text in UTF-8, up to the first invalid unit; @p complete is set to whether that is all. */
 QByteArray fromUtf16(const QByteArray &bytes, Utf16 order, bool &complete)
 {
     QString text(bytes.size() / 2, Qt::Uninitialized);
@@ -127,14 +127,14 @@ struct SOpenElement {
     QDomElement element;
     int children = 0;
     bool hasChildElements = false;
-    /** It holds text that is not blank: from then on blanks are text, too. */
+    /** It contains text other than white space: from then on white space is text, too. */
     bool holdsText = false;
-    // Where its own blanks begin among all that wait.
+    // Where its own white space begins among all that waits.
     size_t firstBlank;
     int firstBlankByte;
 };
 
-/** Blank text before the child `index`; whether it is layout is not known yet. */
+/** White space before the child `index`; whether it is layout is not known yet. */
 struct SBlank {
     int index;
     int size;
@@ -170,7 +170,7 @@ public:
             return false;
         }
         if (!complete) {
-            error = {endOf(m_bytes), tr("This is no valid UTF-16 text.")};
+            error = {endOf(m_bytes), tr("This is not valid UTF-16 text.")};
             return false;
         }
         document = m_document;
@@ -242,13 +242,13 @@ private:
         switch (code) {
         case XML_ERROR_NO_ELEMENTS:
             return m_open.empty()
-                ? tr("The document holds no element.")
+                ? tr("The document contains no element.")
                 : tr("The document ends before the element '%1' is closed.").arg(currentName());
         case XML_ERROR_INVALID_TOKEN:
         case XML_ERROR_SYNTAX:
-            return tr("This character cannot stand here.");
+            return tr("This character is not allowed here.");
         case XML_ERROR_UNCLOSED_TOKEN:
-            return tr("What begins here is not closed before the document ends.");
+            return tr("The markup that begins here is not closed before the document ends.");
         case XML_ERROR_UNCLOSED_CDATA_SECTION:
             return tr("The CDATA section is not closed.");
         case XML_ERROR_PARTIAL_CHAR:
@@ -258,19 +258,19 @@ private:
         case XML_ERROR_DUPLICATE_ATTRIBUTE:
             return tr("The element has two attributes of this name.");
         case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
-            return tr("There is something behind the root element.");
+            return tr("The root element is followed by further content.");
         case XML_ERROR_UNDEFINED_ENTITY:
             return tr("The entity is not declared.");
         case XML_ERROR_BAD_CHAR_REF:
-            return tr("The reference is to a character that XML cannot carry.");
+            return tr("The reference is to a character that XML does not allow.");
         case XML_ERROR_MISPLACED_XML_PI:
-            return tr("The XML declaration must stand at the very beginning.");
+            return tr("The XML declaration must be at the very beginning.");
         case XML_ERROR_UNKNOWN_ENCODING:
-            return tr("The encoding is not known.");
+            return tr("The encoding is unknown.");
         case XML_ERROR_INCORRECT_ENCODING:
             return tr("The document is not in the encoding that it declares.");
         case XML_ERROR_XML_DECL:
-            return tr("The XML declaration is not well-formed.");
+            return tr("The XML declaration is malformed.");
         case XML_ERROR_NO_MEMORY:
             return XmlText::outOfMemory();
         default:
@@ -281,7 +281,7 @@ private:
     void takeDeclaration(const XML_Char *version, const XML_Char *encoding, int)
     {
         if (version != nullptr && qstrcmp(version, "1.0") != 0) {
-            refuse(tr("The XML version '%1' is not known.").arg(QString::fromUtf8(version)));
+            refuse(tr("The XML version '%1' is unknown.").arg(QString::fromUtf8(version)));
         } else if (encoding != nullptr
                    && !QByteArray(encoding).toLower().startsWith(m_markedEncoding)) {
             refuse(tr("The document is not in the encoding that it declares."));
@@ -292,7 +292,7 @@ private:
                           int hasInternalSubset)
     {
         if (hasInternalSubset != 0) {
-            refuse(tr("A document type declaration with declarations of its own is not allowed."));
+            refuse(tr("A document type declaration with an internal subset is not allowed."));
             return;
         }
         m_hasExternalSubset = systemId != nullptr;
@@ -433,7 +433,7 @@ private:
         return node;
     }
 
-    /** From here on the element's blanks are text. */
+    /** From here on the element's white space is text. */
     void holdText()
     {
         SOpenElement &open = m_open.back();

@@ -49,7 +49,8 @@ private:
 
     static bool isInstruction(const QDomNode &node)
     {
-        // The XML declaration is a processing instruction in a QDomDocument; it is written anew.
+        // The XML declaration is a processing instruction in a QDomDocument; the writer writes its
+        // own.
         return node.isProcessingInstruction() && node.nodeName() != QLatin1String("xml");
     }
 
@@ -221,14 +222,14 @@ private:
         checkCharacters(value, node.parentNode());
         if (node.isComment()) {
             if (value.contains(QLatin1String("--")) || value.endsWith(QLatin1Char('-'))) {
-                fail(tr("A comment holds '--' or ends in '-', which XML cannot carry."));
+                fail(tr("A comment contains '--' or ends with '-', which XML does not allow."));
             }
             m_chunk += "<!--";
             append(value.toUtf8());
             m_chunk += "-->";
         } else if (node.isProcessingInstruction()) {
             if (value.contains(QLatin1String("?>"))) {
-                fail(tr("A processing instruction holds '?>', which XML cannot carry."));
+                fail(tr("A processing instruction contains '?>', which XML does not allow."));
             }
             m_chunk += "<?";
             append(nameOf(node.nodeName()));
@@ -308,7 +309,7 @@ private:
             if (name.size() > m_limits.nameLength) {
                 fail(tr("A name has more than %1 characters.").arg(m_limits.nameLength));
             } else if (!XmlText::isName(name)) {
-                fail(tr("'%1' cannot be the name of an element or attribute.").arg(name));
+                fail(tr("'%1' is not a valid name of an element or attribute.").arg(name));
             }
         }
         return utf8;
@@ -319,7 +320,7 @@ private:
         const int illegal = XmlCharacters::indexOfIllegal(value);
         if (illegal >= 0) {
             const QString code = QString::number(value.at(illegal).unicode(), 16).toUpper();
-            fail(tr("The element '%1' holds the character U+%2, which XML cannot carry.")
+            fail(tr("The element '%1' contains the character U+%2, which XML does not allow.")
                      .arg(element.nodeName(), code.rightJustified(4, QLatin1Char('0'))));
         }
     }

@@ -3,7 +3,7 @@
 #include "imported/xml/IXmlWriter.h"
 
 /**
- * Writes UTF-8 with an XML declaration, one element a line, indented by one blank a level.
+ * Writes UTF-8 with an XML declaration, one element a line, indented by one space per level.
  * Attributes stand in the order of their names. An element with text is written on one line, with
  * its text exactly as it is.
  */

@@ -86,10 +86,10 @@ public:
                  QString &errorText) const
     {
         if (document.documentElement().isNull()) {
-            return fail(origin, tr("There is no document to save."), errorText);
+            return fail(origin, tr("The file object has no document to save."), errorText);
         }
         if (!XmlText::isName(rootName)) {
-            return fail(origin, tr("'%1' cannot be a document type.").arg(rootName), errorText);
+            return fail(origin, tr("'%1' is not a valid document type.").arg(rootName), errorText);
         }
         QString reason;
         return writer->write(document, rootName, limits, bytes, reason)
@@ -224,7 +224,7 @@ ICLogfile *CXmlAbstractVornFile::logfile() const
 
 QDomDocument CXmlAbstractVornFile::domDocument() const
 {
-    // Whoever holds a handle may have removed the root: what is left is no document.
+    // Whoever holds a handle may have removed the root: what is left is not a document.
     return d->document.documentElement().isNull() ? QDomDocument() : d->document;
 }
 

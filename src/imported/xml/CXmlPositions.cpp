@@ -2,7 +2,7 @@
 
 namespace {
 
-/** QDom tells whether two handles are for one node, but not which one that is. */
+/** QDom shows whether two handles are for one node, but not which node that is. */
 class Handle : public QDomNode
 {
 public:

@@ -25,8 +25,8 @@ public:
 
     /**
      * Reads one complete document. Text of elements that hold no child elements is kept exactly;
-     * blank text between elements is layout and is dropped.
-     * @param positions is told where each element stands; may be null, which is faster
+     * white space between elements is layout and is dropped.
+     * @param positions receives the position of each element; may be null, which is faster
      * @return false, with @p error filled and @p document empty, when the bytes are refused
      */
     virtual bool read(const QByteArray &bytes, const SXmlLimits &limits, QDomDocument &document,

@@ -16,7 +16,7 @@ QString outOfMemory();
 QString fromUtf8(const char *utf8, int size);
 
 /**
- * Whether the element's own text says something. Blank text beside child elements does not: it only
+ * Whether the element's own text has a meaning. White space beside child elements has none: it only
  * indents them, unless there is other text between them as well.
  */
 bool holdsText(const QDomElement &element);

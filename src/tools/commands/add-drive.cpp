@@ -30,7 +30,7 @@ void describe(CommandLine &line)
     line.addOption(TypeOption, Texts::tr("Series of the drive."), QStringLiteral("TYPE"),
                    DriveTypes::all());
     line.addOption(NameOption,
-                   Texts::tr("Name of the drive; by default made from its drive number."),
+                   Texts::tr("Name of the drive; by default derived from its drive number."),
                    QStringLiteral("NAME"));
     line.addOption(IdOption, Texts::tr("Drive number 0 to 254; by default the next free one."),
                    QStringLiteral("NUMBER"));

@@ -8,9 +8,8 @@ void describe(CommandLine &line)
                      Texts::tr("The configuration to change; - filters standard input."));
     line.addArguments(
         QStringLiteral("PATH"),
-        Texts::tr("The entry to add, as drive[3] or files[a.xml]. Pairs of a path and "
-                  "a value may follow, which are then set; all of it is done, or "
-                  "nothing."));
+        Texts::tr("The entry to add, such as drive[3] or files[a.xml]. Pairs of a path and a value "
+                  "may follow, which are then set. Either all changes are made or none."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco 'drive[3]' 'drive[3].name' Gripper"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco 'device.options[-trace]'"));
 }
@@ -41,7 +40,7 @@ int run(const CommandLine &line)
 const CommandRegistration Registration(
     "add",
     QT_TRANSLATE_NOOP("vrndevice",
-                      "Add an entry to a list: a drive, a file, a plug-in, an option."),
+                      "Add an entry to a list: a drive, a file, a plug-in or an option."),
     describe, run);
 
 } // namespace

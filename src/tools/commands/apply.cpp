@@ -14,10 +14,10 @@ void describe(CommandLine &line)
 {
     line.addArgument(
         QStringLiteral("PATCH"),
-        Texts::tr("The changes to make, as 'diff --json' prints them; - is standard input."));
+        Texts::tr("The patch to apply, as 'diff --json' prints it; - is standard input."));
     line.addArgument(QStringLiteral("FILE"),
                      Texts::tr("The configuration to change; - is standard input."));
-    line.addOption(CheckOption, Texts::tr("Only tell whether the changes can be made."));
+    line.addOption(CheckOption, Texts::tr("Only check whether the patch can be applied."));
     line.addOption(QLatin1Char('o'), OutputOption,
                    Texts::tr("Save the changed configuration as another file; - is standard "
                              "output."),
@@ -61,13 +61,15 @@ int run(const CommandLine &line)
     const QString output = line.isSet(OutputOption) ? line.value(OutputOption) : path;
     const bool isCheck = line.isSet(CheckOption);
     if (isStandardStream(line.argument(0)) && isStandardStream(path)) {
-        return line.badUsage(Texts::tr("Only one of the two can be standard input."));
+        return line.badUsage(Texts::tr("Only one file can be standard input."));
     }
     if (isCheck && line.isSet(OutputOption)) {
-        return line.badUsage(Texts::tr("With --check nothing is saved: --output makes no sense."));
+        return line.badUsage(
+            Texts::tr("--check saves nothing and cannot be combined with --output."));
     }
     if (!isCheck && line.wantsJson() && isStandardStream(output)) {
-        return line.badUsage(Texts::tr("Both the configuration and --json would be printed."));
+        return line.badUsage(
+            Texts::tr("The configuration and --json cannot both be printed to standard output."));
     }
     CConfigurationPatch patch;
     CDeviceConfigurationFile10 file(nullptr);
@@ -89,9 +91,8 @@ int run(const CommandLine &line)
     return isDone ? written : EXIT_NOT_DONE;
 }
 
-const CommandRegistration Registration(
-    "apply",
-    QT_TRANSLATE_NOOP("vrndevice", "Make the changes that 'diff --json' told in a configuration."),
-    describe, run);
+const CommandRegistration
+    Registration("apply", QT_TRANSLATE_NOOP("vrndevice", "Apply a patch written by 'diff --json'."),
+                 describe, run);
 
 } // namespace

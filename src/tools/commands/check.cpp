@@ -99,7 +99,7 @@ void describe(CommandLine &line)
 {
     line.addArguments(QStringLiteral("FILE"), Texts::tr("A configuration to check."));
     CheckedConfiguration::describeProject(line);
-    line.addOption(StrictOption, Texts::tr("Fail for warnings, too."));
+    line.addOption(StrictOption, Texts::tr("Also fail for warnings."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --project . --strict"));
     line.addExample(QStringLiteral("*/DeviceConfiguration.3deco --json"));
@@ -157,7 +157,8 @@ int run(const CommandLine &line)
 }
 
 const CommandRegistration Registration(
-    "check", QT_TRANSLATE_NOOP("vrndevice", "Find everything that is wrong with a configuration."),
+    "check",
+    QT_TRANSLATE_NOOP("vrndevice", "Report everything that is wrong with a configuration."),
     describe, run);
 
 } // namespace

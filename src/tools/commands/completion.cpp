@@ -297,7 +297,10 @@ QString zshAction(const SOffer &offer)
     return action.isEmpty() ? QStringLiteral(" ") : action;
 }
 
-/** What _arguments is told of an option; it can be given again, and so it is offered again. */
+/**
+ * The description of an option for _arguments; an option can be given again, and so it is offered
+ * again.
+ */
 QStringList zshSpecifications(const SOption &option)
 {
     QStringList result;
@@ -402,7 +405,7 @@ QString fishQuoted(const QString &text)
     return QStringLiteral("'%1'").arg(inner);
 }
 
-/** The options of "complete" that tell what is offered. */
+/** The options of "complete" that define what is offered. */
 QString fishAction(const SOffer &offer, bool isValue)
 {
     QStringList offers = offer.words;
@@ -514,9 +517,9 @@ int run(const CommandLine &line)
     return out.finish();
 }
 
-const CommandRegistration Registration(
-    "completion",
-    QT_TRANSLATE_NOOP("vrndevice", "Print a script by which a shell completes command lines."),
-    describe, run);
+const CommandRegistration Registration("completion",
+                                       QT_TRANSLATE_NOOP("vrndevice",
+                                                         "Print a completion script for a shell."),
+                                       describe, run);
 
 } // namespace

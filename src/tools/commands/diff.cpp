@@ -18,7 +18,7 @@ void describe(CommandLine &line)
 int run(const CommandLine &line)
 {
     if (isStandardStream(line.argument(0)) && isStandardStream(line.argument(1))) {
-        return line.badUsage(Texts::tr("Only one of the two can be standard input."));
+        return line.badUsage(Texts::tr("Only one file can be standard input."));
     }
     CDeviceConfigurationFile10 before(nullptr);
     CDeviceConfigurationFile10 after(nullptr);
@@ -42,7 +42,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration
     Registration("diff",
-                 QT_TRANSLATE_NOOP("vrndevice", "Tell what differs between two configurations."),
+                 QT_TRANSLATE_NOOP("vrndevice", "Show the differences between two configurations."),
                  describe, run);
 
 } // namespace

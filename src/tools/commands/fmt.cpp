@@ -78,9 +78,10 @@ void describe(CommandLine &line)
 {
     line.addArguments(QStringLiteral("FILE"),
                       Texts::tr("The configurations to format; - filters standard input."));
-    line.addOption(CheckOption,
-                   Texts::tr("Write nothing, but list the files that would change, and end with 1 "
-                             "when there are any."));
+    line.addOption(
+        CheckOption,
+        Texts::tr(
+            "Write nothing; list the files that would change, and end with 1 if there are any."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
     line.addExample(QStringLiteral("--check line-1.3deco line-2.3deco"));
 }
@@ -92,7 +93,7 @@ int run(const CommandLine &line)
     const bool isFilter = !isCheck && std::any_of(paths.cbegin(), paths.cend(), isStandardStream);
     if (isFilter && (paths.size() > 1 || line.wantsJson())) {
         return line.badUsage(
-            Texts::tr("Standard output takes one document, without other files and --json."));
+            Texts::tr("Standard input cannot be combined with other files or --json."));
     }
     QList<SFormatted> files;
     for (const QString &path : paths) {

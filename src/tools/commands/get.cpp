@@ -7,8 +7,8 @@ void describe(CommandLine &line)
 {
     line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to read."));
     line.addOptionalArgument(QStringLiteral("PATH"),
-                             Texts::tr("What to print: one item, or whatever items have in common, "
-                                       "as device, files or drive[0]; by default everything."));
+                             Texts::tr("What to print: one item, or all items of a path such as "
+                                       "device, files or drive[0]; by default everything."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco device.name"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco 'drive[2]'"));
 }

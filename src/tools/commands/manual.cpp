@@ -4,7 +4,7 @@
 
 #include <QCoreApplication>
 
-// The manual page in the language of man(7). Everything that it tells about commands comes from the
+// The manual page in the language of man(7). Everything that it says about commands comes from the
 // table of which the help is made, too.
 
 namespace {
@@ -166,11 +166,11 @@ QList<STerm> environment()
 {
     return {
         {"LANGUAGE",
-         Texts::tr("The languages in which messages are wanted, the preferred one "
-                   "first, separated by colons; it counts unless the locale is C.")},
+         Texts::tr("The preferred languages of messages, separated by colons; not used in the "
+                   "locale C.")},
         {"LC_ALL, LC_MESSAGES, LANG",
-         Texts::tr("The locale: the first of them that is set. In a language for which there is no "
-                   "catalogue, and in the locale C, all texts are English. Numbers and dates are "
+         Texts::tr("The locale: the first variable that is set. In a language without a "
+                   "catalogue and in the locale C, all texts are English. Numbers and dates are "
                    "the same in every locale.")},
         {"NO_COLOR", Texts::tr("If it is set and not empty, nothing is printed in colour.")},
     };
@@ -182,11 +182,12 @@ QList<STerm> files()
         {"DeviceConfiguration.3deco",
          Texts::tr("A configuration: the device, its drives and "
                    "plug-ins, and all files that belong to it.")},
-        {"settings.3conf", Texts::tr("The names that a device and its drives were given.")},
+        {"settings.3conf", Texts::tr("The names of a device and its drives.")},
         {"network.conf", Texts::tr("The Ethernet settings of a device.")},
-        {"os-release", Texts::tr("What the operating system of a device is made of.")},
+        {"os-release", Texts::tr("The product and the versions of a device's operating system.")},
         {"../share/vrnDeviceCore/translations",
-         Texts::tr("The catalogues of translated texts, as seen from the program.")},
+         Texts::tr(
+             "The catalogues of translated texts, relative to the directory of the program.")},
     };
 }
 
@@ -281,7 +282,7 @@ int run(const CommandLine & /*line*/)
 
 const CommandRegistration
     Registration("manual",
-                 QT_TRANSLATE_NOOP("vrndevice", "Print the manual page, as man(1) reads it."),
+                 QT_TRANSLATE_NOOP("vrndevice", "Print the manual page in the format of man(1)."),
                  describe, run);
 
 } // namespace

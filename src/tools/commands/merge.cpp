@@ -15,9 +15,11 @@ void describe(CommandLine &line)
 {
     line.addArgument(QStringLiteral("BASE"),
                      Texts::tr("The configuration that both sides started from."));
-    line.addArgument(QStringLiteral("OURS"),
-                     Texts::tr("What one side made of it; the result replaces it."));
-    line.addArgument(QStringLiteral("THEIRS"), Texts::tr("What the other side made of it."));
+    line.addArgument(
+        QStringLiteral("OURS"),
+        Texts::tr("The configuration with the changes of one side; the result replaces it."));
+    line.addArgument(QStringLiteral("THEIRS"),
+                     Texts::tr("The configuration with the changes of the other side."));
     line.addOption(QLatin1Char('o'), OutputOption,
                    Texts::tr("Save the result as another file; - is standard output."),
                    QStringLiteral("OUT"));
@@ -79,12 +81,13 @@ int run(const CommandLine &line)
 {
     const QStringList paths = line.arguments(0);
     if (std::count_if(paths.begin(), paths.end(), isStandardStream) > 1) {
-        return line.badUsage(Texts::tr("Only one of the three can be standard input."));
+        return line.badUsage(Texts::tr("Only one file can be standard input."));
     }
     const QString oursPath = line.argument(1);
     const QString output = line.isSet(OutputOption) ? line.value(OutputOption) : oursPath;
     if (line.wantsJson() && isStandardStream(output)) {
-        return line.badUsage(Texts::tr("Both the configuration and --json would be printed."));
+        return line.badUsage(
+            Texts::tr("The configuration and --json cannot both be printed to standard output."));
     }
     CDeviceConfigurationFile10 base(nullptr);
     CDeviceConfigurationFile10 ours(nullptr);
@@ -117,9 +120,9 @@ int run(const CommandLine &line)
     return conflicts.isEmpty() ? written : int(EXIT_FINDINGS);
 }
 
-const CommandRegistration Registration(
-    "merge",
-    QT_TRANSLATE_NOOP("vrndevice", "Bring together what two people changed in a configuration."),
-    describe, run);
+const CommandRegistration
+    Registration("merge",
+                 QT_TRANSLATE_NOOP("vrndevice", "Merge two changed versions of a configuration."),
+                 describe, run);
 
 } // namespace

@@ -35,7 +35,7 @@ int run(const CommandLine &line)
         bool isCode = false;
         codes.append(toCode(text, isCode));
         if (!isCode) {
-            return line.badUsage(Texts::tr("'%1' is no code.").arg(text));
+            return line.badUsage(Texts::tr("'%1' is not a valid code.").arg(text));
         }
     }
     Output out;
@@ -43,7 +43,10 @@ int run(const CommandLine &line)
     QStringList errors;
     for (const int code : codes) {
         if (!CDeviceSystemMessage::isSystemMessage(code)) {
-            errors.append(Texts::tr("%1 is no system message: they are 1024 to 1151.").arg(code));
+            errors.append(
+                Texts::tr(
+                    "%1 is not the code of a system message; write a number from 1024 to 1151.")
+                    .arg(code));
             continue;
         }
         QString message;
@@ -68,7 +71,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration
     Registration("message",
-                 QT_TRANSLATE_NOOP("vrndevice", "Tell what system messages of a device mean."),
+                 QT_TRANSLATE_NOOP("vrndevice", "Show the meaning of system messages of a device."),
                  describe, run);
 
 } // namespace

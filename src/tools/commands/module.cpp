@@ -6,7 +6,7 @@
 
 namespace {
 
-/** One part of a name: who knows whether a text is one, and what to say when it is none. */
+/** One part of a name: how to check a text, and the message for an invalid one. */
 struct SPart {
     bool (COptionModuleFileName::*set)(const QString &);
     QString missing;
@@ -18,17 +18,17 @@ QList<SPart> parts()
 {
     using Name = COptionModuleFileName;
     return {
-        {&Name::setSlot, Texts::tr("The slot is missing: OM and a number, such as OM1."),
-         Texts::tr("'%1' is no slot: OM and a number, such as OM1.")},
+        {&Name::setSlot, Texts::tr("The slot is missing; write OM and a number, such as OM1."),
+         Texts::tr("'%1' is not a valid slot; write OM and a number, such as OM1.")},
         {&Name::setInterface,
-         Texts::tr("The interface is missing: two letters or more, such as EC."),
-         Texts::tr("'%1' is no interface: two letters or more, such as EC.")},
+         Texts::tr("The interface is missing; write two letters or more, such as EC."),
+         Texts::tr("'%1' is not a valid interface; write two letters or more, such as EC.")},
         {&Name::setHardwareVersion,
-         Texts::tr("The hardware version is missing: H and a number, such as H2."),
-         Texts::tr("'%1' is no hardware version: H and a number, such as H2.")},
+         Texts::tr("The hardware version is missing; write H and a number, such as H2."),
+         Texts::tr("'%1' is not a valid hardware version; write H and a number, such as H2.")},
         {&Name::setSoftwareVersion,
-         Texts::tr("The software version is missing: V and two numbers, such as V1_3."),
-         Texts::tr("'%1' is no software version: V and two numbers, such as V1_3.")},
+         Texts::tr("The software version is missing; write V and two numbers, such as V1_3."),
+         Texts::tr("'%1' is not a valid software version; write V and two numbers, such as V1_3.")},
     };
 }
 
@@ -58,9 +58,8 @@ QString reasonAgainst(const QString &path)
         return Texts::tr("The suffix is missing, such as .%1.")
             .arg(COptionModuleFileName::standardSuffix());
     }
-    return Texts::tr(
-        "Behind the versions there may be '_' and a text, and then '.' and a suffix, both of "
-        "letters, digits and '_'.");
+    return Texts::tr("After the versions only '_' and a text may follow, then '.' and a suffix; "
+                     "text and suffix consist of letters, digits and '_'.");
 }
 
 QJsonObject toJson(const COptionModuleFileName &name)
@@ -88,8 +87,8 @@ QStringList toRow(const COptionModuleFileName &name)
 void describe(CommandLine &line)
 {
     line.addArguments(QStringLiteral("NAME"),
-                      Texts::tr("File name of option-module firmware, also with directories; "
-                                "the file need not be there."));
+                      Texts::tr("File name of option-module firmware, with or without directories; "
+                                "the file does not have to exist."));
     line.setFileNames({QStringLiteral("OM*")});
     line.addExample(QStringLiteral("OM1_EC_H2_V1_3.bin"));
 }
@@ -127,9 +126,9 @@ int run(const CommandLine &line)
     return errors.isEmpty() ? exitCode : EXIT_NOT_DONE;
 }
 
-const CommandRegistration Registration(
-    "module",
-    QT_TRANSLATE_NOOP("vrndevice", "Tell what a firmware file for an option module is for."),
-    describe, run);
+const CommandRegistration
+    Registration("module",
+                 QT_TRANSLATE_NOOP("vrndevice", "Show which option module a firmware file is for."),
+                 describe, run);
 
 } // namespace

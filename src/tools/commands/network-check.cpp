@@ -43,9 +43,8 @@ int run(const CommandLine &line)
     return findings.isEmpty() ? exitCode : EXIT_NOT_DONE;
 }
 
-const CommandRegistration Registration("network check",
-                                       QT_TRANSLATE_NOOP("vrndevice",
-                                                         "Find what is wrong with a network.conf."),
-                                       describe, run);
+const CommandRegistration
+    Registration("network check",
+                 QT_TRANSLATE_NOOP("vrndevice", "Report errors in a network.conf."), describe, run);
 
 } // namespace

@@ -40,8 +40,8 @@ bool reportLosses(const QString &path, const QList<Check::SFinding> &findings)
         }
     }
     if (found) {
-        printError(
-            Texts::tr("%1: These lines would be lost. Correct or remove them first.").arg(path));
+        printError(Texts::tr("%1: The reported lines would be lost. Correct or remove them first.")
+                       .arg(path));
     }
     return found;
 }
@@ -62,7 +62,7 @@ void describe(CommandLine &line)
     line.setFileNames({QStringLiteral("network.conf")});
     line.addArguments(QStringLiteral("KEY=VALUE"),
                       Texts::tr("A key of the file and its new value."));
-    line.addOption(CreateOption, Texts::tr("Start from the defaults if there is no such file."));
+    line.addOption(CreateOption, Texts::tr("Start from the defaults if the file does not exist."));
     line.addExample(QStringLiteral("network.conf MODE=STATIC ADDRESS=192.168.1.10"));
 }
 
@@ -73,7 +73,8 @@ int run(const CommandLine &line)
         const QString key = assignment.section(QLatin1Char('='), 0, 0);
         const QString problem = Check::problem(key, assignment.section(QLatin1Char('='), 1));
         if (!assignment.contains(QLatin1Char('='))) {
-            return line.badUsage(Texts::tr("'%1' is not KEY=VALUE.").arg(assignment));
+            return line.badUsage(
+                Texts::tr("'%1' does not have the form KEY=VALUE.").arg(assignment));
         }
         if (!problem.isEmpty()) {
             return line.badUsage(QStringLiteral("%1: %2").arg(key, problem));

@@ -72,14 +72,16 @@ bool openTemplate(const QString &nameOrPath, CDeviceConfigurationFile10 &file)
         }
     }
     if (!isStandardStream(nameOrPath) && !QFileInfo::exists(nameOrPath)) {
-        printError(Texts::tr("There is no template '%1', and no such file. Built in are: %2.")
-                       .arg(nameOrPath, templateNames().join(QStringLiteral(", "))));
+        printError(
+            Texts::tr(
+                "'%1' is neither a built-in template nor a file. The built-in templates are: %2.")
+                .arg(nameOrPath, templateNames().join(QStringLiteral(", "))));
         return false;
     }
     return openConfiguration(nameOrPath, file);
 }
 
-/** As above, and refuses one without device or, if a class is asked for, of another class. */
+/** Reads a template, and refuses one without device or, if a class is given, of another class. */
 int openTemplateOfClass(const QString &nameOrPath, NDeviceConf::EDeviceClass deviceClass,
                         CDeviceConfigurationFile10 &file)
 {
@@ -118,7 +120,7 @@ void adaptProjectDirectories(CDeviceConfigurationFile10 &file, const QString &ol
                              const QString &newName)
 {
     using namespace NVornXmlTags;
-    // Collected first: the list that QDom gives is made anew after each change of the document.
+    // Collected first: QDom rebuilds its list after each change of the document.
     const QDomNodeList found = file.findDeviceElement().elementsByTagName(TAG_PROJECT_DIR);
     QList<QDomElement> directories;
     for (int i = 0; i < found.size(); ++i) {
@@ -174,17 +176,18 @@ bool createDevice(CDeviceConfigurationFile10 &file, NDeviceConf::EDeviceClass de
 
 void describe(CommandLine &line)
 {
-    line.addOptionalArgument(QStringLiteral("FILE"),
-                             Texts::tr("The configuration to create; - prints it. Needed except "
-                                       "for --list-templates."));
+    line.addOptionalArgument(
+        QStringLiteral("FILE"),
+        Texts::tr(
+            "The configuration to create; - prints it. Required except with --list-templates."));
     line.addOption(ClassOption,
-                   Texts::tr("Class of the device: kc2 or kd3. Not needed with a template."),
+                   Texts::tr("Class of the device: kc2 or kd3. Not required with a template."),
                    QStringLiteral("CLASS"), {QStringLiteral("kc2"), QStringLiteral("kd3")});
     line.addOption(NameOption, Texts::tr("Name of the device."), QStringLiteral("NAME"));
-    line.addOption(TemplateOption,
-                   Texts::tr("What to begin with: the name of a built-in template, or the file of "
-                             "a configuration."),
-                   QStringLiteral("TEMPLATE"), templateNames());
+    line.addOption(
+        TemplateOption,
+        Texts::tr("The template: the name of a built-in one, or the file of a configuration."),
+        QStringLiteral("TEMPLATE"), templateNames());
     line.setFileNames({QStringLiteral("*.3deco")});
     line.addOption(ListTemplatesOption, Texts::tr("Print the built-in templates."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --class kd3 --name Wrapper"));
@@ -214,10 +217,10 @@ int run(const CommandLine &line)
     }
     if (isStandardStream(path) && line.wantsJson()) {
         return line.badUsage(
-            Texts::tr("--json cannot be had together with the document on standard output."));
+            Texts::tr("--json cannot be combined with the document on standard output."));
     }
     if (!isStandardStream(path) && QFileInfo::exists(path)) {
-        printError(Texts::tr("%1 exists already and is left as it is.").arg(path));
+        printError(Texts::tr("%1 already exists and is not changed.").arg(path));
         return EXIT_NOT_DONE;
     }
 

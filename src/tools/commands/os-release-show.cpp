@@ -58,7 +58,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration Registration(
     "os-release show",
-    QT_TRANSLATE_NOOP("vrndevice", "Show what the operating system of a device is made of."),
+    QT_TRANSLATE_NOOP("vrndevice", "Show product and versions of a device's operating system."),
     describe, run);
 
 } // namespace

@@ -9,8 +9,8 @@ void describe(CommandLine &line)
     line.addArgument(QStringLiteral("FILE"),
                      Texts::tr("The configuration to change; - filters standard input."));
     line.addArguments(QStringLiteral("PATH"),
-                      Texts::tr("What to remove: entries of lists, single files, items. All of "
-                                "them are removed, or none."));
+                      Texts::tr("What to remove: list entries, single files or items. Either all "
+                                "are removed or none."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco 'drive[2]' 'files[recipes.csv]'"));
 }
 

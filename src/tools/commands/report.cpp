@@ -22,10 +22,10 @@ int count(const QList<SConfigurationFinding> &findings, SConfigurationFinding::E
 void describe(CommandLine &line)
 {
     line.addArgument(QStringLiteral("FILE"),
-                     Texts::tr("The configuration to report on. What is wrong with it stands in "
-                               "the page and does not make the command fail."));
+                     Texts::tr("The configuration to report on. The page shows its findings, which "
+                               "do not make the command fail."));
     line.addOption(QLatin1Char('o'), OutputOption,
-                   Texts::tr("Where to write the page; standard output by default."),
+                   Texts::tr("The file to write; by default standard output."),
                    QStringLiteral("OUT.html"));
     CheckedConfiguration::describeProject(line);
     line.addExample(QStringLiteral("DeviceConfiguration.3deco -o report.html"));
@@ -37,10 +37,10 @@ int run(const CommandLine &line)
     const QString path = line.value(OutputOption);
     const bool isFile = line.isSet(OutputOption) && !isStandardStream(path);
     if (line.isSet(OutputOption) && path.isEmpty()) {
-        return line.badUsage(Texts::tr("--output names no file."));
+        return line.badUsage(Texts::tr("The file name of --output is empty."));
     }
     if (line.wantsJson() && !isFile) {
-        return line.badUsage(Texts::tr("--json needs --output with the name of a file."));
+        return line.badUsage(Texts::tr("--json requires --output with the name of a file."));
     }
     // Two files that are missing would pass for one.
     if (isFile && QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(line.argument(0))) {
@@ -81,7 +81,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration Registration(
     "report",
-    QT_TRANSLATE_NOOP("vrndevice", "Make a page that shows a configuration and what is wrong."),
+    QT_TRANSLATE_NOOP("vrndevice", "Create a page that shows a configuration and its findings."),
     describe, run);
 
 } // namespace

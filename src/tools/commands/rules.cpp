@@ -43,7 +43,7 @@ int run(const CommandLine &line)
 }
 
 const CommandRegistration
-    Registration("rules", QT_TRANSLATE_NOOP("vrndevice", "List the rules by which check judges."),
+    Registration("rules", QT_TRANSLATE_NOOP("vrndevice", "List the rules that 'check' applies."),
                  describe, run);
 
 } // namespace

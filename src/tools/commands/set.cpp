@@ -7,10 +7,10 @@ void describe(CommandLine &line)
     line.addArgument(QStringLiteral("FILE"),
                      Texts::tr("The configuration to change; - filters standard input."));
     line.addArgument(QStringLiteral("PATH"), Texts::tr("The item to set."));
-    line.addArguments(QStringLiteral("VALUE"),
-                      Texts::tr("Its new value. More pairs of PATH and VALUE may follow; all are "
-                                "set, or none. Before a value that begins with a hyphen, -- must "
-                                "stand."));
+    line.addArguments(
+        QStringLiteral("VALUE"),
+        Texts::tr("Its new value. More pairs of PATH and VALUE may follow; either all are set or "
+                  "none. Write -- before a value that begins with a hyphen."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco 'drive[2].busId' 1003"));
     line.addExample(
         QStringLiteral("DeviceConfiguration.3deco 'device.plugins[motion].priority' -- -5"));
@@ -33,7 +33,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration Registration(
     "set",
-    QT_TRANSLATE_NOOP("vrndevice", "Set items of a configuration and leave the rest as it is."),
+    QT_TRANSLATE_NOOP("vrndevice", "Set items of a configuration and keep the rest unchanged."),
     describe, run);
 
 } // namespace

@@ -31,9 +31,9 @@ void describe(CommandLine &line)
     line.setFileNames({QStringLiteral("*.3conf")});
     line.addOption(NameOption, Texts::tr("Name of the device."), QStringLiteral("NAME"));
     line.addOption(DriveOption,
-                   Texts::tr("Name of the drive with that number, 0 to 254; may be repeated."),
+                   Texts::tr("Name of the drive with the given number, 0 to 254; may be repeated."),
                    QStringLiteral("NUMBER=NAME"));
-    line.addOption(CreateOption, Texts::tr("Start a new document if there is no such file."));
+    line.addOption(CreateOption, Texts::tr("Start a new document if the file does not exist."));
     line.addExample(
         QStringLiteral("settings.3conf --name Wrapper --drive 0=Infeed --drive 1=Knife"));
 }
@@ -67,13 +67,14 @@ int run(const CommandLine &line)
     }
     file.setDeviceSettings(settings);
     if (file.save(path, settingsVersion()) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return EXIT_NOT_DONE; // the library has told why
+        return EXIT_NOT_DONE; // the library has reported why
     }
     return printContent(settings, line.wantsJson());
 }
 
 const CommandRegistration
-    Registration("settings set", QT_TRANSLATE_NOOP("vrndevice", "Name a device and its drives."),
+    Registration("settings set",
+                 QT_TRANSLATE_NOOP("vrndevice", "Set the names of a device and its drives."),
                  describe, run);
 
 } // namespace

@@ -20,9 +20,9 @@ int run(const CommandLine &line)
     return printContent(file.deviceSettings(), line.wantsJson());
 }
 
-const CommandRegistration Registration("settings show",
-                                       QT_TRANSLATE_NOOP("vrndevice",
-                                                         "Show the names that a device was given."),
-                                       describe, run);
+const CommandRegistration
+    Registration("settings show",
+                 QT_TRANSLATE_NOOP("vrndevice", "Show the names of a device and its drives."),
+                 describe, run);
 
 } // namespace

@@ -53,7 +53,7 @@ bool readDocument(const QString &path, CStagingPlan::SDocument &document, CDevic
     document.path = isStandardStream(path) ? QString() : path;
     CDeviceConfigurationFile10 file(nullptr);
     if (!file.load(document.content)) {
-        reportUnreadable(path, Texts::tr("This is no configuration."));
+        reportUnreadable(path, Texts::tr("This is not a configuration."));
         return false;
     }
     if (!file.configuration(device)) {
@@ -121,7 +121,7 @@ bool mayRecord(const QString &path, QString &reason)
     if (read && manifest.readJson(json, reason)) {
         return true;
     }
-    reason = Texts::tr("%1 is there already, and is no manifest: %2").arg(path, reason);
+    reason = Texts::tr("%1 already exists and is not a manifest: %2").arg(path, reason);
     return false;
 }
 
@@ -142,7 +142,7 @@ int reportStaged(const CommandLine &line, const CDeviceManifest &manifest)
                    {QStringLiteral("size"), size},
                    {QStringLiteral("manifestSha256"), sum}});
     } else {
-        out.stream() << Texts::tr("Staged %1 files with %2 bytes; sum of the manifest: %3")
+        out.stream() << Texts::tr("Staged %1 files with %2 bytes; checksum of the manifest: %3")
                             .arg(QString::number(manifest.entries().size()), QString::number(size),
                                  sum)
                      << '\n';
@@ -154,17 +154,17 @@ void describe(CommandLine &line)
 {
     line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to stage."));
     line.addOption(QStringLiteral("project"),
-                   Texts::tr("The directory that holds the files of the configuration."),
+                   Texts::tr("The directory that contains the files of the configuration."),
                    QStringLiteral("DIR"));
     line.addOption(QStringLiteral("to"),
-                   Texts::tr("The directory to make, with all that has to be on the device."),
+                   Texts::tr("The directory to create for the files of the device."),
                    QStringLiteral("ROOT"));
     line.addOption(QStringLiteral("archive"),
-                   Texts::tr("The archive to make, a .tar.gz file of the same content."),
+                   Texts::tr("The archive to create, a .tar.gz file with the same content."),
                    QStringLiteral("OUT"));
     line.addOption(QStringLiteral("replace"),
-                   Texts::tr("Replace the device tree that ROOT holds already."));
-    line.addOption(QStringLiteral("record"), Texts::tr("Keep the manifest in the project, too."));
+                   Texts::tr("Replace the device tree that ROOT already contains."));
+    line.addOption(QStringLiteral("record"), Texts::tr("Also write the manifest to the project."));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --project . --to device"));
     line.addExample(
         QStringLiteral("DeviceConfiguration.3deco --project . --archive device.tar.gz --record"));
@@ -242,7 +242,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration
     Registration("stage",
-                 QT_TRANSLATE_NOOP("vrndevice", "Make the tree of files that goes on the device."),
+                 QT_TRANSLATE_NOOP("vrndevice", "Create the tree of files for the device."),
                  describe, run);
 
 } // namespace

@@ -120,12 +120,12 @@ QJsonObject toJson(const STreeNode &node, const CItemFindings &findings)
 void describe(CommandLine &line)
 {
     line.addArgument(QStringLiteral("FILE"),
-                     Texts::tr("The configuration to show. What is wrong with it stands in the "
-                               "tree and does not make the command fail."));
+                     Texts::tr("The configuration to show. The tree shows its findings, which do "
+                               "not make the command fail."));
     CheckedConfiguration::describeProject(line);
     line.addOption(ColorOption,
-                   Texts::tr("When to write in colours: always, never, or auto, which is for "
-                             "terminals and unless NO_COLOR is set."),
+                   Texts::tr("When to use colours: always, never or auto; auto uses them on "
+                             "terminals unless NO_COLOR is set."),
                    QStringLiteral("WHEN"), {Always, Never, Auto});
     line.addExample(QStringLiteral("DeviceConfiguration.3deco"));
     line.addExample(QStringLiteral("DeviceConfiguration.3deco --color always | less -R"));
@@ -162,8 +162,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration Registration(
     "tree",
-    QT_TRANSLATE_NOOP("vrndevice",
-                      "Show a configuration as a tree, with every place and what is wrong."),
+    QT_TRANSLATE_NOOP("vrndevice", "Show a configuration as a tree, with all places and findings."),
     describe, run);
 
 } // namespace

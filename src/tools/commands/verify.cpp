@@ -50,7 +50,7 @@ void print(const QString &path, const CStagedTree &tree, Output &out)
         out.stream() << path << ": " << difference.message << '\n';
     }
     if (tree.differences().isEmpty()) {
-        out.stream() << Texts::tr("%1: All %2 files are as the manifest tells.")
+        out.stream() << Texts::tr("%1: All %2 files match the manifest.")
                             .arg(path, QString::number(tree.manifest().entries().size()))
                      << '\n';
     }
@@ -102,7 +102,7 @@ int run(const CommandLine &line)
 
 const CommandRegistration Registration(
     "verify",
-    QT_TRANSLATE_NOOP("vrndevice", "Find what is missing, surplus or changed in a staged tree."),
+    QT_TRANSLATE_NOOP("vrndevice", "Report missing, surplus and changed files of a staged tree."),
     describe, run);
 
 } // namespace
