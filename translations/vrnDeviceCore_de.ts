@@ -1040,530 +1040,6 @@
         <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
     <message>
-        <source>%1: There is no such directory.</source>
-        <translation>%1: Dieses Verzeichnis gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>The version of the document is missing.</source>
-        <translation>Die Version des Dokuments fehlt.</translation>
-    </message>
-    <message>
-        <source>The document is read as version 1.0; add &apos;version=&quot;1.0&quot;&apos; to its first element, or save it with a tool.</source>
-        <translation>Das Dokument wird als Version 1.0 gelesen; ergänzen Sie &apos;version=&quot;1.0&quot;&apos; in seinem ersten Element, oder sichern Sie es mit einem Werkzeug.</translation>
-    </message>
-    <message>
-        <source>The version of the document is not valid.</source>
-        <translation>Die Version des Dokuments ist ungültig.</translation>
-    </message>
-    <message>
-        <source>A version consists of one to three numbers separated by dots; the document is read as version 1.0.</source>
-        <translation>Eine Version besteht aus einer bis drei Zahlen, durch Punkte getrennt; das Dokument wird als Version 1.0 gelesen.</translation>
-    </message>
-    <message>
-        <source>The document is read as one of version 1.0: look whether everything in it is known here, then save it anew.</source>
-        <translation>Das Dokument wird als eines der Version 1.0 gelesen: Sehen Sie nach, ob alles darin hier bekannt ist, und sichern Sie es dann neu.</translation>
-    </message>
-    <message>
-        <source>Unknown element.</source>
-        <translation>Unbekanntes Element.</translation>
-    </message>
-    <message>
-        <source>Correct the name, or remove the element. Names are case-sensitive.</source>
-        <translation>Berichtigen Sie den Namen, oder entfernen Sie das Element. Bei Namen wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
-    </message>
-    <message>
-        <source>The element is in the wrong place and is ignored.</source>
-        <translation>Das Element steht an der falschen Stelle und wird ignoriert.</translation>
-    </message>
-    <message>
-        <source>Move the element to the place that the finding names.</source>
-        <translation>Verschieben Sie das Element an die Stelle, die der Befund nennt.</translation>
-    </message>
-    <message>
-        <source>The element occurs more than once; only the first one is read.</source>
-        <translation>Das Element kommt mehrmals vor; gelesen wird nur das erste.</translation>
-    </message>
-    <message>
-        <source>Keep the element that is meant, and remove the others.</source>
-        <translation>Behalten Sie das gemeinte Element, und entfernen Sie die anderen.</translation>
-    </message>
-    <message>
-        <source>Unknown attribute.</source>
-        <translation>Unbekanntes Attribut.</translation>
-    </message>
-    <message>
-        <source>Remove the attribute, or correct its name. Names that belong to XML itself, such as &apos;xmlns&apos; and &apos;xml:lang&apos;, are not reported.</source>
-        <translation>Entfernen Sie das Attribut, oder berichtigen Sie seinen Namen. Namen, die zu XML selbst gehören, wie &apos;xmlns&apos; und &apos;xml:lang&apos;, werden nicht gemeldet.</translation>
-    </message>
-    <message>
-        <source>Unexpected text between elements; it is ignored.</source>
-        <translation>Unerwarteter Text zwischen Elementen; er wird ignoriert.</translation>
-    </message>
-    <message>
-        <source>Remove the text, or move it into the element for which it is meant.</source>
-        <translation>Entfernen Sie den Text, oder verschieben Sie ihn in das Element, für das er gedacht ist.</translation>
-    </message>
-    <message>
-        <source>The date is not valid.</source>
-        <translation>Das Datum ist ungültig.</translation>
-    </message>
-    <message>
-        <source>Write year, month and day: &apos;2026-09-14&apos;. An empty date is allowed and means that no date is set.</source>
-        <translation>Schreiben Sie Jahr, Monat und Tag: &apos;2026-09-14&apos;. Ein leeres Datum ist erlaubt und bedeutet, dass kein Datum gesetzt ist.</translation>
-    </message>
-    <message>
-        <source>The revision date is earlier than the creation date.</source>
-        <translation>Das Überarbeitungsdatum liegt vor dem Erstellungsdatum.</translation>
-    </message>
-    <message>
-        <source>Correct the wrong date; the two dates may be interchanged.</source>
-        <translation>Berichtigen Sie das falsche Datum; möglicherweise sind die beiden vertauscht.</translation>
-    </message>
-    <message>
-        <source>Too many findings; the remaining ones are left out.</source>
-        <translation>Zu viele Befunde; die übrigen werden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Correct the reported findings, then check again: at most 100,000 findings are reported for one document.</source>
-        <translation>Beheben Sie die gemeldeten Befunde, und prüfen Sie dann erneut: Zu einem Dokument werden höchstens 100.000 Befunde gemeldet.</translation>
-    </message>
-    <message>
-        <source>Without a device there is nothing to be commissioned; add the element &apos;Device&apos;.</source>
-        <translation>Ohne Gerät gibt es nichts in Betrieb zu nehmen; fügen Sie das Element &apos;Device&apos; hinzu.</translation>
-    </message>
-    <message>
-        <source>The device class is missing.</source>
-        <translation>Die Geräteklasse fehlt.</translation>
-    </message>
-    <message>
-        <source>The class of the device is left open.</source>
-        <translation>Die Klasse des Geräts ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>Unknown device class.</source>
-        <translation>Unbekannte Geräteklasse.</translation>
-    </message>
-    <message>
-        <source>Write &apos;kc2&apos; or &apos;kd3&apos; in lower case; anything else is read as &apos;Undefined&apos;.</source>
-        <translation>Schreiben Sie &apos;kc2&apos; oder &apos;kd3&apos; in Kleinbuchstaben; alles andere wird als &apos;Undefined&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>Give the device a name. It is also that of the device&apos;s directory in the project.</source>
-        <translation>Geben Sie dem Gerät einen Namen. So heißt auch das Verzeichnis des Geräts im Projekt.</translation>
-    </message>
-    <message>
-        <source>Add the element &apos;Config&apos;; without it the device has no options, files and plug-ins.</source>
-        <translation>Fügen Sie das Element &apos;Config&apos; hinzu; ohne es hat das Gerät keine Optionen, Dateien und Plug-ins.</translation>
-    </message>
-    <message>
-        <source>The configuration name is missing.</source>
-        <translation>Der Konfigurationsname fehlt.</translation>
-    </message>
-    <message>
-        <source>The name is read as &apos;STD&apos;. Add the name that is meant.</source>
-        <translation>Der Name wird als &apos;STD&apos; gelesen. Ergänzen Sie den gemeinten Namen.</translation>
-    </message>
-    <message>
-        <source>The configuration name is empty.</source>
-        <translation>Der Konfigurationsname ist leer.</translation>
-    </message>
-    <message>
-        <source>Give the configuration a name: the directories on the device are named after it.</source>
-        <translation>Geben Sie der Konfiguration einen Namen: Die Verzeichnisse auf dem Gerät werden nach ihm benannt.</translation>
-    </message>
-    <message>
-        <source>The configuration name is reserved by the device.</source>
-        <translation>Der Konfigurationsname ist vom Gerät reserviert.</translation>
-    </message>
-    <message>
-        <source>The name of the configuration is not one that can be entered.</source>
-        <translation>Der Name der Konfiguration ist keiner, der eingegeben werden kann.</translation>
-    </message>
-    <message>
-        <source>A hardware identity is none.</source>
-        <translation>Eine Hardwarekennung ist keine.</translation>
-    </message>
-    <message>
-        <source>Write &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; the last three are numbers from 0 to 65535. An invalid hardware identity is read as empty.</source>
-        <translation>Schreiben Sie &apos;PREFIX:NAME:PLATFORM:VERSION:REVISION&apos;; die letzten drei sind Zahlen von 0 bis 65535. Eine ungültige Hardwarekennung wird als leer gelesen.</translation>
-    </message>
-    <message>
-        <source>The hardware identity of the drive does not match that of the device.</source>
-        <translation>Die Hardwarekennung des Antriebs passt nicht zu der des Geräts.</translation>
-    </message>
-    <message>
-        <source>A drive must have the prefix, name and platform of its device; version and revision may differ. Check whether the drive was copied from another device.</source>
-        <translation>Ein Antrieb muss Präfix, Name und Plattform seines Geräts haben; Version und Revision dürfen abweichen. Prüfen Sie, ob der Antrieb von einem anderen Gerät kopiert wurde.</translation>
-    </message>
-    <message>
-        <source>The start option is not valid, or not separated by a space.</source>
-        <translation>Die Startoption ist ungültig oder nicht durch ein Leerzeichen getrennt.</translation>
-    </message>
-    <message>
-        <source>An option begins with a hyphen; the words after it are its argument. Separate options by spaces, not by line breaks.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich; die Wörter danach sind ihr Argument. Trennen Sie Optionen durch Leerzeichen, nicht durch Zeilenumbrüche.</translation>
-    </message>
-    <message>
-        <source>The start option occurs more than once.</source>
-        <translation>Die Startoption kommt mehrmals vor.</translation>
-    </message>
-    <message>
-        <source>Remove all but one. The same option with different arguments is not reported.</source>
-        <translation>Entfernen Sie alle bis auf eine. Dieselbe Option mit verschiedenen Argumenten wird nicht gemeldet.</translation>
-    </message>
-    <message>
-        <source>The flag of the OPC UA server is neither &apos;true&apos; nor &apos;false&apos;.</source>
-        <translation>Der Schalter des OPC-UA-Servers ist weder &apos;true&apos; noch &apos;false&apos;.</translation>
-    </message>
-    <message>
-        <source>Write &apos;true&apos; or &apos;false&apos; in lower case; anything else is read as &apos;false&apos;.</source>
-        <translation>Schreiben Sie &apos;true&apos; oder &apos;false&apos; in Kleinbuchstaben; alles andere wird als &apos;false&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>A parameter file has no type.</source>
-        <translation>Eine Parameterdatei hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>Specify the type with the attribute &apos;type&apos;; it determines the directory of the file.</source>
-        <translation>Geben Sie den Typ mit dem Attribut &apos;type&apos; an; er bestimmt das Verzeichnis der Datei.</translation>
-    </message>
-    <message>
-        <source>The type of the parameter file is &apos;Undefined&apos;.</source>
-        <translation>Der Typ der Parameterdatei ist &apos;Undefined&apos;.</translation>
-    </message>
-    <message>
-        <source>Specify the type; it determines the directory of the file.</source>
-        <translation>Geben Sie den Typ an; er bestimmt das Verzeichnis der Datei.</translation>
-    </message>
-    <message>
-        <source>Unknown parameter file type.</source>
-        <translation>Unbekannter Typ einer Parameterdatei.</translation>
-    </message>
-    <message>
-        <source>Correct the type; it is read as &apos;Undefined&apos;. Types are case-sensitive.</source>
-        <translation>Berichtigen Sie den Typ; er wird als &apos;Undefined&apos; gelesen. Bei Typen wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
-    </message>
-    <message>
-        <source>The parameter file is listed more than once.</source>
-        <translation>Die Parameterdatei ist mehrmals aufgeführt.</translation>
-    </message>
-    <message>
-        <source>Remove all but one. Files of the same name but of different types are allowed.</source>
-        <translation>Entfernen Sie alle bis auf eine. Dateien gleichen Namens, aber verschiedenen Typs sind erlaubt.</translation>
-    </message>
-    <message>
-        <source>The FPGA image is listed more than once.</source>
-        <translation>Das FPGA-Abbild ist mehrmals aufgeführt.</translation>
-    </message>
-    <message>
-        <source>A plug-in has no name.</source>
-        <translation>Ein Plug-in hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>A plug-in has no version.</source>
-        <translation>Ein Plug-in hat keine Version.</translation>
-    </message>
-    <message>
-        <source>Specify the version; the file name ends with it.</source>
-        <translation>Geben Sie die Version an; der Dateiname endet mit ihr.</translation>
-    </message>
-    <message>
-        <source>The version of the plug-in does not consist of numbers and dots.</source>
-        <translation>Die Version des Plug-ins besteht nicht aus Zahlen und Punkten.</translation>
-    </message>
-    <message>
-        <source>Write numbers separated by dots, such as &apos;1.3&apos;; the file name ends with the version.</source>
-        <translation>Schreiben Sie Zahlen, durch Punkte getrennt, wie &apos;1.3&apos;; der Dateiname endet mit der Version.</translation>
-    </message>
-    <message>
-        <source>The plug-in is listed more than once.</source>
-        <translation>Das Plug-in ist mehrmals aufgeführt.</translation>
-    </message>
-    <message>
-        <source>The priority of a plug-in is no number, or out of range.</source>
-        <translation>Die Priorität eines Plug-ins ist keine Zahl oder außerhalb des Bereichs.</translation>
-    </message>
-    <message>
-        <source>Write a number from -2147483648 to 2147483647; otherwise the plug-in is read without a priority.</source>
-        <translation>Schreiben Sie eine Zahl von -2147483648 bis 2147483647; sonst wird das Plug-in ohne Priorität gelesen.</translation>
-    </message>
-    <message>
-        <source>The execution plug-in is not in the list of plug-ins.</source>
-        <translation>Das Plug-in der Anwendung ist nicht in der Liste der Plug-ins.</translation>
-    </message>
-    <message>
-        <source>Add the plug-in, or choose one from the list.</source>
-        <translation>Fügen Sie das Plug-in hinzu, oder wählen Sie eines aus der Liste.</translation>
-    </message>
-    <message>
-        <source>The EtherCAT master plug-in has no bus configuration file.</source>
-        <translation>Das Plug-in des EtherCAT-Masters hat keine Datei mit der Buskonfiguration.</translation>
-    </message>
-    <message>
-        <source>There is a file for the EtherCAT master, but not its plug-in.</source>
-        <translation>Eine Datei für den EtherCAT-Master ist da, aber nicht sein Plug-in.</translation>
-    </message>
-    <message>
-        <source>A drive has no type.</source>
-        <translation>Ein Antrieb hat keinen Typ.</translation>
-    </message>
-    <message>
-        <source>The type of a drive is left open.</source>
-        <translation>Der Typ eines Antriebs ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>There is no such type of drives.</source>
-        <translation>Diesen Antriebstyp gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Write &apos;KD2_drive&apos; or &apos;KD3_drive&apos;; anything else, also in lower case, is read as &apos;KD3_drive&apos;.</source>
-        <translation>Schreiben Sie &apos;KD2_drive&apos; oder &apos;KD3_drive&apos;; alles andere, auch in Kleinbuchstaben, wird als &apos;KD3_drive&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>A file for KD2 drives belongs to a drive of another type.</source>
-        <translation>Eine Datei für KD2-Antriebe gehört zu einem Antrieb anderen Typs.</translation>
-    </message>
-    <message>
-        <source>Remove the file, or change the type of the drive to &apos;KD2_drive&apos;.</source>
-        <translation>Entfernen Sie die Datei, oder ändern Sie den Typ des Antriebs in &apos;KD2_drive&apos;.</translation>
-    </message>
-    <message>
-        <source>The drive number is missing.</source>
-        <translation>Die Antriebsnummer fehlt.</translation>
-    </message>
-    <message>
-        <source>Write a number from 0 to 254; otherwise the drive gets the next free number.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste freie Nummer.</translation>
-    </message>
-    <message>
-        <source>The drive number is not a number, or is out of range.</source>
-        <translation>Die Antriebsnummer ist keine Zahl oder außerhalb des Bereichs.</translation>
-    </message>
-    <message>
-        <source>Write a number from 0 to 254; otherwise the drive gets the next free number. 255 means that no number is assigned.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 254; sonst bekommt der Antrieb die nächste freie Nummer. 255 bedeutet, dass keine Nummer vergeben ist.</translation>
-    </message>
-    <message>
-        <source>Two drives have the same drive number.</source>
-        <translation>Zwei Antriebe haben dieselbe Antriebsnummer.</translation>
-    </message>
-    <message>
-        <source>Give each drive a unique number; otherwise all drives but the first get the next free numbers.</source>
-        <translation>Geben Sie jedem Antrieb eine eindeutige Nummer; sonst bekommen alle Antriebe bis auf den ersten die nächsten freien Nummern.</translation>
-    </message>
-    <message>
-        <source>The drive has no name.</source>
-        <translation>Der Antrieb hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>Give each drive a name of its own.</source>
-        <translation>Geben Sie jedem Antrieb einen eigenen Namen.</translation>
-    </message>
-    <message>
-        <source>The bus identifier of the drive is not a number, or is out of range.</source>
-        <translation>Die Buskennung des Antriebs ist keine Zahl oder außerhalb des Bereichs.</translation>
-    </message>
-    <message>
-        <source>Write a number from 0 to 4294967295; anything else is read as 0, which means that no bus identifier is assigned.</source>
-        <translation>Schreiben Sie eine Zahl von 0 bis 4294967295; alles andere wird als 0 gelesen, was bedeutet, dass keine Buskennung vergeben ist.</translation>
-    </message>
-    <message>
-        <source>Look whether both drives are on the same bus; there each has an identifier of its own.</source>
-        <translation>Sehen Sie nach, ob beide Antriebe am selben Bus sind; dort hat jeder seine eigene Kennung.</translation>
-    </message>
-    <message>
-        <source>The file has no name.</source>
-        <translation>Die Datei hat keinen Namen.</translation>
-    </message>
-    <message>
-        <source>The name of a file is a path, or has characters that no name has.</source>
-        <translation>Der Name einer Datei ist ein Pfad oder hat Zeichen, die kein Name hat.</translation>
-    </message>
-    <message>
-        <source>Write the name without a directory; directories have elements of their own. A line break in the element is part of the name.</source>
-        <translation>Schreiben Sie den Namen ohne Verzeichnis; Verzeichnisse haben eigene Elemente. Ein Zeilenumbruch im Element ist Teil des Namens.</translation>
-    </message>
-    <message>
-        <source>The file is listed more than once.</source>
-        <translation>Die Datei ist mehrmals aufgeführt.</translation>
-    </message>
-    <message>
-        <source>Give one of the two another name or another directory on the device. Parameter files, FPGA images, plug-ins and the configuration itself have their places, too.</source>
-        <translation>Geben Sie einer der beiden einen anderen Namen oder ein anderes Verzeichnis auf dem Gerät. Auch Parameterdateien, FPGA-Abbilder, Plug-ins und die Konfiguration selbst haben ihre Plätze.</translation>
-    </message>
-    <message>
-        <source>The file has no directory on the device.</source>
-        <translation>Die Datei hat kein Verzeichnis auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>Specify the directory of the file on the device.</source>
-        <translation>Geben Sie das Verzeichnis der Datei auf dem Gerät an.</translation>
-    </message>
-    <message>
-        <source>The directory on the device does not begin with a slash.</source>
-        <translation>Das Verzeichnis auf dem Gerät beginnt nicht mit einem Schrägstrich.</translation>
-    </message>
-    <message>
-        <source>Begin the directory with a slash; it is read as if it began with one.</source>
-        <translation>Beginnen Sie das Verzeichnis mit einem Schrägstrich; es wird gelesen, als begänne es mit einem.</translation>
-    </message>
-    <message>
-        <source>The directory on the device contains &apos;..&apos;.</source>
-        <translation>Das Verzeichnis auf dem Gerät enthält &apos;..&apos;.</translation>
-    </message>
-    <message>
-        <source>Write the directory that is meant without &apos;..&apos;.</source>
-        <translation>Schreiben Sie das gemeinte Verzeichnis ohne &apos;..&apos;.</translation>
-    </message>
-    <message>
-        <source>The directory on the device is outside the directory trees of the device.</source>
-        <translation>Das Verzeichnis auf dem Gerät liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
-    </message>
-    <message>
-        <source>A directory on the device belongs to another configuration.</source>
-        <translation>Ein Verzeichnis auf dem Gerät gehört zu einer anderen Konfiguration.</translation>
-    </message>
-    <message>
-        <source>If the configuration was renamed, change the directory accordingly.</source>
-        <translation>Wenn die Konfiguration umbenannt wurde, passen Sie das Verzeichnis an.</translation>
-    </message>
-    <message>
-        <source>The directory in the project is an absolute path, which is valid on one computer only.</source>
-        <translation>Das Verzeichnis im Projekt ist ein absoluter Pfad, der nur auf einem Rechner gilt.</translation>
-    </message>
-    <message>
-        <source>A directory in the project leads out of the project.</source>
-        <translation>Ein Verzeichnis im Projekt führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>A directory in the project is not below that of the device, and is removed when the device is read.</source>
-        <translation>Ein Verzeichnis im Projekt liegt nicht unter dem des Geräts und wird beim Lesen des Geräts entfernt.</translation>
-    </message>
-    <message>
-        <source>Move the object dictionary or the fault texts below the directory that has the name of the device.</source>
-        <translation>Verschieben Sie das Objektverzeichnis oder die Fehlertexte unter das Verzeichnis, das den Namen des Geräts hat.</translation>
-    </message>
-    <message>
-        <source>The file is not in the project.</source>
-        <translation>Die Datei ist nicht im Projekt.</translation>
-    </message>
-    <message>
-        <source>Put the file into the project, or correct its name or directory. The directory of a parameter file, an FPGA image or a plug-in follows from its kind; &apos;vrndevice place&apos; shows it.</source>
-        <translation>Legen Sie die Datei in das Projekt, oder berichtigen Sie ihren Namen oder ihr Verzeichnis. Das Verzeichnis einer Parameterdatei, eines FPGA-Abbilds oder eines Plug-ins folgt aus der Art; &apos;vrndevice place&apos; zeigt es.</translation>
-    </message>
-    <message>
-        <source>The file name in the project differs in upper and lower case.</source>
-        <translation>Der Dateiname im Projekt weicht in der Groß- und Kleinschreibung ab.</translation>
-    </message>
-    <message>
-        <source>Use the same file name in the project and in the configuration; file names on the device are case-sensitive.</source>
-        <translation>Verwenden Sie im Projekt und in der Konfiguration denselben Dateinamen; auf dem Gerät wird zwischen Groß- und Kleinschreibung unterschieden.</translation>
-    </message>
-    <message>
-        <source>Replace the symbolic link by the file: whoever gets the project does not get what lies outside.</source>
-        <translation>Ersetzen Sie den symbolischen Link durch die Datei: Wer das Projekt bekommt, bekommt nicht, was außerhalb liegt.</translation>
-    </message>
-    <message>
-        <source>The file in the project is not a regular file.</source>
-        <translation>Die Datei im Projekt ist keine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>Replace the directory, pipe or device of that name with a regular file.</source>
-        <translation>Ersetzen Sie das Verzeichnis, die Pipe oder die Gerätedatei dieses Namens durch eine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>The file in the project cannot be read.</source>
-        <translation>Die Datei im Projekt ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>Check the permissions of the file.</source>
-        <translation>Prüfen Sie die Zugriffsrechte der Datei.</translation>
-    </message>
-    <message>
-        <source>The file in the project is empty.</source>
-        <translation>Die Datei im Projekt ist leer.</translation>
-    </message>
-    <message>
-        <source>Add the content of the file, or remove the entry.</source>
-        <translation>Ergänzen Sie den Inhalt der Datei, oder entfernen Sie den Eintrag.</translation>
-    </message>
-    <message>
-        <source>The file in the project differs from the manifest.</source>
-        <translation>Die Datei im Projekt weicht vom Manifest ab.</translation>
-    </message>
-    <message>
-        <source>Restore the file with the size and the SHA-256 checksum in &apos;manifest.json&apos;, or create the manifest again.</source>
-        <translation>Stellen Sie die Datei mit der Größe und der SHA-256-Prüfsumme in &apos;manifest.json&apos; wieder her, oder erzeugen Sie das Manifest neu.</translation>
-    </message>
-    <message>
-        <source>Make the manifest anew. Until then the files are not compared with it.</source>
-        <translation>Erstellen Sie das Manifest neu. Bis dahin werden die Dateien nicht mit ihm verglichen.</translation>
-    </message>
-    <message>
-        <source>Write &apos;%1&apos;; upper and lower case are distinguished.</source>
-        <translation>Schreiben Sie &apos;%1&apos;; zwischen Groß- und Kleinschreibung wird unterschieden.</translation>
-    </message>
-    <message>
-        <source>The manifest of the project cannot be read: %1</source>
-        <translation>Das Manifest des Projekts ist nicht lesbar: %1</translation>
-    </message>
-    <message>
-        <source>a manifest written by staging</source>
-        <translation>ein Manifest, das beim Bereitstellen geschrieben wird</translation>
-    </message>
-    <message>
-        <source>Create the manifest again; the files are not compared with this one.</source>
-        <translation>Erzeugen Sie das Manifest neu; mit diesem werden die Dateien nicht verglichen.</translation>
-    </message>
-    <message>
-        <source>Correct the reported findings, then check again.</source>
-        <translation>Beheben Sie die gemeldeten Befunde, und prüfen Sie dann erneut.</translation>
-    </message>
-    <message>
-        <source>Unknown attribute &apos;%2&apos; of the element &apos;%1&apos;; it is ignored.</source>
-        <translation>Unbekanntes Attribut &apos;%2&apos; des Elements &apos;%1&apos;; es wird ignoriert.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands more than once in &apos;%2&apos;; only the first one is read.</source>
-        <translation>&apos;%1&apos; steht mehrmals in &apos;%2&apos;; nur das erste wird gelesen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has a text of its own, which nobody reads.</source>
-        <translation>&apos;%1&apos; hat einen eigenen Text, den niemand liest.</translation>
-    </message>
-    <message>
-        <source>only elements</source>
-        <translation>nur Elemente</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; does not belong in &apos;%2&apos;; it is ignored.</source>
-        <translation>&apos;%1&apos; gehört nicht in &apos;%2&apos;; es wird ignoriert.</translation>
-    </message>
-    <message>
-        <source>There is no element &apos;%1&apos;; nobody reads it.</source>
-        <translation>Es gibt kein Element &apos;%1&apos;; niemand liest es.</translation>
-    </message>
-    <message>
-        <source>only text</source>
-        <translation>nur Text</translation>
-    </message>
-    <message>
-        <source>Remove the element, or correct its name.</source>
-        <translation>Entfernen Sie das Element, oder berichtigen Sie seinen Namen.</translation>
-    </message>
-    <message>
-        <source>The document is read as version %1; save it again with this version.</source>
-        <translation>Das Dokument wird als Version %1 gelesen; sichern Sie es erneut mit dieser Version.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid version.</source>
-        <translation>&apos;%1&apos; ist keine gültige Version.</translation>
-    </message>
-    <message>
-        <source>Without a device there is nothing to be commissioned.</source>
-        <translation>Ohne ein Gerät gibt es nichts in Betrieb zu nehmen.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a valid date.</source>
         <translation>&apos;%1&apos; ist kein gültiges Datum.</translation>
     </message>
@@ -1572,116 +1048,16 @@
         <translation>ein Datum wie 2026-11-21</translation>
     </message>
     <message>
-        <source>The name is also that of the device&apos;s directory in the project.</source>
-        <translation>Der Name ist auch der des Geräteverzeichnisses im Projekt.</translation>
-    </message>
-    <message>
-        <source>The device is read without options, files or plug-ins.</source>
-        <translation>Das Gerät wird ohne Optionen, Dateien und Plug-ins gelesen.</translation>
-    </message>
-    <message>
         <source>Unknown device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
         <translation>Unbekannte Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>Without a name it has no directories on the device.</source>
-        <translation>Ohne Namen hat sie keine Verzeichnisse auf dem Gerät.</translation>
-    </message>
-    <message>
-        <source>The configuration name &apos;%1&apos; is reserved by the device.</source>
-        <translation>Der Konfigurationsname &apos;%1&apos; ist vom Gerät reserviert.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot be the name of a configuration.</source>
-        <translation>&apos;%1&apos; kann nicht der Name einer Konfiguration sein.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a valid hardware identity.</source>
         <translation>&apos;%1&apos; ist keine gültige Hardwarekennung.</translation>
     </message>
     <message>
-        <source>The last three are numbers from 0 to 65535; an invalid hardware identity is read as empty.</source>
-        <translation>Die letzten drei sind Zahlen von 0 bis 65535; eine ungültige Hardwarekennung wird als leer gelesen.</translation>
-    </message>
-    <message>
-        <source>options such as -trace, separated by single spaces</source>
-        <translation>Optionen wie -trace, durch einzelne Leerzeichen getrennt</translation>
-    </message>
-    <message>
-        <source>Options are separated by something other than a space.</source>
-        <translation>Optionen sind durch etwas anderes als ein Leerzeichen getrennt.</translation>
-    </message>
-    <message>
-        <source>The device reads this as one word.</source>
-        <translation>Das Gerät liest dies als ein Wort.</translation>
-    </message>
-    <message>
-        <source>An option has a hyphen but no name.</source>
-        <translation>Eine Option hat einen Bindestrich, aber keinen Namen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither an option nor the value of one.</source>
-        <translation>&apos;%1&apos; ist weder eine Option noch der Wert einer Option.</translation>
-    </message>
-    <message>
-        <source>An option begins with a hyphen; the words after it are its argument.</source>
-        <translation>Eine Option beginnt mit einem Bindestrich; die Wörter danach sind ihr Argument.</translation>
-    </message>
-    <message>
-        <source>The option &apos;%1&apos; occurs more than once.</source>
-        <translation>Die Option &apos;%1&apos; kommt mehrmals vor.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
         <translation>&apos;%1&apos; ist weder true noch false; es wird als false gelesen.</translation>
-    </message>
-    <message>
-        <source>There is the option %1, but the OPC UA server is not enabled.</source>
-        <translation>Die Option %1 ist da, aber der OPC-UA-Server ist nicht eingeschaltet.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is to run the application, but is not among the plug-ins.</source>
-        <translation>&apos;%1&apos; soll die Anwendung ausführen, ist aber nicht unter den Plug-ins.</translation>
-    </message>
-    <message>
-        <source>Add the plug-in, or name another one.</source>
-        <translation>Ergänzen Sie das Plug-in, oder nennen Sie ein anderes.</translation>
-    </message>
-    <message>
-        <source>There is a bus configuration, but not the plug-in &apos;%1&apos;.</source>
-        <translation>Eine Buskonfiguration ist da, aber nicht das Plug-in &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>The parameter file &apos;%1&apos; stands more than once.</source>
-        <translation>Die Parameterdatei &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The type of the parameter file is left open.</source>
-        <translation>Der Typ der Parameterdatei ist offen gelassen.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; is listed more than once.</source>
-        <translation>Das Plug-in &apos;%1&apos; ist mehrmals aufgeführt.</translation>
-    </message>
-    <message>
-        <source>The FPGA image &apos;%1&apos; stands more than once.</source>
-        <translation>Das FPGA-Abbild &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>The plug-in &apos;%1&apos; stands more than once.</source>
-        <translation>Das Plug-in &apos;%1&apos; steht mehrmals.</translation>
-    </message>
-    <message>
-        <source>numbers with dots between them, like 1.3</source>
-        <translation>Zahlen mit Punkten dazwischen, wie 1.3</translation>
-    </message>
-    <message>
-        <source>Its file would be &apos;%1&apos;.</source>
-        <translation>Seine Datei wäre &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid plug-in version.</source>
-        <translation>&apos;%1&apos; ist keine gültige Version eines Plug-ins.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a valid priority.</source>
@@ -1690,18 +1066,6 @@
     <message>
         <source>a number from -2147483648 to 2147483647</source>
         <translation>eine Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>The hardware identity &apos;%1&apos; does not fit that of the device.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; passt nicht zu der des Geräts.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is passed over: the drive is of type &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; wird übergangen: Der Antrieb hat den Typ &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>Remove the file, or correct the type of the drive.</source>
-        <translation>Entfernen Sie die Datei, oder berichtigen Sie den Typ des Antriebs.</translation>
     </message>
     <message>
         <source>The drive has no type; it is read as &apos;%1&apos;.</source>
@@ -1720,28 +1084,8 @@
         <translation>eine Zahl von 0 bis %1</translation>
     </message>
     <message>
-        <source>The drive is read with the next free number.</source>
-        <translation>Der Antrieb wird mit der nächsten freien Nummer gelesen.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a valid drive number.</source>
         <translation>&apos;%1&apos; ist keine gültige Antriebsnummer.</translation>
-    </message>
-    <message>
-        <source>The number %1 is also that of %2.</source>
-        <translation>Die Nummer %1 ist auch die von %2.</translation>
-    </message>
-    <message>
-        <source>a unique number</source>
-        <translation>eine eindeutige Nummer</translation>
-    </message>
-    <message>
-        <source>When the drive is read it is named after its number.</source>
-        <translation>Beim Lesen wird der Antrieb nach seiner Nummer benannt.</translation>
-    </message>
-    <message>
-        <source>a unique name</source>
-        <translation>ein eindeutiger Name</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a valid bus identifier; it is read as 0.</source>
@@ -1752,92 +1096,8 @@
         <translation>eine Zahl von 0 bis 4294967295</translation>
     </message>
     <message>
-        <source>The bus identifier %1 is already used by %2.</source>
-        <translation>Die Buskennung %1 ist schon durch %2 belegt.</translation>
-    </message>
-    <message>
-        <source>a unique bus identifier</source>
-        <translation>eine eindeutige Buskennung</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no name of a file.</source>
-        <translation>&apos;%1&apos; ist kein Dateiname.</translation>
-    </message>
-    <message>
-        <source>a name without directories, slashes and line breaks</source>
-        <translation>ein Name ohne Verzeichnisse, Schrägstriche und Zeilenumbrüche</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; contains &apos;..&apos;.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; enthält &apos;..&apos;.</translation>
-    </message>
-    <message>
         <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
         <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; is outside the directory trees of the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; liegt außerhalb der Verzeichnisbäume des Geräts.</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; is absolute.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; ist absolut.</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; leads out of the project.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>The directory &apos;%1&apos; is not below that of the device.</source>
-        <translation>Das Verzeichnis &apos;%1&apos; liegt nicht unter dem des Geräts.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; stands more than once in the same directories.</source>
-        <translation>Die Datei &apos;%1&apos; steht mehrmals in denselben Verzeichnissen.</translation>
-    </message>
-    <message>
-        <source>a place of its own</source>
-        <translation>ein eigener Platz</translation>
-    </message>
-    <message>
-        <source>The file that is transferred last overwrites the other one.</source>
-        <translation>Die zuletzt übertragene überschreibt die andere.</translation>
-    </message>
-    <message>
-        <source>A symbolic link of that name leads to nothing.</source>
-        <translation>Eine symbolische Verknüpfung dieses Namens führt ins Leere.</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; is named &apos;%2&apos; in the project.</source>
-        <translation>Die Datei &apos;%1&apos; heißt im Projekt &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>File names on the device are case-sensitive.</source>
-        <translation>Auf dem Gerät wird bei Dateinamen zwischen Groß- und Kleinschreibung unterschieden.</translation>
-    </message>
-    <message>
-        <source>A symbolic link on the path &apos;%1&apos; leads out of the project.</source>
-        <translation>Eine symbolische Verknüpfung auf dem Pfad &apos;%1&apos; führt aus dem Projekt hinaus.</translation>
-    </message>
-    <message>
-        <source>Whoever gets the project does not get the file.</source>
-        <translation>Wer das Projekt bekommt, bekommt die Datei nicht.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a regular file.</source>
-        <translation>&apos;%1&apos; ist keine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>a file that may be read</source>
-        <translation>eine Datei, die gelesen werden darf</translation>
-    </message>
-    <message>
-        <source>The file &apos;%1&apos; is not the one that the manifest tells.</source>
-        <translation>Die Datei &apos;%1&apos; ist nicht die, die das Manifest nennt.</translation>
-    </message>
-    <message>
-        <source>Restore the file, or create the manifest again.</source>
-        <translation>Stellen Sie die Datei wieder her, oder erzeugen Sie das Manifest neu.</translation>
     </message>
     <message>
         <source>The type of the drive is left open.</source>
@@ -1923,32 +1183,32 @@
         <translation>%1: das Listenelement kann nicht ohne diesen Eintrag bestehen</translation>
     </message>
     <message>
-        <source>There is no configuration.</source>
-        <translation>Es gibt keine Konfiguration.</translation>
+        <source>The document contains no configuration.</source>
+        <translation>Das Dokument enthält keine Konfiguration.</translation>
     </message>
     <message>
-        <source>%1: an entry of the list must be named, as in %2</source>
-        <translation>%1: ein Element der Liste muss genannt werden, wie in %2</translation>
+        <source>%1: name an entry of the list, as in %2</source>
+        <translation>%1: nennen Sie ein Element der Liste, wie in %2</translation>
     </message>
     <message>
         <source>%1: only a drive of the type KD2_drive has this file</source>
         <translation>%1: nur ein Antrieb vom Typ KD2_drive hat diese Datei</translation>
     </message>
     <message>
-        <source>%1: %2 is no list, nothing can stand in brackets behind it</source>
-        <translation>%1: %2 ist keine Liste, dahinter kann nichts in Klammern stehen</translation>
+        <source>%1: %2 is not a list and takes no brackets</source>
+        <translation>%1: %2 ist keine Liste und hat keine Klammern</translation>
     </message>
     <message>
-        <source>%1: there is no such item</source>
-        <translation>%1: diesen Eintrag gibt es nicht</translation>
+        <source>%1: unknown item</source>
+        <translation>%1: unbekannter Eintrag</translation>
     </message>
     <message>
-        <source>%1: there is no such item; did you mean %2?</source>
-        <translation>%1: diesen Eintrag gibt es nicht; meinten Sie %2?</translation>
+        <source>%1: unknown item; did you mean %2?</source>
+        <translation>%1: unbekannter Eintrag; meinten Sie %2?</translation>
     </message>
     <message>
-        <source>%1: there is no such item; there are %2</source>
-        <translation>%1: diesen Eintrag gibt es nicht; es gibt %2</translation>
+        <source>%1: unknown item; expected is one of %2</source>
+        <translation>%1: unbekannter Eintrag; erwartet wird einer von %2</translation>
     </message>
     <message>
         <source>a &apos;.&apos; is missing</source>
@@ -1975,12 +1235,12 @@
         <translation>&apos;%1&apos; ist kein gültiger Pfad: %2 bei Zeichen %3</translation>
     </message>
     <message>
-        <source>%1: this has no value of its own</source>
-        <translation>%1: dies hat keinen eigenen Wert</translation>
+        <source>%1: this path does not lead to a single value</source>
+        <translation>%1: dieser Pfad führt nicht zu einem einzelnen Wert</translation>
     </message>
     <message>
-        <source>%1: the configuration does not have it</source>
-        <translation>%1: die Konfiguration hat das nicht</translation>
+        <source>%1: the configuration does not contain this item</source>
+        <translation>%1: die Konfiguration enthält diesen Eintrag nicht</translation>
     </message>
 </context>
 <context>
@@ -2416,8 +1676,8 @@
 <context>
     <name>CDeviceConfigurationFile</name>
     <message>
-        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; cannot be read.</source>
-        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist nicht lesbar.</translation>
+        <source>The hardware identity &apos;%1&apos; of &apos;%2&apos; is not valid.</source>
+        <translation>Die Hardwarekennung &apos;%1&apos; von &apos;%2&apos; ist ungültig.</translation>
     </message>
     <message>
         <source>The device configuration file was created with a previous version</source>
@@ -3044,14 +2304,6 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>The device has no configuration name; the directories on the device are named after it.</source>
         <translation>Das Gerät hat keinen Konfigurationsnamen; die Verzeichnisse auf dem Gerät werden nach ihm benannt.</translation>
-    </message>
-    <message>
-        <source>The configuration name &quot;%1&quot; cannot be used as the name of a directory.</source>
-        <translation>Der Konfigurationsname &quot;%1&quot; kann nicht als Name eines Verzeichnisses dienen.</translation>
-    </message>
-    <message>
-        <source>The device has no configuration name, which the directories on the device are named after.</source>
-        <translation>Das Gerät hat keinen Konfigurationsnamen, nach dem die Verzeichnisse auf dem Gerät benannt sind.</translation>
     </message>
     <message>
         <source>The configuration name &quot;%1&quot; cannot be used as the name of a directory.</source>

@@ -25,7 +25,7 @@
  * - a directory that belongs to another configuration, or does not begin with a slash, is made;
  * - the manifest of the project is not read: staging is what makes it anew.
  *
- * The project is looked at once, when the plan is made.
+ * The project is read once, when the plan is made.
  *
  * Thread-safe as every value: see docs/architecture.md.
  */

@@ -42,7 +42,7 @@ auto warnOfIdentity(const CXmlAbstractVornFile &file, const QDomElement &parent)
     return [&file, parent](const SItem &item, const QString &text) {
         if (item.value == EValue::HARDWARE_ID) {
             CMessageBoardHelper::setDebugWarning(
-                Texts::tr("The hardware identity '%1' of '%2' cannot be read.")
+                Texts::tr("The hardware identity '%1' of '%2' is not valid.")
                     .arg(text, file.getNodeValue(TAG_NAME, parent)),
                 file.logfile());
         }
@@ -355,7 +355,7 @@ void CDeviceConfigurationFileBase::subDeviceElements(QList<CSubDeviceElement> &s
         subDevice.setDriveId(static_cast<quint8>(assigned.number));
         if (!assigned.isOwn) {
             CMessageBoardHelper::setDebugWarning(
-                Texts::tr("The sub-device '%1' has no drive number of its own and gets %2.")
+                Texts::tr("The drive '%1' has no unique drive number and gets %2.")
                     .arg(subDevice.name(), QString::number(assigned.number)),
                 logfile());
         }

@@ -282,7 +282,7 @@ QString expected(EValue kind)
     };
     switch (kind) {
     case EValue::DATE:
-        return Texts::tr("a date like 2026-11-21");
+        return Texts::tr("a date such as 2026-11-21");
     case EValue::HARDWARE_ID:
         return QStringLiteral("PREFIX:NAME:PLATFORM:VERSION:REVISION");
     case EValue::UNSIGNED_NUMBER:

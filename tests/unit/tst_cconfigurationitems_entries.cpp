@@ -64,18 +64,18 @@ void tst_cconfigurationitems_entries::rename_data()
     row(file, QString(), u"files[recipes.csv].name: The name is empty. Expected: a name."_s);
     row(u"device.parameterFiles[options].name"_s, u"Other"_s, QString());
     row(u"device.parameterFiles[options].name"_s, u"LineParams"_s,
-        u"device.parameterFiles[LineParams]: there is such a parameter file already"_s);
+        u"device.parameterFiles[LineParams]: the parameter file already exists"_s);
     row(u"device.fpgaFiles[kd3_motion_v11.bit].name"_s, u"x.bit"_s, QString());
     row(u"device.fpgaFiles[kd3_motion_v11.bit].name"_s, u"kd3_motion_v12.bit"_s,
-        u"device.fpgaFiles[kd3_motion_v12.bit]: there is such an FPGA image already"_s);
+        u"device.fpgaFiles[kd3_motion_v12.bit]: the FPGA image already exists"_s);
     row(u"device.opcUaFiles[kd3NodeSet.xml].name"_s, u"x.xml"_s, QString());
     row(u"device.opcUaFiles[kd3NodeSet.xml].name"_s, u"kd3SubSystem.xml"_s,
-        u"device.opcUaFiles[kd3SubSystem.xml]: there is such an OPC UA file already"_s);
+        u"device.opcUaFiles[kd3SubSystem.xml]: the OPC UA file already exists"_s);
     row(u"device.plugins[motion].name"_s, u"m"_s, QString());
     row(u"device.plugins[motion].name"_s, u"CECatMaster"_s,
-        u"device.plugins[CECatMaster]: there is such a plug-in already"_s);
+        u"device.plugins[CECatMaster]: the plug-in already exists"_s);
     row(option, u"-t"_s, QString());
-    row(option, u"-opc"_s, u"device.options[-opc]: there is such an option already"_s);
+    row(option, u"-opc"_s, u"device.options[-opc]: the option already exists"_s);
     for (const QString &value : {u"t"_s, u"-"_s, u"-a b"_s, u""_s, u"-a\t"_s}) {
         row(option, value,
             option
@@ -85,7 +85,7 @@ void tst_cconfigurationitems_entries::rename_data()
     row(drive, u"1"_s, QString());
     row(drive, u"3"_s, QString());
     row(drive, u"254"_s, QString());
-    row(drive, u"2"_s, u"drive[2]: there is such a drive already"_s);
+    row(drive, u"2"_s, u"drive[2]: the drive already exists"_s);
     for (const QString &value : {u"255"_s, u"-1"_s, u""_s, u"03"_s, u"x"_s, u" 3"_s}) {
         row(drive, value,
             drive
@@ -184,7 +184,8 @@ void tst_cconfigurationitems_entries::add()
     QVERIFY(opened.bytes().contains('\n' + added.join('\n') + '\n'));
 
     QVERIFY(!opened.items.add(path));
-    QVERIFY2(opened.items.errorText().startsWith(path + u": there is such a"_s),
+    QVERIFY2(opened.items.errorText().startsWith(path + u": the "_s)
+                 && opened.items.errorText().endsWith(u" already exists"_s),
              qPrintable(opened.items.errorText()));
     QVERIFY(opened.items.remove(path));
     QCOMPARE(opened.bytes(), m_sample);
@@ -386,33 +387,33 @@ void tst_cconfigurationitems_entries::failuresChangeNothing_data()
         QTest::newRow(qPrintable((isAdding ? u"add "_s : u"remove "_s) + path))
             << isAdding << path << path + u": "_s + reason;
     };
-    row(true, u"device.name"_s, u"only entries of lists can be added"_s);
-    row(true, u"device.dictionary"_s, u"only entries of lists can be added"_s);
-    row(true, u"files"_s, u"only entries of lists can be added"_s);
-    row(true, u"files[recipes.csv].comment"_s, u"only entries of lists can be added"_s);
+    row(true, u"device.name"_s, u"only list entries can be added"_s);
+    row(true, u"device.dictionary"_s, u"only list entries can be added"_s);
+    row(true, u"files"_s, u"only list entries can be added"_s);
+    row(true, u"files[recipes.csv].comment"_s, u"only list entries can be added"_s);
     row(true, u"files[]"_s, u"The name is empty. Expected: a name."_s);
     row(true, u"files[a\u0001]"_s, u"The character U+0001 cannot be stored in a configuration."_s);
-    row(true, u"files[recipes.csv]"_s, u"there is such a file already"_s);
-    row(true, u"files[recipes.csv][2]"_s, u"a second entry of the same key cannot be added"_s);
-    row(true, u"drive[0]"_s, u"there is such a drive already"_s);
+    row(true, u"files[recipes.csv]"_s, u"the file already exists"_s);
+    row(true, u"files[recipes.csv][2]"_s, u"a second entry with the same key cannot be added"_s);
+    row(true, u"drive[0]"_s, u"the drive already exists"_s);
     row(true, u"drive[255]"_s,
         u"'255' is not a valid drive number. Expected: a number from 0 to 254."_s);
     row(true, u"drive[x]"_s,
         u"'x' is not a valid drive number. Expected: a number from 0 to 254."_s);
     row(true, u"drive[]"_s, u"'' is not a valid drive number. Expected: a number from 0 to 254."_s);
-    row(true, u"device.options[-opc]"_s, u"there is such an option already"_s);
+    row(true, u"device.options[-opc]"_s, u"the option already exists"_s);
     row(true, u"device.options[opc]"_s,
         u"'opc' is not a valid start option. Expected: a word that begins with '-'."_s);
-    row(true, u"device.plugins[motion]"_s, u"there is such a plug-in already"_s);
+    row(true, u"device.plugins[motion]"_s, u"the plug-in already exists"_s);
 
-    const QString noItem = u"only single items, entries and files can be removed"_s;
+    const QString noItem = u"only single items, list entries and files can be removed"_s;
     for (const QString &path : {u"device"_s, u"description"_s, u"files"_s, u"drive"_s,
                                 u"device.options"_s, u"device.plugins"_s}) {
         row(false, path, noItem);
     }
-    row(false, u"files[recipes.csv].name"_s, u"the entry cannot be without it"_s);
-    row(false, u"drive[0].driveNo"_s, u"the entry cannot be without it"_s);
-    row(false, u"device.options[-opc].name"_s, u"the entry cannot be without it"_s);
+    row(false, u"files[recipes.csv].name"_s, u"the entry cannot exist without this item"_s);
+    row(false, u"drive[0].driveNo"_s, u"the entry cannot exist without this item"_s);
+    row(false, u"device.options[-opc].name"_s, u"the entry cannot exist without this item"_s);
 }
 
 void tst_cconfigurationitems_entries::failuresChangeNothing()

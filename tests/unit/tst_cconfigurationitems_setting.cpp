@@ -158,7 +158,7 @@ void tst_cconfigurationitems_setting::values_data()
             << path << value << path + u": "_s + reason;
     };
     const QString date = u"description.creationDate"_s;
-    const QString noDate = u"'%1' is not a valid date. Expected: a date like 2026-11-21."_s;
+    const QString noDate = u"'%1' is not a valid date. Expected: a date such as 2026-11-21."_s;
     good(date, u""_s);
     good(date, u"2024-02-29"_s);
     for (const QString &value : {u"2025-02-29"_s, u"2026-1-2"_s, u"21.11.2026"_s, u"20261121"_s,
@@ -205,8 +205,10 @@ void tst_cconfigurationitems_setting::values_data()
     }
     for (const QString &value : {u"vornparameters"_s, u""_s, u"10"_s}) {
         bad(paramType, value,
-            u"'%1' is not a valid type of a parameter file. Expected: KC2Parameters, KC2Compensation, VornParameters, VornConfigParams, VornDeviceDatabase, VornPluginParameters, VornFirmwareDataBase, VornLogicDataBase, VornOemParameters, VornMotorParameters, VornOptionModulDatabase."_s
-                .arg(value));
+            u"'%1' is not a valid type of a parameter file. Expected: KC2Parameters, "
+            u"KC2Compensation, VornParameters, VornConfigParams, VornDeviceDatabase, "
+            u"VornPluginParameters, VornFirmwareDataBase, VornLogicDataBase, VornOemParameters, "
+            u"VornMotorParameters, VornOptionModulDatabase."_s.arg(value));
     }
     good(u"drive[0].type"_s, u"KD2_drive"_s);
     for (const QString &value : {u"UNKNOWN_drive"_s, u"kd2_drive"_s, u""_s}) {
@@ -239,10 +241,11 @@ void tst_cconfigurationitems_setting::values_data()
     bad(u"files[recipes.csv].name"_s, u"a\u0001"_s, reason.arg(u"0001"_s));
 
     bad(u"device.activeFpgaFile"_s, u""_s, u"The name is empty. Expected: a name."_s);
-    bad(u"device.fpgaFiles[kd3_motion_v11.bit]"_s, u"x"_s, u"this has no value of its own"_s);
+    bad(u"device.fpgaFiles[kd3_motion_v11.bit]"_s, u"x"_s,
+        u"this path does not lead to a single value"_s);
     for (const QString &path : {u"device"_s, u"files"_s, u"files[recipes.csv]"_s,
                                 u"device.dictionary"_s, u"device.options"_s}) {
-        bad(path, u"x"_s, u"this has no value of its own"_s);
+        bad(path, u"x"_s, u"this path does not lead to a single value"_s);
     }
 }
 

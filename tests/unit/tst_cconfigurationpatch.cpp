@@ -495,8 +495,8 @@ void tst_cconfigurationpatch::mismatch_data()
         u"plug-in motion: version is 2, but (empty) is expected."_s);
     row("FPGA image to activate is not there",
         set(u"device.activeFpgaFile"_s, u"kd3_motion_v12.bit"_s, u"x.bit"_s),
-        u"there is no such FPGA image"_s);
-    row("no such item", set(u"device.nme"_s, QString(), u"x"_s), u"there is no such item"_s);
+        u"the FPGA image does not exist"_s);
+    row("no such item", set(u"device.nme"_s, QString(), u"x"_s), u"unknown item"_s);
     row("no class", set(u"device.class"_s, u"kd3"_s, u"kd9"_s),
         u"'kd9' is not a valid device class"_s);
     row("no text", set(u"device.name"_s, u"PackagingLine"_s, u"a\u0001"_s),

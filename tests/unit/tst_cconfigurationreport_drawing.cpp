@@ -114,7 +114,7 @@ void tst_cconfigurationreport_drawing::marksInTheDrawing()
         QCOMPARE(marks,
                  (QStringList{QString(), QString(), u"#mark-warning"_s, u"#mark-error"_s,
                               u"#mark-error"_s}));
-        QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus id 1000."_s);
+        QCOMPARE(titles.at(1), u"Drive 0: Axis 0, series KD3. Bus ID 1000."_s);
         QVERIFY(titles.at(2).endsWith(u"It has warnings."_s));
         QVERIFY(titles.at(3).endsWith(u"It has errors."_s));
     }

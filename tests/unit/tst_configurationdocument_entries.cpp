@@ -415,8 +415,7 @@ void tst_configurationdocument_entries::subDeviceNamesInWarnings()
         + name.toUtf8() + "</Name>\n  </SubDevice>\n"));
     QCOMPARE(device.subDevice(42).name(), name);
     QCOMPARE(catcher.warnings(),
-             QStringList{u"The sub-device '"_s + name
-                         + u"' has no drive number of its own and gets 42."_s});
+             QStringList{u"The drive '"_s + name + u"' has no unique drive number and gets 42."_s});
 }
 
 void tst_configurationdocument_entries::busId_data()

@@ -226,7 +226,7 @@ void tst_cxmlabstractvornfile_saving::manyUnwritableCharacters()
     QByteArray buffer;
     QString error;
     QVERIFY(!file.save(buffer, error));
-    QVERIFY2(error.contains(text("'Name' holds the character U+0001")), qPrintable(error));
+    QVERIFY2(error.contains(text("'Name' contains the character U+0001")), qPrintable(error));
     QVERIFY(buffer.isEmpty());
 }
 

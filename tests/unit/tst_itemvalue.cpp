@@ -209,7 +209,7 @@ void tst_itemvalue::texts_data()
     const auto row = [](EValue kind, const QString &message, const QString &wanted) {
         QTest::newRow(qPrintable(message)) << kind << message << wanted;
     };
-    row(EValue::DATE, u"'x' is not a valid date."_s, u"a date like 2026-11-21"_s);
+    row(EValue::DATE, u"'x' is not a valid date."_s, u"a date such as 2026-11-21"_s);
     row(EValue::DEVICE_CLASS, u"'x' is not a valid device class."_s, u"kc2, kd3"_s);
     row(EValue::HARDWARE_ID, u"'x' is not a valid hardware identity."_s,
         u"PREFIX:NAME:PLATFORM:VERSION:REVISION"_s);

@@ -173,7 +173,7 @@ void tst_vrndevice_items::failuresLeaveTheFile_data()
         u"drive[7]: the drive does not exist"_s);
     row("set: value", {u"set"_s, u"device.name"_s, u"N"_s, u"drive[0].busId"_s, u"x"_s},
         u"drive[0].busId: 'x' is not a valid number. Expected: a number from 0 to 4294967295."_s);
-    row("add: there", {u"add"_s, u"drive[0]"_s}, u"drive[0]: there is such a drive already"_s);
+    row("add: there", {u"add"_s, u"drive[0]"_s}, u"drive[0]: the drive already exists"_s);
     row("add: value", {u"add"_s, u"drive[7]"_s, u"drive[7].busId"_s, u"x"_s},
         u"drive[7].busId: 'x' is not a valid number. Expected: a number from 0 to 4294967295."_s);
     row("remove: second", {u"remove"_s, u"drive[0]"_s, u"drive[7]"_s},

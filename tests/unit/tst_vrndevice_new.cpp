@@ -177,8 +177,9 @@ void tst_vrndevice_new::newRefusesTemplates()
     };
     const SResult missing = make(u"kd3"_s);
     QCOMPARE(missing.exitCode, 3);
-    QVERIFY2(missing.errors.contains(u"There is no template 'kd3', and no such file. Built in are: "
-                                     "kc2-kd2-drive, kd3-drive, kd3-ethercat."_s),
+    QVERIFY2(missing.errors.contains(
+                 u"'kd3' is neither a built-in template nor a file. The built-in templates are: "
+                 "kc2-kd2-drive, kd3-drive, kd3-ethercat."_s),
              qPrintable(missing.errors));
     QVERIFY(Files::write(path(u"broken"_s), m_example.chopped(20)));
     QCOMPARE(make(u"broken"_s).exitCode, 3);

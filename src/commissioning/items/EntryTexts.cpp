@@ -9,42 +9,42 @@ QString EntryTexts::missing(EEntry entry, const QString &path)
 {
     switch (entry) {
     case EEntry::DRIVE:
-        return Texts::tr("%1: there is no such drive").arg(path);
+        return Texts::tr("%1: the drive does not exist").arg(path);
     case EEntry::PARAMETER_FILE:
-        return Texts::tr("%1: there is no such parameter file").arg(path);
+        return Texts::tr("%1: the parameter file does not exist").arg(path);
     case EEntry::FPGA_FILE:
-        return Texts::tr("%1: there is no such FPGA image").arg(path);
+        return Texts::tr("%1: the FPGA image does not exist").arg(path);
     case EEntry::OPC_UA_FILE:
-        return Texts::tr("%1: there is no such OPC UA file").arg(path);
+        return Texts::tr("%1: the OPC UA file does not exist").arg(path);
     case EEntry::PLUGIN:
-        return Texts::tr("%1: there is no such plug-in").arg(path);
+        return Texts::tr("%1: the plug-in does not exist").arg(path);
     case EEntry::OPTION:
-        return Texts::tr("%1: there is no such option").arg(path);
+        return Texts::tr("%1: the option does not exist").arg(path);
     case EEntry::FILE:
     case EEntry::NONE:
         break;
     }
-    return Texts::tr("%1: there is no such file").arg(path);
+    return Texts::tr("%1: the file does not exist").arg(path);
 }
 
 QString EntryTexts::present(EEntry entry, const QString &path)
 {
     switch (entry) {
     case EEntry::DRIVE:
-        return Texts::tr("%1: there is such a drive already").arg(path);
+        return Texts::tr("%1: the drive already exists").arg(path);
     case EEntry::PARAMETER_FILE:
-        return Texts::tr("%1: there is such a parameter file already").arg(path);
+        return Texts::tr("%1: the parameter file already exists").arg(path);
     case EEntry::FPGA_FILE:
-        return Texts::tr("%1: there is such an FPGA image already").arg(path);
+        return Texts::tr("%1: the FPGA image already exists").arg(path);
     case EEntry::OPC_UA_FILE:
-        return Texts::tr("%1: there is such an OPC UA file already").arg(path);
+        return Texts::tr("%1: the OPC UA file already exists").arg(path);
     case EEntry::PLUGIN:
-        return Texts::tr("%1: there is such a plug-in already").arg(path);
+        return Texts::tr("%1: the plug-in already exists").arg(path);
     case EEntry::OPTION:
-        return Texts::tr("%1: there is such an option already").arg(path);
+        return Texts::tr("%1: the option already exists").arg(path);
     case EEntry::FILE:
     case EEntry::NONE:
         break;
     }
-    return Texts::tr("%1: there is such a file already").arg(path);
+    return Texts::tr("%1: the file already exists").arg(path);
 }

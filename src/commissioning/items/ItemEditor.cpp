@@ -75,14 +75,14 @@ bool ItemEditor::add(const QString &path)
         return false;
     }
     if (!place.isEntry) {
-        return fail(Texts::tr("%1: only entries of lists can be added").arg(place.path));
+        return fail(Texts::tr("%1: only list entries can be added").arg(place.path));
     }
     if (!place.isAbsent) {
         return fail(EntryTexts::present(place.node->shape->entry, place.path));
     }
     if (place.entry.occurrence > 1) {
         return fail(
-            Texts::tr("%1: a second entry of the same key cannot be added").arg(place.path));
+            Texts::tr("%1: a second entry with the same key cannot be added").arg(place.path));
     }
     const EValue key = place.node->key().value();
     if (!acceptsValue(key, place.path, place.entry.key)) {
@@ -99,11 +99,11 @@ bool ItemEditor::remove(const QString &path)
         return false;
     }
     if (!place.isEntry && (place.node->kind() == EKind::GROUP || place.node->isList())) {
-        return fail(
-            Texts::tr("%1: only single items, entries and files can be removed").arg(place.path));
+        return fail(Texts::tr("%1: only single items, list entries and files can be removed")
+                        .arg(place.path));
     }
     if (place.node->isKey()) {
-        return fail(Texts::tr("%1: the entry cannot be without it").arg(place.path));
+        return fail(Texts::tr("%1: the entry cannot exist without this item").arg(place.path));
     }
     if (!place.isThere()) {
         return failAbsent(place);

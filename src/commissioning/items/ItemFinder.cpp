@@ -71,7 +71,7 @@ bool ItemFinder::find(const QString &path, SItemPlace &place, bool entryMayBeAbs
     place.node = &ItemTree::root();
     place.anchor = m_file.domDocument().documentElement();
     if (place.anchor.isNull()) {
-        return fail(Texts::tr("There is no configuration."));
+        return fail(Texts::tr("The document contains no configuration."));
     }
     QList<SItemPathStep> steps;
     QString reason;
@@ -90,7 +90,7 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
 {
     const QString path = joined(place.path, given.text());
     if (place.node->isList() && !place.isEntry) {
-        return fail(Texts::tr("%1: an entry of the list must be named, as in %2")
+        return fail(Texts::tr("%1: name an entry of the list, as in %2")
                         .arg(path, SItemPathStep{place.path, QStringLiteral("…"), 1, true}.text()));
     }
     const auto &children = place.node->children;
@@ -121,8 +121,8 @@ bool ItemFinder::step(const SItemPathStep &given, bool entryMayBeAbsent, SItemPl
 bool ItemFinder::enterList(const SItemPathStep &given, bool entryMayBeAbsent, SItemPlace &place)
 {
     if (!place.node->isList()) {
-        return fail(Texts::tr("%1: %2 is no list, nothing can stand in brackets behind it")
-                        .arg(place.path, given.word));
+        return fail(
+            Texts::tr("%1: %2 is not a list and takes no brackets").arg(place.path, given.word));
     }
     place.entry = given;
     place.entry.key = key(*place.node->shape, given.key);
@@ -247,13 +247,13 @@ bool ItemFinder::failUnknownWord(const SItemPlace &place, const QString &path, c
         }
     }
     if (words.isEmpty() || place.node->isItem()) {
-        return fail(Texts::tr("%1: there is no such item").arg(path));
+        return fail(Texts::tr("%1: unknown item").arg(path));
     }
     const QString meant = nearestName(word, words);
     if (!meant.isEmpty()) {
-        return fail(Texts::tr("%1: there is no such item; did you mean %2?")
-                        .arg(path, joined(place.path, meant)));
+        return fail(
+            Texts::tr("%1: unknown item; did you mean %2?").arg(path, joined(place.path, meant)));
     }
-    return fail(Texts::tr("%1: there is no such item; there are %2")
+    return fail(Texts::tr("%1: unknown item; expected is one of %2")
                     .arg(path, words.join(QStringLiteral(", "))));
 }

@@ -27,12 +27,12 @@ bool ItemReader::fail(const QString &text)
 
 bool ItemReader::failWithoutValue(const SItemPlace &place)
 {
-    return fail(Texts::tr("%1: this has no value of its own").arg(place.path));
+    return fail(Texts::tr("%1: this path does not lead to a single value").arg(place.path));
 }
 
 bool ItemReader::failAbsent(const SItemPlace &place)
 {
-    return fail(Texts::tr("%1: the configuration does not have it").arg(place.path));
+    return fail(Texts::tr("%1: the configuration does not contain this item").arg(place.path));
 }
 
 bool ItemReader::find(const QString &path, SItemPlace &place, bool entryMayBeAbsent)

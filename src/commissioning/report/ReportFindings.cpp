@@ -24,8 +24,7 @@ void ReportPage::writeFindings()
     const Element section(m_out, "section");
     writeHeading(ReportTexts::tr("Findings"), QStringLiteral("findings"));
     if (m_findings.all().isEmpty()) {
-        m_out.element("p",
-                      ReportTexts::tr("Nothing was found that is wrong or should be looked at."),
+        m_out.element("p", ReportTexts::tr("The check found no errors and no warnings."),
                       {{"class", QStringLiteral("card none")}});
         return;
     }

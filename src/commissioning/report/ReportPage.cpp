@@ -90,9 +90,10 @@ QByteArray ReportPage::write()
                 writeOptions();
             }
         }
-        m_out.element("footer",
-                      ReportTexts::tr("Made from the configuration alone; nothing is loaded "
-                                      "when this page is opened."));
+        m_out.element(
+            "footer",
+            ReportTexts::tr(
+                "Created from the configuration; the page loads nothing else when it is opened."));
     }
     m_out.lineBreak();
     return m_out.html().toUtf8();

@@ -141,7 +141,7 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
     }
     if (!object.value(Key::PROJECT_PATH).isString()
         || !(entry.projectPath.isEmpty() || CanonicalPaths::isStorable(entry.projectPath))) {
-        errorText = Texts::tr("\"%1\" has no path in a project, but \"%2\".")
+        errorText = Texts::tr("The project path \"%2\" of \"%1\" is not valid.")
                         .arg(entry.devicePath, entry.projectPath);
         return false;
     }

@@ -133,13 +133,14 @@ bool TreeMaker::isReplaceable(int root, const QString &path)
     CDeviceManifest manifest;
     QString reason;
     if (!readTreeManifest(root, manifest, reason)) {
-        return fail(Texts::tr("%1 is no device tree that can be replaced: %2").arg(path, reason));
+        return fail(
+            Texts::tr("%1 is not a device tree that can be replaced: %2").arg(path, reason));
     }
     TreeComparison comparison(manifest, {});
     compareTree(root, false, comparison);
     for (const CStagedTree::SDifference &difference : comparison.differences(true)) {
         if (difference.kind != CStagedTree::SDifference::MISSING) {
-            return fail(Texts::tr("%1 holds more than a device tree and cannot be replaced: %2")
+            return fail(Texts::tr("%1 contains more than a device tree and cannot be replaced: %2")
                             .arg(path, difference.message));
         }
     }
@@ -161,14 +162,16 @@ bool TreeMaker::findArchive(const CStagedTree::STarget &target)
         return fail(cannotBeWritten(target.archive,
                                     S_ISDIR(status.st_mode)
                                         ? qt_error_string(EISDIR)
-                                        : Texts::tr("This is no regular file.")));
+                                        : Texts::tr("This is not a regular file.")));
     }
     if (!m_root.isEmpty() && (m_archive + '/').startsWith(m_root + '/')) {
-        return fail(cannotBeWritten(target.archive, Texts::tr("It would lie in the tree.")));
+        return fail(
+            cannotBeWritten(target.archive, Texts::tr("The archive would be inside the tree.")));
     }
     for (const CStagingPlan::SFile &file : m_plan.files()) {
         if (file.source == m_archive) {
-            return fail(cannotBeWritten(target.archive, Texts::tr("It belongs to the project.")));
+            return fail(
+                cannotBeWritten(target.archive, Texts::tr("The file belongs to the project.")));
         }
     }
     return true;
@@ -214,7 +217,7 @@ bool TreeMaker::read(const CStagingPlan::SFile &file, const Take &take)
         return fail(cannotBeRead(file.projectPath, qt_error_string(errno)));
     }
     if (!S_ISREG(status.st_mode)) {
-        return fail(cannotBeRead(file.projectPath, Texts::tr("This is no regular file.")));
+        return fail(cannotBeRead(file.projectPath, Texts::tr("This is not a regular file.")));
     }
     QByteArray block(BlockSize, Qt::Uninitialized);
     for (;;) {
@@ -387,7 +390,7 @@ bool TreeMaker::putInPlace()
     const bool isSynced = (!m_tree || syncDirectory(parentOf(m_root)) == 0)
         && (!m_packed || syncDirectory(parentOf(m_archive)) == 0);
     return isSynced
-        || fail(Texts::tr("%1; everything is in place, but a power cut may undo it")
+        || fail(Texts::tr("%1; all files are in place, but a power failure may undo this")
                     .arg(qt_error_string(errno)));
 }
 
@@ -395,7 +398,7 @@ bool TreeMaker::step(qint64 bytes)
 {
     m_done += bytes;
     m_isCancelled = m_progress && !m_progress(qMin(m_done, m_total), m_total);
-    return !m_isCancelled || fail(Texts::tr("It was cancelled."));
+    return !m_isCancelled || fail(Texts::tr("The operation was cancelled."));
 }
 
 bool TreeMaker::fail(const QString &text)
@@ -406,7 +409,7 @@ bool TreeMaker::fail(const QString &text)
 
 bool TreeMaker::failNotEmpty(const QString &root)
 {
-    return fail(Texts::tr("%1 is there already, and is not empty.").arg(root));
+    return fail(Texts::tr("%1 already exists and is not empty.").arg(root));
 }
 
 bool TreeMaker::failTree(int error)

@@ -216,8 +216,7 @@ void printStart(Page &page)
     page.text(purpose());
     page.nextParagraph();
     page.text(Texts::tr("Results go to standard output, diagnostics to standard error. Programs "
-                        "should ask for --json: nothing in it but sentences depends on the "
-                        "language."));
+                        "should use --json: only the sentences in it depend on the language."));
 }
 
 void printOptionsAndCommands(Page &page)

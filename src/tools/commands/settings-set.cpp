@@ -12,7 +12,7 @@ const QString NameOption = QStringLiteral("name");
 const QString DriveOption = QStringLiteral("drive");
 const QString CreateOption = QStringLiteral("create");
 
-/** Sets what "NUMBER=NAME" tells. @return whether it is that */
+/** Sets the name in "NUMBER=NAME". @return whether @p text has this form */
 bool setDriveName(const QString &assignment, CDeviceSettings &settings)
 {
     const int equals = assignment.indexOf(QLatin1Char('='));

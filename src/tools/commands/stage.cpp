@@ -175,13 +175,13 @@ QString wrongUsage(const CommandLine &line)
 {
     const bool hasRoot = !line.value(QStringLiteral("to")).isEmpty();
     if (line.value(QStringLiteral("project")).isEmpty()) {
-        return Texts::tr("Which project? Give --project DIR.");
+        return Texts::tr("The project is missing. Give --project DIR.");
     }
     if (!hasRoot && line.value(QStringLiteral("archive")).isEmpty()) {
-        return Texts::tr("Nothing to make. Give --to ROOT, --archive OUT, or both.");
+        return Texts::tr("The target is missing. Give --to ROOT, --archive OUT, or both.");
     }
     if (!hasRoot && line.isSet(QStringLiteral("replace"))) {
-        return Texts::tr("Nothing to replace. Give --to ROOT.");
+        return Texts::tr("Only a directory can be replaced. Give --to ROOT.");
     }
     return QString();
 }
