@@ -1039,70 +1039,6 @@
         <source>The file that is transferred last overwrites the other one.</source>
         <translation>Die zuletzt übertragene überschreibt die andere.</translation>
     </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid date.</source>
-        <translation>&apos;%1&apos; ist kein gültiges Datum.</translation>
-    </message>
-    <message>
-        <source>a date such as 2026-11-21</source>
-        <translation>ein Datum wie 2026-11-21</translation>
-    </message>
-    <message>
-        <source>Unknown device class &apos;%1&apos;; it is read as &apos;%2&apos;.</source>
-        <translation>Unbekannte Geräteklasse &apos;%1&apos;; sie wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid hardware identity.</source>
-        <translation>&apos;%1&apos; ist keine gültige Hardwarekennung.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false; it is read as false.</source>
-        <translation>&apos;%1&apos; ist weder true noch false; es wird als false gelesen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid priority.</source>
-        <translation>&apos;%1&apos; ist keine gültige Priorität.</translation>
-    </message>
-    <message>
-        <source>a number from -2147483648 to 2147483647</source>
-        <translation>eine Zahl von -2147483648 bis 2147483647</translation>
-    </message>
-    <message>
-        <source>The drive has no type; it is read as &apos;%1&apos;.</source>
-        <translation>Der Antrieb hat keinen Typ; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>The type of the drive is &apos;Undefined&apos;; it is read as &apos;%1&apos;.</source>
-        <translation>Der Typ des Antriebs ist &apos;Undefined&apos;; er wird als &apos;%1&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>Unknown drive type &apos;%1&apos;; the drive is read as &apos;%2&apos;.</source>
-        <translation>Unbekannter Antriebstyp &apos;%1&apos;; der Antrieb wird als &apos;%2&apos; gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to %1</source>
-        <translation>eine Zahl von 0 bis %1</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid drive number.</source>
-        <translation>&apos;%1&apos; ist keine gültige Antriebsnummer.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a valid bus identifier; it is read as 0.</source>
-        <translation>&apos;%1&apos; ist keine gültige Buskennung; sie wird als 0 gelesen.</translation>
-    </message>
-    <message>
-        <source>a number from 0 to 4294967295</source>
-        <translation>eine Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>Behind a symbolic link &apos;..&apos; leads to another directory.</source>
-        <translation>Hinter einer symbolischen Verknüpfung führt &apos;..&apos; in ein anderes Verzeichnis.</translation>
-    </message>
-    <message>
-        <source>The type of the drive is left open.</source>
-        <translation>Der Typ des Antriebs ist offen gelassen.</translation>
-    </message>
 </context>
 <context>
     <name>CConfigurationItems</name>
@@ -1356,159 +1292,6 @@
 <context>
     <name>CConfigurationReport</name>
     <message>
-        <source>Configuration</source>
-        <translation>Konfiguration</translation>
-    </message>
-    <message>
-        <source>Parameter values</source>
-        <translation>Parameterwerte</translation>
-    </message>
-    <message>
-        <source>Parameter definition</source>
-        <translation>Parameterdefinition</translation>
-    </message>
-    <message>
-        <source>Object dictionary</source>
-        <translation>Objektverzeichnis</translation>
-    </message>
-    <message>
-        <source>Fault texts</source>
-        <translation>Fehlertexte</translation>
-    </message>
-    <message>
-        <source>Additional file</source>
-        <translation>Zusätzliche Datei</translation>
-    </message>
-    <message>
-        <source>Plug-in</source>
-        <translation>Plug-in</translation>
-    </message>
-    <message>
-        <source>FPGA image</source>
-        <translation>FPGA-Abbild</translation>
-    </message>
-    <message>
-        <source>OPC UA model</source>
-        <translation>OPC-UA-Modell</translation>
-    </message>
-    <message>
-        <source>EtherCAT bus configuration</source>
-        <translation>EtherCAT-Buskonfiguration</translation>
-    </message>
-    <message>
-        <source>Parameters</source>
-        <translation>Parameter</translation>
-    </message>
-    <message>
-        <source>Firmware</source>
-        <translation>Firmware</translation>
-    </message>
-    <message>
-        <source>Logic</source>
-        <translation>Logik</translation>
-    </message>
-    <message>
-        <source>Parameters of the drive itself</source>
-        <translation>Parameter des Antriebs selbst</translation>
-    </message>
-    <message>
-        <source>en</source>
-        <extracomment>The code of the language that these texts are translated into, as &quot;de&quot; or &quot;pt-BR&quot;.</extracomment>
-        <translation>de</translation>
-    </message>
-    <message>
-        <source>Created from the configuration; the page loads nothing else when it is opened.</source>
-        <translation>Aus der Konfiguration erzeugt; die Seite lädt beim Öffnen nichts nach.</translation>
-    </message>
-    <message>
-        <source>Configuration without a name</source>
-        <translation>Konfiguration ohne Namen</translation>
-    </message>
-    <message>
-        <source>%1 – configuration report</source>
-        <translation>%1 – Konfigurationsbericht</translation>
-    </message>
-    <message>
-        <source>Configuration report</source>
-        <translation>Konfigurationsbericht</translation>
-    </message>
-    <message>
-        <source>Errors</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>Warnings</source>
-        <translation>Warnungen</translation>
-    </message>
-    <message>
-        <source>Drives</source>
-        <translation>Antriebe</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
-    </message>
-    <message>
-        <source>Plug-ins</source>
-        <translation>Plug-ins</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>Befunde</translation>
-    </message>
-    <message>
-        <source>Device</source>
-        <translation>Gerät</translation>
-    </message>
-    <message>
-        <source>Files of the device</source>
-        <translation>Dateien des Geräts</translation>
-    </message>
-    <message>
-        <source>Start options</source>
-        <translation>Startoptionen</translation>
-    </message>
-    <message>
-        <source>Sections of this page</source>
-        <translation>Abschnitte dieser Seite</translation>
-    </message>
-    <message>
-        <source>line %1, column %2</source>
-        <translation>Zeile %1, Spalte %2</translation>
-    </message>
-    <message>
-        <source>The check found no errors and no warnings.</source>
-        <translation>Die Prüfung ergab weder Fehler noch Warnungen.</translation>
-    </message>
-    <message>
-        <source>Further findings: %1</source>
-        <translation>Weitere Befunde: %1</translation>
-    </message>
-    <message>
-        <source>The configuration as a whole</source>
-        <translation>Die Konfiguration insgesamt</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>Warning</source>
-        <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>Found:</source>
-        <translation>Gefunden:</translation>
-    </message>
-    <message>
-        <source>Expected:</source>
-        <translation>Erwartet:</translation>
-    </message>
-    <message>
-        <source>Hint:</source>
-        <translation>Hinweis:</translation>
-    </message>
-    <message>
         <source>No bus ID</source>
         <translation>Keine Bus-ID</translation>
     </message>
@@ -1545,16 +1328,8 @@
         <translation>Das Gerät und seine Antriebe</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Comment</source>
-        <translation>Kommentar</translation>
-    </message>
-    <message>
-        <source>Class</source>
-        <translation>Klasse</translation>
+        <source>Device</source>
+        <translation>Gerät</translation>
     </message>
     <message>
         <source>Product</source>
@@ -1565,26 +1340,6 @@
         <translation>Plattform, Version, Revision</translation>
     </message>
     <message>
-        <source>Hardware identity</source>
-        <translation>Hardwarekennung</translation>
-    </message>
-    <message>
-        <source>Configuration name</source>
-        <translation>Konfigurationsname</translation>
-    </message>
-    <message>
-        <source>Version of the configuration</source>
-        <translation>Version der Konfiguration</translation>
-    </message>
-    <message>
-        <source>Created</source>
-        <translation>Erstellt</translation>
-    </message>
-    <message>
-        <source>Last revision</source>
-        <translation>Letzte Überarbeitung</translation>
-    </message>
-    <message>
         <source>Written by</source>
         <translation>Geschrieben von</translation>
     </message>
@@ -1593,12 +1348,24 @@
         <translation>Geschrieben am</translation>
     </message>
     <message>
+        <source>Drives</source>
+        <translation>Antriebe</translation>
+    </message>
+    <message>
         <source>The device has no drives.</source>
         <translation>Das Gerät hat keine Antriebe.</translation>
     </message>
     <message>
-        <source>Bus identifier</source>
-        <translation>Buskennung</translation>
+        <source>Configuration</source>
+        <translation>Konfiguration</translation>
+    </message>
+    <message>
+        <source>Parameter values</source>
+        <translation>Parameterwerte</translation>
+    </message>
+    <message>
+        <source>Parameter definition</source>
+        <translation>Parameterdefinition</translation>
     </message>
     <message>
         <source>Object dictionary, fault texts, bus configuration</source>
@@ -1613,16 +1380,8 @@
         <translation>Aktiv</translation>
     </message>
     <message>
-        <source>Parameter files</source>
-        <translation>Parameterdateien</translation>
-    </message>
-    <message>
-        <source>FPGA images</source>
-        <translation>FPGA-Abbilder</translation>
-    </message>
-    <message>
-        <source>OPC UA models</source>
-        <translation>OPC-UA-Modelle</translation>
+        <source>Files of the device</source>
+        <translation>Dateien des Geräts</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -1631,10 +1390,6 @@
     <message>
         <source>Disabled</source>
         <translation>Ausgeschaltet</translation>
-    </message>
-    <message>
-        <source>Additional files</source>
-        <translation>Zusätzliche Dateien</translation>
     </message>
     <message>
         <source>File</source>
@@ -1653,16 +1408,97 @@
         <translation>Im Projekt</translation>
     </message>
     <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>The check found no errors and no warnings.</source>
+        <translation>Die Prüfung ergab weder Fehler noch Warnungen.</translation>
+    </message>
+    <message>
+        <source>Further findings: %1</source>
+        <translation>Weitere Befunde: %1</translation>
+    </message>
+    <message>
+        <source>The configuration as a whole</source>
+        <translation>Die Konfiguration insgesamt</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Found:</source>
+        <translation>Gefunden:</translation>
+    </message>
+    <message>
+        <source>Expected:</source>
+        <translation>Erwartet:</translation>
+    </message>
+    <message>
+        <source>Hint:</source>
+        <translation>Hinweis:</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language that these texts are translated into, as &quot;de&quot; or &quot;pt-BR&quot;.</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Created from the configuration; the page loads nothing else when it is opened.</source>
+        <translation>Aus der Konfiguration erzeugt; die Seite lädt beim Öffnen nichts nach.</translation>
+    </message>
+    <message>
+        <source>Configuration without a name</source>
+        <translation>Konfiguration ohne Namen</translation>
+    </message>
+    <message>
+        <source>%1 – configuration report</source>
+        <translation>%1 – Konfigurationsbericht</translation>
+    </message>
+    <message>
+        <source>Configuration report</source>
+        <translation>Konfigurationsbericht</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Start options</source>
+        <translation>Startoptionen</translation>
+    </message>
+    <message>
+        <source>Sections of this page</source>
+        <translation>Abschnitte dieser Seite</translation>
+    </message>
+    <message>
         <source>The device has no plug-ins.</source>
         <translation>Das Gerät hat keine Plug-ins.</translation>
     </message>
     <message>
-        <source>Version</source>
-        <translation>Version</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>Priorität</translation>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
     </message>
     <message>
         <source>Runs the application</source>
@@ -2179,50 +2015,6 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
 <context>
     <name>CStagedTree</name>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 ist nicht lesbar: %2</translation>
-    </message>
-    <message>
-        <source>The operation was cancelled.</source>
-        <translation>Der Vorgang wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <source>%1 already exists and is not empty.</source>
-        <translation>%1 existiert schon und ist nicht leer.</translation>
-    </message>
-    <message>
-        <source>%1 is not a device tree that can be replaced: %2</source>
-        <translation>%1 ist kein Gerätebaum, der ersetzt werden kann: %2</translation>
-    </message>
-    <message>
-        <source>%1 contains more than a device tree and cannot be replaced: %2</source>
-        <translation>%1 enthält mehr als einen Gerätebaum und kann nicht ersetzt werden: %2</translation>
-    </message>
-    <message>
-        <source>This is not a regular file.</source>
-        <translation>Dies ist keine reguläre Datei.</translation>
-    </message>
-    <message>
-        <source>The archive would be inside the tree.</source>
-        <translation>Das Archiv läge innerhalb des Baums.</translation>
-    </message>
-    <message>
-        <source>The file belongs to the project.</source>
-        <translation>Die Datei gehört zum Projekt.</translation>
-    </message>
-    <message>
-        <source>%1 changed while it was copied.</source>
-        <translation>%1 hat sich während des Kopierens geändert.</translation>
-    </message>
-    <message>
-        <source>%1; all files are in place, but a power failure may undo this</source>
-        <translation>%1; alle Dateien sind an ihrem Platz, aber ein Stromausfall kann dies rückgängig machen</translation>
-    </message>
-    <message>
         <source>The plan contains no files.</source>
         <translation>Der Plan enthält keine Dateien.</translation>
     </message>
@@ -2233,6 +2025,10 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>This is neither a directory nor a regular file.</source>
         <translation>Dies ist weder ein Verzeichnis noch eine reguläre Datei.</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The archive is truncated.</source>
@@ -2249,6 +2045,10 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
     <message>
         <source>The checksum of the archive is wrong.</source>
         <translation>Die Prüfsumme des Archivs ist falsch.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
     </message>
     <message>
         <source>There are too many differences.</source>
@@ -2287,8 +2087,44 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>%1 fehlt.</translation>
     </message>
     <message>
+        <source>This is not a regular file.</source>
+        <translation>Dies ist keine reguläre Datei.</translation>
+    </message>
+    <message>
         <source>%1 is missing in the archive.</source>
         <translation>%1 fehlt im Archiv.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a device tree that can be replaced: %2</source>
+        <translation>%1 ist kein Gerätebaum, der ersetzt werden kann: %2</translation>
+    </message>
+    <message>
+        <source>%1 contains more than a device tree and cannot be replaced: %2</source>
+        <translation>%1 enthält mehr als einen Gerätebaum und kann nicht ersetzt werden: %2</translation>
+    </message>
+    <message>
+        <source>The archive would be inside the tree.</source>
+        <translation>Das Archiv läge innerhalb des Baums.</translation>
+    </message>
+    <message>
+        <source>The file belongs to the project.</source>
+        <translation>Die Datei gehört zum Projekt.</translation>
+    </message>
+    <message>
+        <source>%1 changed while it was copied.</source>
+        <translation>%1 hat sich während des Kopierens geändert.</translation>
+    </message>
+    <message>
+        <source>%1; all files are in place, but a power failure may undo this</source>
+        <translation>%1; alle Dateien sind an ihrem Platz, aber ein Stromausfall kann dies rückgängig machen</translation>
+    </message>
+    <message>
+        <source>%1 already exists and is not empty.</source>
+        <translation>%1 existiert schon und ist nicht leer.</translation>
     </message>
 </context>
 <context>
@@ -2630,7 +2466,7 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>eine Zahl von %1 bis %2</translation>
     </message>
     <message>
-        <source>a date like 2026-11-21</source>
+        <source>a date such as 2026-11-21</source>
         <translation>ein Datum wie 2026-11-21</translation>
     </message>
     <message>

@@ -13,7 +13,6 @@
 /** Files with a configuration, as the commands on items need them. */
 namespace ItemCommands {
 
-using SResult;
 const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
 
 inline QString toJson(const QString &path, const QString &value)

@@ -21,7 +21,7 @@
 /** The page of a report, as its reader finds his way in it. */
 namespace ReportPages {
 
-SConfigurationFinding
+inline SConfigurationFinding
 finding(const QString &item,
         SConfigurationFinding::ESeverity severity = SConfigurationFinding::ERROR)
 {

@@ -3,6 +3,7 @@
 #include "configfile/ItemValue.h"
 #include "configfile/ShapePaths.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QSet>
@@ -411,5 +412,5 @@ void tst_configurationshape::orderOfAPartlyFilledDevice()
     QVERIFY(own.firstChildElement(u"SubDevice"_s).isNull());
 }
 
-QTEST_APPLESS_MAIN(tst_configurationshape)
+REGISTER_APPLESS_TEST(tst_configurationshape)
 #include "tst_configurationshape.moc"

@@ -1,5 +1,6 @@
 #include "configfile/ItemValue.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -233,5 +234,5 @@ void tst_itemvalue::texts()
     QCOMPARE(expected(kind), wanted);
 }
 
-QTEST_APPLESS_MAIN(tst_itemvalue)
+REGISTER_APPLESS_TEST(tst_itemvalue)
 #include "tst_itemvalue.moc"

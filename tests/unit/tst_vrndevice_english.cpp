@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/TestProgram.h"
 #include "support/Tool.h"
 
 #include <QDirIterator>
@@ -242,5 +243,5 @@ void tst_vrndevice_english::document()
     QVERIFY2(found.isEmpty(), qPrintable(u"\n"_s + found.join(u'\n')));
 }
 
-QTEST_GUILESS_MAIN(tst_vrndevice_english)
+REGISTER_GUILESS_TEST(tst_vrndevice_english)
 #include "tst_vrndevice_english.moc"
