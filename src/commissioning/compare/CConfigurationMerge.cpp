@@ -3,22 +3,18 @@
 #include "commissioning/compare/ConfigurationChanges.h"
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
 
 using namespace ConfigurationChanges;
+using ConfigurationMergeTexts::Texts;
 using ConfigurationWords::shown;
 
 namespace {
-
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationMerge)
-};
 
 using SConflict = CConfigurationMerge::SConflict;
 

@@ -2,8 +2,8 @@
 
 #include "commissioning/compare/ConfigurationChanges.h"
 #include "commissioning/compare/ConfigurationWords.h"
+#include "commissioning/Texts.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -11,12 +11,9 @@
 
 #include <algorithm>
 
-namespace {
+using ConfigurationPatchTexts::Texts;
 
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
+namespace {
 
 using SChange = CConfigurationPatch::SChange;
 

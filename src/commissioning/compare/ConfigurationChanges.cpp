@@ -2,15 +2,16 @@
 
 #include "commissioning/compare/ConfigurationWords.h"
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 #include "vocabulary/DriveTypes.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
 
 using namespace ConfigurationChanges;
+using ConfigurationPatchTexts::Texts;
 using ConfigurationShape::EEntry;
 using ConfigurationShape::EValue;
 using ConfigurationWords::shown;
@@ -18,11 +19,6 @@ using ConfigurationWords::shown;
 using ItemPath::joined;
 
 namespace {
-
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
 
 QString nameOf(const SItemPath &path)
 {

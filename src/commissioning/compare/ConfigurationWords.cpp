@@ -1,16 +1,12 @@
 #include "commissioning/compare/ConfigurationWords.h"
 
 #include "commissioning/items/ItemPath.h"
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
-#include <QCoreApplication>
+using ConfigurationPatchTexts::Texts;
 
 namespace {
-
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationPatch)
-};
 
 /** Lists, and words that the description of the document does not have, stand for themselves. */
 QString translated(const QString &path, const QString &word)
