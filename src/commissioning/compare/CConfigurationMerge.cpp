@@ -91,7 +91,7 @@ public:
     {
         mergeEntry(m_base.description, m_ours.description, m_theirs.description, IN_BASE);
         mergeEntry(m_base.device, m_ours.device, m_theirs.device, IN_BASE);
-        const QStringList lists = ShapePaths::lists();
+        const QStringList &lists = ShapePaths::lists();
         for (const QString &list : lists) {
             mergeList(list);
         }
