@@ -11,6 +11,7 @@
 #include <algorithm>
 
 using namespace ConfigurationChanges;
+using ConfigurationMergeTexts::Texts;
 using ConfigurationWords::shown;
 
 namespace {
@@ -92,7 +93,7 @@ public:
     {
         mergeEntry(m_base.description, m_ours.description, m_theirs.description, IN_BASE);
         mergeEntry(m_base.device, m_ours.device, m_theirs.device, IN_BASE);
-        const QStringList lists = ShapePaths::lists();
+        const QStringList &lists = ShapePaths::lists();
         for (const QString &list : lists) {
             mergeList(list);
         }

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace {
+using ConfigurationPatchTexts::Texts;
 
 using ConfigurationPatchTexts::Texts;
 

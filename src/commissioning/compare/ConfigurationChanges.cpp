@@ -11,6 +11,7 @@
 #include <algorithm>
 
 using namespace ConfigurationChanges;
+using ConfigurationPatchTexts::Texts;
 using ConfigurationShape::EEntry;
 using ConfigurationShape::EValue;
 using ConfigurationWords::shown;

@@ -1,7 +1,9 @@
 #include "commissioning/report/ReportPage.h"
 
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
+using ConfigurationReportTexts::Texts;
 using Element = HtmlWriter::Element;
 
 DeviceDrawing::EMark ReportPage::mark(const QStringList &items) const
@@ -36,13 +38,13 @@ DeviceDrawing::SModule ReportPage::module(const SDrive &drive) const
         items.append(file.item);
     }
     module.mark = mark(items);
-    QString text = ReportTexts::tr("Drive %1: %2, series %3. %4.");
+    QString text = Texts::tr("Drive %1: %2, series %3. %4.");
     switch (module.mark) {
     case DeviceDrawing::MARK_ERROR:
-        text = ReportTexts::tr("Drive %1: %2, series %3. %4. It has errors.");
+        text = Texts::tr("Drive %1: %2, series %3. %4. It has errors.");
         break;
     case DeviceDrawing::MARK_WARNING:
-        text = ReportTexts::tr("Drive %1: %2, series %3. %4. It has warnings.");
+        text = Texts::tr("Drive %1: %2, series %3. %4. It has warnings.");
         break;
     case DeviceDrawing::MARK_NONE:
         break;
@@ -61,7 +63,7 @@ void ReportPage::writeDrawing()
     drawn.target = QStringLiteral("device");
     drawn.details = QStringList{
         device.productName(),
-        ReportTexts::tr("Class %1").arg(CDeviceElement::deviceClassString(device.deviceClass()))};
+        Texts::tr("Class %1").arg(CDeviceElement::deviceClassString(device.deviceClass()))};
     drawn.details.removeAll(QString());
     if (!m_overview.etherCatMaster().file.isNull()) {
         drawn.sockets.append(QStringLiteral("EtherCAT"));
@@ -70,13 +72,13 @@ void ReportPage::writeDrawing()
         drawn.sockets.append(QStringLiteral("OPC UA"));
     }
     drawn.mark = mark({QStringLiteral("device")});
-    drawn.withoutModules = ReportTexts::tr("No drives");
+    drawn.withoutModules = Texts::tr("No drives");
     for (const SDrive &drive : m_overview.drives()) {
         drawn.modules.append(module(drive));
     }
     {
         const Element section(m_out, "section", {{"aria-labelledby", QStringLiteral("drawing")}});
-        writeHeading(ReportTexts::tr("The device and its drives"), QStringLiteral("drawing"));
+        writeHeading(Texts::tr("The device and its drives"), QStringLiteral("drawing"));
         const Element figure(m_out, "figure", {{"class", QStringLiteral("card")}});
         DeviceDrawing::write(drawn, DeviceDrawing::LAYOUT_WIDE, m_out);
         DeviceDrawing::write(drawn, DeviceDrawing::LAYOUT_NARROW, m_out);
@@ -89,7 +91,7 @@ void ReportPage::writeDevice()
     const CDeviceElement &device = m_overview.device();
     const CDeviceHardwareId &hardware = device.hardwareId();
     const Element section(m_out, "section");
-    writeHeading(ReportTexts::tr("Device"), QStringLiteral("device"));
+    writeHeading(Texts::tr("Device"), QStringLiteral("device"));
     {
         const Element card(m_out, "div", {{"class", QStringLiteral("card")}});
         writeFindings({QStringLiteral("device")});
@@ -97,8 +99,8 @@ void ReportPage::writeDevice()
         for (const SShownItem &item : ShownItems::ofDevice(device)) {
             writeFact(item);
         }
-        writeFact(ReportTexts::tr("Product"), hardware.name());
-        writeFact(ReportTexts::tr("Platform, version, revision"),
+        writeFact(Texts::tr("Product"), hardware.name());
+        writeFact(Texts::tr("Platform, version, revision"),
                   hardware.isNull() ? QString()
                                     : QStringLiteral("%1 · %2 · %3")
                                           .arg(hardware.platform())
@@ -120,18 +122,18 @@ void ReportPage::writeDescription()
                         {QStringLiteral("name"), QStringLiteral("comment")})) {
         writeFact(item);
     }
-    writeFact(ReportTexts::tr("Written by"), m_overview.metaData().author());
-    writeFact(ReportTexts::tr("Written on"), m_overview.metaData().date().toString(Qt::ISODate));
+    writeFact(Texts::tr("Written by"), m_overview.metaData().author());
+    writeFact(Texts::tr("Written on"), m_overview.metaData().date().toString(Qt::ISODate));
 }
 
 void ReportPage::writeDrives()
 {
     const Element section(m_out, "section");
-    writeHeading(ReportTexts::tr("Drives"), QStringLiteral("drives"));
+    writeHeading(Texts::tr("Drives"), QStringLiteral("drives"));
     const QStringList items = {QStringLiteral("drive")};
     writeFindings(items);
     if (m_overview.drives().isEmpty()) {
-        m_out.element("p", ReportTexts::tr("The device has no drives."),
+        m_out.element("p", Texts::tr("The device has no drives."),
                       {{"class", QStringLiteral("card soft")}});
     }
     for (const SDrive &drive : m_overview.drives()) {

@@ -1,9 +1,11 @@
 #include "commissioning/report/ReportPage.h"
 
 #include "commissioning/report/OverviewFiles.h"
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
 using namespace NvrnDeviceCore;
+using ConfigurationReportTexts::Texts;
 using ConfigurationShape::EEntry;
 using Element = HtmlWriter::Element;
 
@@ -13,11 +15,11 @@ QString kindText(EDeviceFile kind)
 {
     switch (kind) {
     case DEVICE_FILE_NONE:
-        return ReportTexts::tr("Configuration");
+        return Texts::tr("Configuration");
     case DEVICE_FILE_PARAMETER_VALUES:
-        return ReportTexts::tr("Parameter values");
+        return Texts::tr("Parameter values");
     case DEVICE_FILE_PARAMETER_DEFINITION:
-        return ReportTexts::tr("Parameter definition");
+        return Texts::tr("Parameter definition");
     default:
         return ConfigurationShape::capitalized(ShapePaths::noun(kind));
     }
@@ -43,7 +45,7 @@ void ReportPage::writeSingleFiles()
             files.append(file);
         }
     }
-    writeGroup(ReportTexts::tr("Object dictionary, fault texts, bus configuration"), missing,
+    writeGroup(Texts::tr("Object dictionary, fault texts, bus configuration"), missing,
                rows(files));
 }
 
@@ -67,7 +69,7 @@ QList<ReportPage::SRow> ReportPage::parameterRows() const
         QList<SRow> pair;
         for (const SFile &file : parameters.files) {
             pair.append({QString(),
-                         ReportTexts::tr("%1, %2").arg(kindText(file.kind), parameters.typeText),
+                         Texts::tr("%1, %2").arg(kindText(file.kind), parameters.typeText),
                          file.file,
                          QString(),
                          {}});
@@ -92,7 +94,7 @@ QList<ReportPage::SRow> ReportPage::fpgaRows() const
 {
     QList<SRow> result = rows(m_overview.fpgaFiles());
     if (!result.isEmpty()) {
-        result.first().badge = ReportTexts::tr("Active");
+        result.first().badge = Texts::tr("Active");
     }
     return result;
 }
@@ -100,8 +102,8 @@ QList<ReportPage::SRow> ReportPage::fpgaRows() const
 void ReportPage::writeFiles()
 {
     const Element section(m_out, "section");
-    writeHeading(ReportTexts::tr("Files of the device"), QStringLiteral("files"));
-    writeGroup(ReportTexts::tr("Configuration"), {}, rows({m_overview.configurationFile()}));
+    writeHeading(Texts::tr("Files of the device"), QStringLiteral("files"));
+    writeGroup(Texts::tr("Configuration"), {}, rows({m_overview.configurationFile()}));
     writeGroup(heading(EEntry::PARAMETER_FILE), {ShapePaths::list(EEntry::PARAMETER_FILE)},
                parameterRows());
     writeSingleFiles();
@@ -111,8 +113,7 @@ void ReportPage::writeFiles()
     writeGroup(heading(EEntry::OPC_UA_FILE),
                {QStringLiteral("device.opcUaEnabled"), ShapePaths::list(EEntry::OPC_UA_FILE)},
                rows(m_overview.opcUaFiles()),
-               m_overview.device().isOpcUaEnabled() ? ReportTexts::tr("Enabled")
-                                                    : ReportTexts::tr("Disabled"));
+               m_overview.device().isOpcUaEnabled() ? Texts::tr("Enabled") : Texts::tr("Disabled"));
     writeGroup(heading(EEntry::FILE), {ShapePaths::list(EEntry::FILE)},
                rows(m_overview.additionalFiles()));
 }
@@ -158,8 +159,8 @@ void ReportPage::writeFileTable(const QList<SRow> &rows)
         m_out.empty("col");
         m_out.empty("col");
     }
-    writeColumnHeads({ReportTexts::tr("File"), ReportTexts::tr("Kind"),
-                      ReportTexts::tr("On the device"), ReportTexts::tr("In the project")});
+    writeColumnHeads({Texts::tr("File"), Texts::tr("Kind"), Texts::tr("On the device"),
+                      Texts::tr("In the project")});
     const Element body(m_out, "tbody");
     for (const SRow &row : rows) {
         m_out.lineBreak();
@@ -182,9 +183,9 @@ void ReportPage::writeFileRow(const SRow &row)
         writeComment(row.file.comment());
         writeOthers(row.others);
     }
-    m_out.element("td", row.kind, {{"data-label", ReportTexts::tr("Kind")}});
-    writeDirectory(ReportTexts::tr("On the device"), row.file.devicePath());
-    writeDirectory(ReportTexts::tr("In the project"), row.file.projectPath());
+    m_out.element("td", row.kind, {{"data-label", Texts::tr("Kind")}});
+    writeDirectory(Texts::tr("On the device"), row.file.devicePath());
+    writeDirectory(Texts::tr("In the project"), row.file.projectPath());
 }
 
 void ReportPage::writeDirectory(const QString &label, const QString &directory)

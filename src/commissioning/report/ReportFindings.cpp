@@ -1,7 +1,10 @@
 #include "commissioning/report/ReportPage.h"
 
+#include "commissioning/Texts.h"
+
 #include <algorithm>
 
+using ConfigurationReportTexts::Texts;
 using Element = HtmlWriter::Element;
 
 namespace {
@@ -14,7 +17,7 @@ const int SummaryLength = 12;
 QString ReportPage::place(const SConfigurationFinding &finding) const
 {
     return finding.position.isKnown()
-        ? ReportTexts::tr("line %1, column %2")
+        ? Texts::tr("line %1, column %2")
               .arg(QString::number(finding.position.line), QString::number(finding.position.column))
         : QString();
 }
@@ -22,7 +25,7 @@ QString ReportPage::place(const SConfigurationFinding &finding) const
 void ReportPage::writeFindings()
 {
     const Element section(m_out, "section");
-    writeHeading(ReportTexts::tr("Findings"), QStringLiteral("findings"));
+    writeHeading(Texts::tr("Findings"), QStringLiteral("findings"));
     if (m_findings.all().isEmpty()) {
         m_out.element("p", ReportTexts::tr("The check found no errors and no warnings."),
                       {{"class", QStringLiteral("card none")}});
@@ -39,8 +42,7 @@ void ReportPage::writeSummary()
     writeSummary(0, std::min(count, SummaryLength));
     if (count > SummaryLength) {
         const Element details(m_out, "details");
-        m_out.element("summary",
-                      ReportTexts::tr("Further findings: %1").arg(count - SummaryLength));
+        m_out.element("summary", Texts::tr("Further findings: %1").arg(count - SummaryLength));
         writeSummary(SummaryLength, count);
     }
 }
@@ -73,7 +75,7 @@ void ReportPage::writeFindingsOfWhole()
     const QStringList items = {QString(), QStringLiteral("description")};
     if (hasFindings(items)) {
         const Element card(m_out, "div", {{"class", QStringLiteral("card group")}});
-        m_out.element("h3", ReportTexts::tr("The configuration as a whole"));
+        m_out.element("h3", Texts::tr("The configuration as a whole"));
         writeFindings(items);
     }
 }
@@ -82,7 +84,7 @@ void ReportPage::writeSeverity(const SConfigurationFinding &finding)
 {
     const bool isError = finding.severity == SConfigurationFinding::ERROR;
     m_out.element(
-        "span", isError ? ReportTexts::tr("Error") : ReportTexts::tr("Warning"),
+        "span", isError ? Texts::tr("Error") : Texts::tr("Warning"),
         {{"class", isError ? QStringLiteral("badge error") : QStringLiteral("badge warning")}});
 }
 
@@ -109,10 +111,10 @@ void ReportPage::writeFinding(int index)
     };
     // Most messages quote what was found.
     if (!finding.message.contains(finding.found)) {
-        line(ReportTexts::tr("Found:"), finding.found);
+        line(Texts::tr("Found:"), finding.found);
     }
-    line(ReportTexts::tr("Expected:"), finding.expected);
-    line(ReportTexts::tr("Hint:"), finding.hint);
+    line(Texts::tr("Expected:"), finding.expected);
+    line(Texts::tr("Hint:"), finding.hint);
     const Element paragraph(m_out, "p", {{"class", QStringLiteral("place")}});
     m_out.element("code", finding.rule);
     const auto part = [this](const QString &text) {

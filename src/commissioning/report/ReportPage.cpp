@@ -1,9 +1,11 @@
 #include "commissioning/report/ReportPage.h"
 
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
 #include <QFile>
 
+using ConfigurationReportTexts::Texts;
 using Element = HtmlWriter::Element;
 
 namespace {
@@ -72,7 +74,7 @@ QByteArray ReportPage::write()
     m_out.raw(QStringLiteral("<!DOCTYPE html>\n"));
     {
         //: The code of the language that these texts are translated into, as "de" or "pt-BR".
-        const Element html(m_out, "html", {{"lang", ReportTexts::tr("en")}});
+        const Element html(m_out, "html", {{"lang", Texts::tr("en")}});
         writeHead();
         const Element body(m_out, "body");
         m_out.lineBreak();
@@ -104,7 +106,7 @@ QString ReportPage::title() const
     if (!m_overview.description().name().isEmpty()) {
         return m_overview.description().name();
     }
-    return m_overview.device().name().isEmpty() ? ReportTexts::tr("Configuration without a name")
+    return m_overview.device().name().isEmpty() ? Texts::tr("Configuration without a name")
                                                 : m_overview.device().name();
 }
 
@@ -119,7 +121,7 @@ void ReportPage::writeHead()
     m_out.empty("meta",
                 {{"http-equiv", QStringLiteral("Content-Security-Policy")},
                  {"content", QStringLiteral("default-src 'none'; style-src 'unsafe-inline'")}});
-    m_out.element("title", ReportTexts::tr("%1 – configuration report").arg(title()));
+    m_out.element("title", Texts::tr("%1 – configuration report").arg(title()));
     m_out.lineBreak();
     QFile css(QStringLiteral(":/vrnCommissioning/report.css"));
     css.open(QIODevice::ReadOnly);
@@ -132,7 +134,7 @@ void ReportPage::writePageHeader()
     const CDescriptionElement &description = m_overview.description();
     {
         const Element header(m_out, "header", {{"class", QStringLiteral("page")}});
-        m_out.element("p", ReportTexts::tr("Configuration report"),
+        m_out.element("p", Texts::tr("Configuration report"),
                       {{"class", QStringLiteral("eyebrow")}});
         {
             const Element heading(m_out, "h1");
@@ -156,27 +158,24 @@ void ReportPage::writeTile(const QString &label, int number, const char *cssClas
 void ReportPage::writeTiles()
 {
     const Element tiles(m_out, "ul", {{"class", QStringLiteral("tiles")}});
-    writeTile(ReportTexts::tr("Errors"), m_findings.count(SConfigurationFinding::ERROR), "error");
-    writeTile(ReportTexts::tr("Warnings"), m_findings.count(SConfigurationFinding::WARNING),
-              "warning");
-    writeTile(ReportTexts::tr("Drives"), m_overview.drives().size(), nullptr);
-    writeTile(ReportTexts::tr("Files"), m_overview.fileCount(), nullptr);
-    writeTile(ReportTexts::tr("Plug-ins"), m_overview.plugins().size(), nullptr);
+    writeTile(Texts::tr("Errors"), m_findings.count(SConfigurationFinding::ERROR), "error");
+    writeTile(Texts::tr("Warnings"), m_findings.count(SConfigurationFinding::WARNING), "warning");
+    writeTile(Texts::tr("Drives"), m_overview.drives().size(), nullptr);
+    writeTile(Texts::tr("Files"), m_overview.fileCount(), nullptr);
+    writeTile(Texts::tr("Plug-ins"), m_overview.plugins().size(), nullptr);
 }
 
 void ReportPage::writeNavigation()
 {
-    QList<QPair<QString, QString>> targets = {
-        {QStringLiteral("#findings"), ReportTexts::tr("Findings")}};
+    QList<QPair<QString, QString>> targets = {{QStringLiteral("#findings"), Texts::tr("Findings")}};
     if (m_overview.hasDevice()) {
-        targets += {{QStringLiteral("#device"), ReportTexts::tr("Device")},
-                    {QStringLiteral("#drives"), ReportTexts::tr("Drives")},
-                    {QStringLiteral("#files"), ReportTexts::tr("Files of the device")},
-                    {QStringLiteral("#plugins"), ReportTexts::tr("Plug-ins")},
-                    {QStringLiteral("#options"), ReportTexts::tr("Start options")}};
+        targets += {{QStringLiteral("#device"), Texts::tr("Device")},
+                    {QStringLiteral("#drives"), Texts::tr("Drives")},
+                    {QStringLiteral("#files"), Texts::tr("Files of the device")},
+                    {QStringLiteral("#plugins"), Texts::tr("Plug-ins")},
+                    {QStringLiteral("#options"), Texts::tr("Start options")}};
     }
-    const Element navigation(m_out, "nav",
-                             {{"aria-label", ReportTexts::tr("Sections of this page")}});
+    const Element navigation(m_out, "nav", {{"aria-label", Texts::tr("Sections of this page")}});
     const Element list(m_out, "ul");
     for (const auto &target : targets) {
         const Element entry(m_out, "li");

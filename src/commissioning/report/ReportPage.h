@@ -6,14 +6,6 @@
 #include "commissioning/report/HtmlWriter.h"
 #include "configfile/ShownItems.h"
 
-#include <QCoreApplication>
-
-/** The texts of the report, under the context in which they are translated. */
-class ReportTexts
-{
-    Q_DECLARE_TR_FUNCTIONS(CConfigurationReport)
-};
-
 /** A text, or a dash where it is empty. */
 QString orDash(const QString &text);
 

@@ -1,6 +1,9 @@
 #include "commissioning/report/ReportPage.h"
+
+#include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
 
+using ConfigurationReportTexts::Texts;
 using Element = HtmlWriter::Element;
 
 namespace {
@@ -17,12 +20,12 @@ QVector<SShownItem> itemsOf(const CConfigurationOverview::SPlugin &plugin)
 void ReportPage::writePlugins()
 {
     const Element section(m_out, "section");
-    writeHeading(ReportTexts::tr("Plug-ins"), QStringLiteral("plugins"));
+    writeHeading(Texts::tr("Plug-ins"), QStringLiteral("plugins"));
     const Element card(m_out, "div", {{"class", QStringLiteral("card")}});
     writeFindings({ShapePaths::list(ConfigurationShape::EEntry::PLUGIN),
                    QStringLiteral("device.executionPlugin")});
     if (m_overview.plugins().isEmpty()) {
-        m_out.element("p", ReportTexts::tr("The device has no plug-ins."),
+        m_out.element("p", Texts::tr("The device has no plug-ins."),
                       {{"class", QStringLiteral("soft")}});
         return;
     }
@@ -40,9 +43,8 @@ void ReportPage::writePlugins()
         m_out.empty("col");
         m_out.empty("col");
     }
-    writeColumnHeads(
-        QStringList{ReportTexts::tr("Plug-in")} + columns
-        + QStringList{ReportTexts::tr("On the device"), ReportTexts::tr("In the project")});
+    writeColumnHeads(QStringList{Texts::tr("Plug-in")} + columns
+                     + QStringList{Texts::tr("On the device"), Texts::tr("In the project")});
     const Element body(m_out, "tbody");
     for (const CConfigurationOverview::SPlugin &plugin : m_overview.plugins()) {
         m_out.lineBreak();
@@ -60,7 +62,7 @@ void ReportPage::writePlugin(const CConfigurationOverview::SPlugin &plugin)
         const Element name(m_out, "th", {{"scope", QStringLiteral("row")}});
         m_out.element("bdi", orDash(plugin.plugin.name()), {{"class", QStringLiteral("file")}});
         if (plugin.isExecuted) {
-            m_out.element("span", ReportTexts::tr("Runs the application"),
+            m_out.element("span", Texts::tr("Runs the application"),
                           {{"class", QStringLiteral("badge active")}});
         }
         if (!plugin.library.isNull()) {
@@ -72,18 +74,18 @@ void ReportPage::writePlugin(const CConfigurationOverview::SPlugin &plugin)
         const Element cell(m_out, "td", {{"data-label", item.title}});
         m_out.element("bdi", orDash(item.value));
     }
-    writeDirectory(ReportTexts::tr("On the device"), plugin.library.devicePath());
-    writeDirectory(ReportTexts::tr("In the project"), plugin.library.projectPath());
+    writeDirectory(Texts::tr("On the device"), plugin.library.devicePath());
+    writeDirectory(Texts::tr("In the project"), plugin.library.projectPath());
 }
 
 void ReportPage::writeOptions()
 {
     const Element section(m_out, "section");
-    writeHeading(ReportTexts::tr("Start options"), QStringLiteral("options"));
+    writeHeading(Texts::tr("Start options"), QStringLiteral("options"));
     const Element card(m_out, "div", {{"class", QStringLiteral("card")}});
     writeFindings({ShapePaths::list(ConfigurationShape::EEntry::OPTION)});
     if (m_overview.options().isEmpty()) {
-        m_out.element("p", ReportTexts::tr("The device starts without options."),
+        m_out.element("p", Texts::tr("The device starts without options."),
                       {{"class", QStringLiteral("soft")}});
         return;
     }
