@@ -9,6 +9,8 @@
 
 using namespace ItemCommands;
 
+using Tool::SResult;
+
 namespace {
 
 QByteArray indented(const QByteArray &document)

@@ -11,6 +11,8 @@
 
 using namespace ItemCommands;
 
+using Tool::SResult;
+
 namespace {
 
 /** "path=value" of each. */

@@ -13,6 +13,8 @@
 
 using namespace ItemCommands;
 
+using Tool::SResult;
+
 namespace {
 
 QDir templateDirectory()

@@ -11,7 +11,6 @@
 #include <algorithm>
 
 using namespace ConfigurationChanges;
-using ConfigurationMergeTexts::Texts;
 using ConfigurationWords::shown;
 
 namespace {

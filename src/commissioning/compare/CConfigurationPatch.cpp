@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-using ConfigurationPatchTexts::Texts;
+namespace {
 
 using ConfigurationPatchTexts::Texts;
 

@@ -11,7 +11,6 @@
 #include <algorithm>
 
 using namespace ConfigurationChanges;
-using ConfigurationPatchTexts::Texts;
 using ConfigurationShape::EEntry;
 using ConfigurationShape::EValue;
 using ConfigurationWords::shown;

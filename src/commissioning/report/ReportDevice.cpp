@@ -30,8 +30,8 @@ DeviceDrawing::SModule ReportPage::module(const SDrive &drive) const
     module.isOldSeries = element.isKD2();
     module.series = element.isKD2() ? QStringLiteral("KD2") : QStringLiteral("KD3");
     module.busNumber = QString::number(element.busId());
-    module.bus = element.busId() == 0 ? ReportTexts::tr("No bus ID")
-                                      : ReportTexts::tr("Bus ID %1").arg(module.busNumber);
+    module.bus = element.busId() == 0 ? Texts::tr("No bus ID")
+                                      : Texts::tr("Bus ID %1").arg(module.busNumber);
     module.target = QStringLiteral("drive-%1").arg(module.number);
     QStringList items = {drive.item};
     for (const SFile &file : drive.files) {
@@ -58,7 +58,7 @@ void ReportPage::writeDrawing()
     const CDeviceElement &device = m_overview.device();
     DeviceDrawing::SDevice drawn;
     drawn.name = orDash(device.name());
-    drawn.title = ReportTexts::tr("Device %1. Drives on its fieldbus: %2.")
+    drawn.title = Texts::tr("Device %1. Drives on its fieldbus: %2.")
                       .arg(device.name(), QString::number(m_overview.drives().size()));
     drawn.target = QStringLiteral("device");
     drawn.details = QStringList{

@@ -27,7 +27,7 @@ void ReportPage::writeFindings()
     const Element section(m_out, "section");
     writeHeading(Texts::tr("Findings"), QStringLiteral("findings"));
     if (m_findings.all().isEmpty()) {
-        m_out.element("p", ReportTexts::tr("The check found no errors and no warnings."),
+        m_out.element("p", Texts::tr("The check found no errors and no warnings."),
                       {{"class", QStringLiteral("card none")}});
         return;
     }

@@ -94,7 +94,7 @@ QByteArray ReportPage::write()
         }
         m_out.element(
             "footer",
-            ReportTexts::tr(
+            Texts::tr(
                 "Created from the configuration; the page loads nothing else when it is opened."));
     }
     m_out.lineBreak();
