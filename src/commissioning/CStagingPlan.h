@@ -23,7 +23,7 @@
  * staging:
  * - one file that the configuration names twice, for one place, is staged once;
  * - a directory that belongs to another configuration, or does not begin with a slash, is made;
- * - the manifest of the project is not read: staging is what makes it anew.
+ * - the manifest of the project is not read: staging is what makes a new one.
  *
  * The project is read once, when the plan is made.
  *

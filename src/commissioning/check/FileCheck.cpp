@@ -3,7 +3,7 @@
 #include "commissioning/rules/FileRules.h"
 #include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 #include "vocabulary/NVornXmlTags.h"
 
 using namespace ConfigurationRules;
@@ -68,7 +68,7 @@ void FileCheck::checkDevicePath(const CFileElement &file, const Fields &fields, 
     if (fault) {
         // A configuration name that no directory can have was reported where it stands.
         const QString name = m_context.device.configurationName();
-        const bool isOfName = !CanonicalPaths::isStorable(name)
+        const bool isOfName = !FilePlaces::isStorable(name)
             && file.devicePath().contains(Separator + name + Separator);
         m_context.findings.report(isOfName ? std::optional<SFault>() : fault, place);
         return;
@@ -86,7 +86,7 @@ void FileCheck::checkDevicePath(const CFileElement &file, const Fields &fields, 
 void FileCheck::checkConfiguration(const CFileElement &file, const SPlace &place,
                                    const QString &text)
 {
-    const QString path = CanonicalPaths::deviceDirectory(file);
+    const QString path = FilePlaces::deviceDirectory(file);
     const QString own = m_context.device.configurationName();
     for (const QString &configurations : {CDeviceFileSystem::smConfigurationsPath(),
                                           CDeviceFileSystem::optSMConfigurationsPath()}) {
@@ -150,8 +150,8 @@ void FileCheck::checkPlaced(const QList<CFileElement> &files, const SPlace &plac
 
 bool FileCheck::claim(const CFileElement &file, const SPlace &place)
 {
-    const QString onDevice = CanonicalPaths::onDevice(file);
-    const QPair<QString, QString> key(onDevice, CanonicalPaths::inProject(file));
+    const QString onDevice = FilePlaces::onDevice(file);
+    const QPair<QString, QString> key(onDevice, FilePlaces::inProject(file));
     if (m_files.contains(key)) {
         m_context.findings.report(
             FILE_TWICE, place,
@@ -177,7 +177,7 @@ void FileCheck::checkInProject(const CFileElement &file, const SPlace &place)
     }
     const ProjectFiles::SFile inProject = m_project->find(file);
     m_context.findings.report(inProject.state == ProjectFiles::STATE_PRESENT
-                                  ? m_manifest.compare(CanonicalPaths::inProject(file))
+                                  ? m_manifest.compare(FilePlaces::inProject(file))
                                   : FileRules::ofProjectFile(file, inProject),
                               place);
 }

@@ -1,7 +1,7 @@
 #include "commissioning/check/ValueChecks.h"
 
 #include "commissioning/Texts.h"
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 #include "elements/CPluginElement.h"
 #include "imported/CStr.h"
 
@@ -188,7 +188,7 @@ Fault configurationName(const QString &name)
     }
     // Expressions of our own: those of NDeviceConf are for one thread alone. What is too long for a
     // directory is not given to them.
-    const bool isTooLong = name.toUtf8().size() > CanonicalPaths::LongestName;
+    const bool isTooLong = name.toUtf8().size() > FilePlaces::LongestName;
     if (!isTooLong && QRegExp(NDeviceConf::NAME_CHECK_PATTERN).exactMatch(name)) {
         return SFault{
             CONFIGURATION_NAME_RESERVED,

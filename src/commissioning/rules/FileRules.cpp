@@ -2,7 +2,7 @@
 
 #include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 
 #include <algorithm>
 
@@ -34,12 +34,12 @@ bool isName(const QString &name)
         return c == Separator || c == QLatin1Char('\\') || c.category() == QChar::Other_Control;
     };
     return std::none_of(name.cbegin(), name.cend(), isForbidden)
-        && CanonicalPaths::isStorable(name);
+        && FilePlaces::isStorable(name);
 }
 
 QString shortNames()
 {
-    return Texts::tr("names of at most %1 bytes").arg(CanonicalPaths::LongestName);
+    return Texts::tr("names of at most %1 bytes").arg(FilePlaces::LongestName);
 }
 
 QString deviceTrees()
@@ -60,7 +60,7 @@ std::optional<SFault> ofName(const QString &name)
                        Texts::tr("Remove the entry if no file is meant.")}};
     }
     if (!isName(name)) {
-        const bool isTooLong = name.toUtf8().size() > CanonicalPaths::LongestName;
+        const bool isTooLong = name.toUtf8().size() > FilePlaces::LongestName;
         return SFault{FILE_NAME_INVALID,
                       {Texts::tr("'%1' is not a valid file name.").arg(shown(name)), name,
                        isTooLong ? shortNames()
@@ -83,14 +83,14 @@ std::optional<SFault> ofDeviceDirectory(const CFileElement &file, const QString 
                       {Texts::tr("The directory '%1' contains '..'.").arg(shown(written)), written,
                        Texts::tr("a directory without '..'"), QString()}};
     }
-    if (CFTPath::fromPath(CanonicalPaths::deviceDirectory(file)) == CFTPath::ENTRY_POINT_UNKNOWN) {
+    if (CFTPath::fromPath(FilePlaces::deviceDirectory(file)) == CFTPath::ENTRY_POINT_UNKNOWN) {
         return SFault{DEVICE_PATH_OUTSIDE,
                       {Texts::tr("The directory '%1' is outside the directory trees of the device.")
                            .arg(shown(written)),
                        written, deviceTrees(), QString()}};
     }
-    const QString path = CanonicalPaths::deviceDirectory(file) + file.fileName();
-    if (isName(file.fileName()) && !CanonicalPaths::isStorable(path.mid(1))) {
+    const QString path = FilePlaces::deviceDirectory(file) + file.fileName();
+    if (isName(file.fileName()) && !FilePlaces::isStorable(path.mid(1))) {
         return SFault{
             DEVICE_PATH_OUTSIDE,
             {Texts::tr("The directory '%1' cannot be stored on the device.").arg(shown(written)),
@@ -102,7 +102,7 @@ std::optional<SFault> ofDeviceDirectory(const CFileElement &file, const QString 
 std::optional<SFault> ofProjectDirectory(const CFileElement &file)
 {
     const QString path = file.projectPath();
-    const QString clean = CanonicalPaths::of(path);
+    const QString clean = FilePlaces::cleaned(path);
     if (isAbsolute(path)) {
         return SFault{PROJECT_PATH_ABSOLUTE,
                       {Texts::tr("The directory '%1' is an absolute path.").arg(shown(path)), path,
@@ -124,7 +124,7 @@ std::optional<SFault> ofProjectDirectory(const CFileElement &file)
 
 std::optional<SFault> ofProjectFile(const CFileElement &file, const ProjectFiles::SFile &inProject)
 {
-    const QString path = CanonicalPaths::inProject(file);
+    const QString path = FilePlaces::inProject(file);
     const QString name = shown(path);
     const QString &found = inProject.found;
     switch (inProject.state) {
@@ -174,7 +174,7 @@ SFault samePlace(const CFileElement &file, const QString &other)
     return {DEVICE_FILE_CONFLICT,
             {Texts::tr("The file '%1' has the same place on the device as %2.")
                  .arg(shown(file.fileName()), other),
-             CanonicalPaths::onDevice(file), Texts::tr("a unique place"),
+             FilePlaces::onDevice(file), Texts::tr("a unique place"),
              Texts::tr("The file that is transferred last overwrites the other one.")}};
 }
 

@@ -1,6 +1,6 @@
 #include "commissioning/rules/ProjectFiles.h"
 
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 #include "storage/CanonicalName.h"
 #include "storage/Descriptor.h"
 
@@ -89,7 +89,7 @@ ProjectFiles::ProjectFiles(const QString &directory)
 
 ProjectFiles::SFile ProjectFiles::find(const CFileElement &file)
 {
-    const QString path = CanonicalPaths::inProject(file);
+    const QString path = FilePlaces::inProject(file);
     const auto known = m_files.constFind(path);
     return known != m_files.cend() ? *known : m_files.insert(path, look(path)).value();
 }

@@ -1,7 +1,7 @@
 #include "commissioning/CDeviceManifest.h"
 
 #include "commissioning/Texts.h"
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 #include "storage/Descriptor.h"
 #include "storage/FileStorage.h"
 
@@ -140,7 +140,7 @@ bool readEntry(const QJsonValue &value, CDeviceManifest::SEntry &entry, QString 
         return false;
     }
     if (!object.value(Key::PROJECT_PATH).isString()
-        || !(entry.projectPath.isEmpty() || CanonicalPaths::isStorable(entry.projectPath))) {
+        || !(entry.projectPath.isEmpty() || FilePlaces::isStorable(entry.projectPath))) {
         errorText = Texts::tr("The project path \"%2\" of \"%1\" is not valid.")
                         .arg(entry.devicePath, entry.projectPath);
         return false;
@@ -333,7 +333,7 @@ qint64 CDeviceManifest::maximumSize()
 
 bool CDeviceManifest::isDevicePath(const QString &path)
 {
-    return CanonicalPaths::isStorable(path) && path.section(QLatin1Char('/'), 0, 0) != fileName();
+    return FilePlaces::isStorable(path) && path.section(QLatin1Char('/'), 0, 0) != fileName();
 }
 
 bool CDeviceManifest::measure(const QString &path, qint64 &size, QByteArray &sha256,

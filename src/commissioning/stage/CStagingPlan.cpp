@@ -3,7 +3,7 @@
 #include "commissioning/rules/FileRules.h"
 #include "commissioning/Texts.h"
 #include "devicefiles/CDeviceFileSystem.h"
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 #include "storage/CanonicalName.h"
 
 #include <QFile>
@@ -81,7 +81,7 @@ private:
         }
         // A file's directory takes a backslash for a separator, so that files would lie elsewhere.
         const bool isName = !name.contains(Separator) && !name.contains(QLatin1Char('\\'))
-            && CanonicalPaths::isStorable(name);
+            && FilePlaces::isStorable(name);
         if (!isName) {
             addProblem(
                 QStringLiteral("bad-configuration-name"), {},
@@ -141,7 +141,7 @@ private:
         const bool hasPlace = m_hasPlaces
             && accepts(FileRules::ofDeviceDirectory(element, element.devicePath()), file);
         if (hasPlace) {
-            file.devicePath = relative(CanonicalPaths::onDevice(element));
+            file.devicePath = relative(FilePlaces::onDevice(element));
         }
         if (m_project.errorText().isEmpty()) {
             findSource(element, file);
@@ -165,7 +165,7 @@ private:
         if (!accepts(FileRules::ofProjectDirectory(element), file)) {
             return;
         }
-        file.projectPath = CanonicalPaths::inProject(element);
+        file.projectPath = FilePlaces::inProject(element);
         const ProjectFiles::SFile inProject = m_project.find(element);
         accepts(FileRules::ofProjectFile(element, inProject), file);
         file.source = inProject.source;

@@ -1,8 +1,8 @@
-#include "elements/CanonicalPaths.h"
+#include "elements/FilePlaces.h"
 
 #include <QDir>
 
-namespace CanonicalPaths {
+namespace FilePlaces {
 
 namespace {
 
@@ -11,24 +11,24 @@ const int LongestPath = 4095;
 
 } // namespace
 
-QString of(const QString &path)
+QString cleaned(const QString &path)
 {
     return QDir::cleanPath(path);
 }
 
 QString onDevice(const CFileElement &file)
 {
-    return file.devicePath().isEmpty() ? QString() : of(file.deviceFilePath());
+    return file.devicePath().isEmpty() ? QString() : cleaned(file.deviceFilePath());
 }
 
 QString inProject(const CFileElement &file)
 {
-    return of(file.projectFilePath());
+    return cleaned(file.projectFilePath());
 }
 
 QString deviceDirectory(const CFileElement &file)
 {
-    return of(file.devicePath()) + QLatin1Char('/');
+    return cleaned(file.devicePath()) + QLatin1Char('/');
 }
 
 bool isStorable(const QString &path)
@@ -46,4 +46,4 @@ bool isStorable(const QString &path)
     return true;
 }
 
-} // namespace CanonicalPaths
+} // namespace FilePlaces
