@@ -71,7 +71,7 @@ vrn_package(tool utils
     "command-line tool for configurations of servo drives"
     "${runtime_package} ${same_version}, ${commissioning_package} ${same_version}"
     "Creates, shows, changes and checks configurations of servo drives and their
-motion controllers, tells where every file lies on the device, and reads the
+motion controllers, shows where every file lies on the device, and reads the
 small files that a device keeps for itself. Every command can print JSON.")
 
 # What a program depends on that is linked with a library, and that the linker's cache is to be renewed.

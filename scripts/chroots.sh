@@ -64,7 +64,8 @@ copy_apt_configuration()
     as_root tar -C / --dereference -cf - "${files[@]}" | as_root tar -C "$root" -xf -
 }
 
-# A mirror in the middle of its own update may lack one list; the installation tells whether it matters.
+# A mirror in the middle of its own update may lack one list; whether it matters shows when packages are
+# installed.
 fetch_package_lists()
 {
     copy_apt_configuration

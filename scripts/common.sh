@@ -52,7 +52,7 @@ as_root()
     elif command -v sudo >/dev/null; then
         sudo "$@"
     else
-        die "'$*' needs root, and there is no sudo"
+        die "'$*' needs root, and sudo is missing"
     fi
 }
 

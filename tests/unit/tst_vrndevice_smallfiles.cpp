@@ -233,8 +233,7 @@ void tst_vrndevice_smallfiles::settingsCreate()
     QVERIFY(QFile::remove(path(Settings)));
     const SResult result = run(u"settings set settings.3conf --create --name=New --json"_s);
     QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.json(),
-             (QJsonObject{{u"deviceName"_s, u"New"_s}, {u"drive"_s, QJsonArray()}}));
+    QCOMPARE(result.json(), (QJsonObject{{u"deviceName"_s, u"New"_s}, {u"drive"_s, QJsonArray()}}));
 
     // A second time nothing that is there is lost.
     QCOMPARE(run(u"settings set settings.3conf --create --drive=3=D"_s).exitCode, 0);

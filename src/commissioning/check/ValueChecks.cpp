@@ -1,8 +1,8 @@
 #include "commissioning/check/ValueChecks.h"
 
 #include "commissioning/Texts.h"
-#include "elements/FilePlaces.h"
 #include "elements/CPluginElement.h"
+#include "elements/FilePlaces.h"
 #include "imported/CStr.h"
 
 #include <QRegExp>

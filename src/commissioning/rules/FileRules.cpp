@@ -33,8 +33,7 @@ bool isName(const QString &name)
     const auto isForbidden = [](QChar c) {
         return c == Separator || c == QLatin1Char('\\') || c.category() == QChar::Other_Control;
     };
-    return std::none_of(name.cbegin(), name.cend(), isForbidden)
-        && FilePlaces::isStorable(name);
+    return std::none_of(name.cbegin(), name.cend(), isForbidden) && FilePlaces::isStorable(name);
 }
 
 QString shortNames()

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-#include <functional>
 #include <clocale>
+#include <functional>
 #include <memory>
 #include <sys/types.h>
 
