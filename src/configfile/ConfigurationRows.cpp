@@ -171,20 +171,22 @@ SField<Element> field(const SItem &item, Get get, Set set)
     SField<Element> result;
     static_cast<SItem &>(result) = item;
     result.get = [get](const Element &element) { return toText(std::invoke(get, element)); };
-    result.set = [get, set](Element &element, const QString &text) {
-        using Value = std::decay_t<std::invoke_result_t<Get, const Element &>>;
-        if constexpr (std::is_same_v<Value, QString>) {
+    using Value = std::decay_t<std::invoke_result_t<Get, const Element &>>;
+    if constexpr (std::is_same_v<Value, QString>) {
+        result.set = [set](Element &element, const QString &text) {
             std::invoke(set, element, text);
             return true;
-        } else {
+        };
+    } else {
+        result.set = [get, set](Element &element, const QString &text) {
             Value value = std::invoke(get, element);
             const bool isRead = fromText(text, value);
             if (isRead) {
                 std::invoke(set, element, value);
             }
             return isRead;
-        }
-    };
+        };
+    }
     return result;
 }
 
