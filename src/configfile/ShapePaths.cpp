@@ -13,7 +13,7 @@ using Nodes = QVector<const SNode *>;
 struct SIndex {
     Nodes top;
     QHash<QString, const SNode *> byPath;
-    QHash<int, QString> byFile;
+    QHash<quint32, QString> byFile;
     QHash<int, QString> byEntry;
     QHash<int, QString> words;
     QStringList lists;
