@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 
 #include <dirent.h>
 #include <fcntl.h>
