@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Files.h"
+#include "support/Places.h"
 
 #include <QHash>
 #include <QTemporaryDir>
@@ -79,7 +80,7 @@ private:
 struct SMade {
     SMade()
     {
-        const QString data = QStringLiteral(VRN_TEST_DATA_DIR "/check/");
+        const QString data = Places::data("check/");
         Maker maker(Files::read(data + QStringLiteral("valid/complete.3deco")));
         problems = maker.make(Files::read(data + QStringLiteral("broken.txt")).split('\n'));
         QHash<QString, QByteArray> documents = maker.documents();

@@ -6,6 +6,7 @@
 #include "support/BrokenDocuments.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -23,7 +24,7 @@ namespace CheckedDocuments {
 
 inline QString dataDirectory(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/check/") + name;
+    return Places::data("check/") + name;
 }
 
 inline QString validFile(const QString &name)

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "configfile/CDeviceConfigurationFile10.h"
-#include "Files.h"
-#include "Literals.h"
+#include "support/Files.h"
+#include "support/Literals.h"
+#include "support/Places.h"
 
 #include <memory>
 
@@ -13,8 +14,7 @@ using File = std::unique_ptr<CDeviceConfigurationFile10>;
 
 inline QByteArray example()
 {
-    return Files::read(
-        QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line/DeviceConfiguration.3deco"));
+    return Files::read(Places::source("examples/packaging-line/DeviceConfiguration.3deco"));
 }
 
 /** Null when it cannot be loaded. */

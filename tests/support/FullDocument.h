@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/SampleConfiguration.h"
 
 #include <QByteArray>
@@ -27,7 +28,7 @@ inline QByteArray bytesOf(CXmlAbstractVornFile &file)
 
 inline QString dataPath(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/configuration/") + name;
+    return Places::data("configuration/") + name;
 }
 
 inline QByteArray fullDocument()

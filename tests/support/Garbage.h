@@ -5,10 +5,10 @@
 
 #include <random>
 
-/** A megabyte of content in which no "KEY=value" of a network.conf stands. */
+/** A quarter of a megabyte of content in which no "KEY=value" of a network.conf stands. */
 namespace Garbage {
 
-const int Size = 1000000;
+const int Size = 250000;
 
 inline QByteArray randomBytes()
 {

@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/LargeConfiguration.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/SampleConfiguration.h"
 
 #include <QByteArray>
@@ -21,8 +22,8 @@ using SItem = CConfigurationItems::SItem;
 /** Around the example, which has every item, things that no reader of this library understands. */
 inline QByteArray sampleDocument()
 {
-    QByteArray bytes = Files::read(
-        QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line/DeviceConfiguration.3deco"));
+    QByteArray bytes =
+        Files::read(Places::source("examples/packaging-line/DeviceConfiguration.3deco"));
     const QList<QPair<QByteArray, QByteArray>> marks = {
         {" <Device>\n", " <!--before the device-->\n <Device note=\"kept\">\n"},
         {"  <Config>\n", "  <Config a=\"1\" b=\"2\">\n   <Vendor>\n    <Deep/>\n   </Vendor>\n"},

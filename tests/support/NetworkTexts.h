@@ -3,6 +3,7 @@
 #include "settings/CNetworkSettings.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 
 #include <QByteArray>
 #include <QList>
@@ -99,7 +100,7 @@ inline QByteArray fullText()
 
 inline QByteArray reference(const QString &name)
 {
-    return Files::read(QStringLiteral(VRN_TEST_DATA_DIR "/network/valid/") + name);
+    return Files::read(Places::data("network/valid/") + name);
 }
 
 } // namespace NetworkTexts

@@ -4,6 +4,7 @@
 #include "settings/CDeviceSettingsFile.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/RecordingLog.h"
 #include "support/SampleSettings.h"
 #include "vocabulary/NvrnGlobal.h"
@@ -22,7 +23,7 @@ const QString Version = QStringLiteral("1.0");
 
 inline QString dataPath(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/settings/%1.3conf").arg(name);
+    return Places::data("settings/%1.3conf").arg(name);
 }
 
 /** What the file "full" of the directory "valid" holds. */

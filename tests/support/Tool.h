@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Places.h"
+
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,7 +25,7 @@ struct SResult {
 /** The tool; VRN_TOOL in the environment names another build of it. */
 inline QString program()
 {
-    return qEnvironmentVariable("VRN_TOOL", QStringLiteral(VRN_TOOL));
+    return qEnvironmentVariable("VRN_TOOL", Places::tool());
 }
 
 /** The environment of the test, in which the tool speaks English whatever the locale is. */
@@ -53,7 +55,7 @@ inline SResult run(const QString &directory, const QStringList &arguments,
 /** The project that is shipped as an example. */
 inline QDir exampleDirectory()
 {
-    return QDir(QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line"));
+    return QDir(Places::source("examples/packaging-line"));
 }
 
 /** Copies a file of the example, writable, into @p directory. */

@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 #include "support/Threads.h"
 
@@ -58,7 +59,7 @@ void tst_cconfigurationcheck::validFiles()
 
 void tst_cconfigurationcheck::exampleIsValid()
 {
-    const QString directory = QStringLiteral(VRN_SOURCE_DIR "/examples/packaging-line");
+    const QString directory = Places::source("examples/packaging-line");
     CConfigurationCheck check;
     QVERIFY(check.open(directory + u"/DeviceConfiguration.3deco"_s));
     QCOMPARE(told(check), QStringList());

@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <QRegularExpression>
@@ -131,8 +132,7 @@ void tst_cconfigurationcheck_rules::severities()
 
 void tst_cconfigurationcheck_rules::documentsOfTheRules()
 {
-    const QString page =
-        QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/docs/rules.md")));
+    const QString page = QString::fromUtf8(Files::read(Places::source("docs/rules.md")));
     static const QRegularExpression heading(
         u"^### ([a-z0-9-]+)\\n\\n(Error|Warning)\\. ([^\\n]+(?:\\n[^\\n]+)*)\\n\\n"
         u"```xml\\n[^`]+```\\n\\n\\*\\*Hint:\\*\\* "

@@ -1,6 +1,7 @@
 #include "commissioning/CConfigurationCheck.h"
 #include "support/BrokenDocuments.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/ReportPages.h"
 #include "support/TestProgram.h"
 
@@ -89,8 +90,7 @@ void tst_cconfigurationreport_findings::findingsOfTheCheck_data()
 {
     QTest::addColumn<QString>("path");
     int count = 0;
-    for (const QString &folder :
-         {QStringLiteral(VRN_TEST_DATA_DIR "/check/valid"), BrokenDocuments::directory()}) {
+    for (const QString &folder : {Places::data("check/valid"), BrokenDocuments::directory()}) {
         const QDir directory(folder);
         for (const QFileInfo &file : directory.entryInfoList(QDir::Files, QDir::Name)) {
             QTest::newRow(qPrintable(file.fileName())) << file.filePath();

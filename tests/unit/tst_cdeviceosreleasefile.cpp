@@ -3,6 +3,7 @@
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
+#include "support/Places.h"
 #include "support/RecordingLog.h"
 #include "support/ReleaseTexts.h"
 #include "support/TestProgram.h"
@@ -365,7 +366,7 @@ void tst_cdeviceosreleasefile::releaseFile()
 {
     QFETCH(QString, fileName);
 
-    const QString source = QStringLiteral(VRN_TEST_DATA_DIR "/os-release/") + fileName;
+    const QString source = Places::data("os-release/") + fileName;
     CDeviceOSReleaseFile file;
     QCOMPARE(static_cast<int>(file.open(source)), Success);
     QCOMPARE(file.product(), u"KD3 Servo Drive 8A"_s);

@@ -3,6 +3,7 @@
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
 #include "support/OrdinaryUser.h"
+#include "support/Places.h"
 #include "support/RecordingLog.h"
 #include "support/SampleSettings.h"
 #include "support/SettingsDocuments.h"
@@ -80,7 +81,7 @@ const InvalidFile InvalidFiles[] = {
 
 QStringList filesOf(const QString &directory)
 {
-    return Files::names(QStringLiteral(VRN_TEST_DATA_DIR "/settings/") + directory);
+    return Files::names(Places::data("settings/") + directory);
 }
 
 } // namespace

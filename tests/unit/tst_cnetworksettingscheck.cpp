@@ -3,6 +3,7 @@
 #include "support/Garbage.h"
 #include "support/Literals.h"
 #include "support/MarkingTranslator.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <QtTest>
@@ -25,7 +26,7 @@ QStringList told(const QByteArray &content)
 
 QString directory(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/network/") + name;
+    return Places::data("network/") + name;
 }
 
 QByteArray staticAddress(const QByteArray &address, const QByteArray &mask,

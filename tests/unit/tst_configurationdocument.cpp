@@ -2,6 +2,7 @@
 #include "support/ConfigurationTexts.h"
 #include "support/Files.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/SampleConfiguration.h"
 #include "support/TestProgram.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 QString validPath(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/configuration/valid/") + name;
+    return Places::data("configuration/valid/") + name;
 }
 
 /** The marks of content that the library does not know, as they stand in a document. */

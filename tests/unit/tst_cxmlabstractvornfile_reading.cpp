@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/SampleXmlFile.h"
 #include "support/TestProgram.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 QString invalidDirectory()
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/configuration/invalid");
+    return Places::data("configuration/invalid");
 }
 
 struct Malformed {

@@ -1,6 +1,7 @@
 #include "elements/CFileElement.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/StreamBytes.h"
 #include "support/TestProgram.h"
 
@@ -15,7 +16,7 @@
 
 namespace {
 
-const QString Root = QStringLiteral(VRN_SOURCE_DIR);
+const QString Root = Places::source();
 
 QString read(const QString &path)
 {

@@ -1,5 +1,6 @@
 #include "fuzz/Targets.h"
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
@@ -8,12 +9,12 @@ namespace {
 
 QDir seeds()
 {
-    return QDir(QStringLiteral(VRN_SOURCE_DIR "/tests/fuzz/corpus"));
+    return QDir(Places::source("tests/fuzz/corpus"));
 }
 
 QDir findings()
 {
-    return QDir(QStringLiteral(VRN_TEST_DATA_DIR "/findings"));
+    return QDir(Places::data("findings"));
 }
 
 QStringList targetNames()

@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include "support/HostileDocuments.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
 #include "support/TestProgram.h"
@@ -252,8 +253,7 @@ void tst_hostileinput_damaged::damagedReleaseFile()
 {
     QFETCH(int, damage);
 
-    const QByteArray sample =
-        Files::read(QStringLiteral(VRN_TEST_DATA_DIR "/os-release/os-release"));
+    const QByteArray sample = Files::read(Places::data("os-release/os-release"));
     QVERIFY(!sample.isEmpty());
     for (int at = 0; at < sample.size(); ++at) {
         const QByteArray bytes = damaged(sample, at, damage);

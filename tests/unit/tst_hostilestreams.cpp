@@ -5,6 +5,7 @@
 #include "support/AllocationCounter.h"
 #include "support/ClassChecks.h"
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/SampleConfiguration.h"
 #include "support/ScriptedDevice.h"
 #include "support/StreamBytes.h"
@@ -474,8 +475,7 @@ void tst_hostilestreams::everyClassIsListed()
     const QRegularExpression reading(
         u"QDataStream &operator>>\\(QDataStream &stream,\\s*(\\w+) &\\w+\\);"_s);
     for (const char *folder : {"elements", "settings", "devicefiles", "imported", "configfile"}) {
-        const QDir directory(
-            QStringLiteral(VRN_SOURCE_DIR "/src/%1").arg(QString::fromLatin1(folder)));
+        const QDir directory(Places::source("src/%1").arg(QString::fromLatin1(folder)));
         for (const QFileInfo &header : directory.entryInfoList({u"*.h"_s}, QDir::Files)) {
             const QString text = QString::fromUtf8(Files::read(header.filePath()));
             QRegularExpressionMatchIterator matches = reading.globalMatch(text);

@@ -1,3 +1,4 @@
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <QDir>
@@ -28,7 +29,7 @@ const QStringList Rooms = {
 
 QString sourcePath(const QString &file)
 {
-    return QStringLiteral(VRN_SOURCE_DIR "/src/") + file;
+    return Places::source("src/") + file;
 }
 
 QString read(const QString &path)
@@ -113,7 +114,7 @@ QStringList publicHeaders()
 {
     static const QRegularExpression header(QStringLiteral("^ +(\\w+/\\w+\\.h)$"),
                                            QRegularExpression::MultilineOption);
-    return capturedBy(header, read(QStringLiteral(VRN_SOURCE_DIR "/cmake/VrnInstall.cmake")));
+    return capturedBy(header, read(Places::source("cmake/VrnInstall.cmake")));
 }
 
 /** Whether a library may include it: what is private there is hidden, and cannot be linked. */
@@ -153,7 +154,7 @@ private Q_SLOTS:
 void tst_includes::directions_data()
 {
     QTest::addColumn<QString>("file");
-    const QDir root(QStringLiteral(VRN_SOURCE_DIR "/src"));
+    const QDir root(Places::source("src"));
     int count = 0;
     for (const QString &folder : Folders) {
         QDirIterator files(root.filePath(folder), {QStringLiteral("*.h"), QStringLiteral("*.cpp")},

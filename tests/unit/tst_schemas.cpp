@@ -3,6 +3,7 @@
 #include "settings/CDeviceSettingsFileV10.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
 #include "support/TestProgram.h"
@@ -39,9 +40,9 @@ SVerdict validate(const QByteArray &document, const QString &schema)
         return verdict;
     }
     QProcess xmllint;
-    xmllint.start(u"xmllint"_s,
-                  {u"--nonet"_s, u"--noout"_s, u"--schema"_s,
-                   QStringLiteral(VRN_SOURCE_DIR "/schemas/") + schema, path});
+    xmllint.start(
+        u"xmllint"_s,
+        {u"--nonet"_s, u"--noout"_s, u"--schema"_s, Places::source("schemas/") + schema, path});
     const bool ended = xmllint.waitForFinished() && xmllint.exitStatus() == QProcess::NormalExit;
     verdict.isValid = ended && xmllint.exitCode() == 0;
     verdict.findings = QString::fromUtf8(xmllint.readAllStandardError());
@@ -50,7 +51,7 @@ SVerdict validate(const QByteArray &document, const QString &schema)
 
 QByteArray testData(const QString &name)
 {
-    return Files::read(QStringLiteral(VRN_TEST_DATA_DIR "/") + name);
+    return Files::read(Places::data("") + name);
 }
 
 /** With the first @p from replaced by @p to; empty when there is none. */
@@ -157,7 +158,7 @@ void tst_schemas::schemas()
 
     // Each type and element says what it is for somewhere: who reads only the schema understands
     // it.
-    const QByteArray text = Files::read(QStringLiteral(VRN_SOURCE_DIR "/schemas/") + schema);
+    const QByteArray text = Files::read(Places::source("schemas/") + schema);
     QVERIFY(text.count("<xs:documentation") > 5);
 }
 
@@ -167,7 +168,7 @@ void tst_schemas::files_data()
     QTest::addColumn<QString>("path");
 
     const auto addFiles = [](const char *schema, const QString &directory, const QString &suffix) {
-        const QDir files(QStringLiteral(VRN_SOURCE_DIR "/") + directory);
+        const QDir files(Places::source() + u'/' + directory);
         for (const QString &name : files.entryList({u"*."_s + suffix}, QDir::Files, QDir::Name)) {
             QTest::newRow(qPrintable(directory + QLatin1Char('/') + name))
                 << QString::fromLatin1(schema) << files.filePath(name);
@@ -198,7 +199,7 @@ void tst_schemas::brokenFiles_data()
 
     int count = 0;
     const auto addFiles = [&](const char *schema, const QString &directory) {
-        const QDir files(QStringLiteral(VRN_TEST_DATA_DIR "/") + directory);
+        const QDir files(Places::data("") + directory);
         for (const QString &name : files.entryList(QDir::Files, QDir::Name)) {
             QTest::newRow(qPrintable(directory + QLatin1Char('/') + name))
                 << QString::fromLatin1(schema) << files.filePath(name);

@@ -2,6 +2,7 @@
 #include "configfile/ShapePaths.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <QDomDocument>
@@ -17,7 +18,7 @@ namespace {
 
 QByteArray source(const QString &path)
 {
-    return Files::read(QStringLiteral(VRN_SOURCE_DIR "/") + path);
+    return Files::read(Places::source() + u'/' + path);
 }
 
 QStringList sorted(QStringList texts)

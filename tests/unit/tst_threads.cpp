@@ -10,6 +10,7 @@
 #include "settings/CNetworkSettingsCheck.h"
 #include "settings/CNetworkSettingsFile.h"
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/RecordingLog.h"
 #include "support/SampleConfiguration.h"
 #include "support/SampleSettings.h"
@@ -170,7 +171,7 @@ bool networkSettings(const QString &, const QString &path)
 
 bool releaseFile(const QString &name, const QString &path)
 {
-    const QString delivered = QStringLiteral(VRN_TEST_DATA_DIR "/os-release/os-release");
+    const QString delivered = Places::data("os-release/os-release");
     CDeviceOSReleaseFile file;
     if (file.open(delivered) != NvrnGlobal::FILE_RESULT_SUCCESS || file.isNull()) {
         return false;

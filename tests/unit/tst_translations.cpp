@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <QDirIterator>
@@ -109,7 +110,7 @@ QString complaint(const QString &source, const SMessage &message)
 /** The sources in @p folders, relative to the root. */
 QStringList sources(const QStringList &folders, const QStringList &names)
 {
-    const QDir root(QStringLiteral(VRN_SOURCE_DIR "/src"));
+    const QDir root(Places::source("src"));
     QStringList result;
     for (const QString &folder : folders) {
         QDirIterator files(root.filePath(folder), names, QDir::Files, QDirIterator::Subdirectories);
@@ -124,8 +125,7 @@ QStringList sources(const QStringList &folders, const QStringList &names)
 /** The content of a source file without its comments and single characters; line feeds stay. */
 QString code(const QString &file)
 {
-    const QString text =
-        QString::fromUtf8(Files::read(QStringLiteral(VRN_SOURCE_DIR "/src/") + file));
+    const QString text = QString::fromUtf8(Files::read(Places::source("src/") + file));
     // A text is matched first, so that what looks like a comment within one stays.
     static const QRegularExpression commentOrText(
         u"R\"\\((?:.|\n)*?\\)\"|\"(?:[^\"\\\\\n]|\\\\.)*\"|'(?:[^'\\\\\n]|\\\\.)'|//[^\n]*|/\\*(?:.|\n)*?\\*/"_s);
@@ -273,12 +273,11 @@ Catalogue tst_translations::extracted(const QString &name) const
 {
     const QString path = m_directory.filePath(name + u".ts"_s);
     QProcess process;
-    process.setWorkingDirectory(QStringLiteral(VRN_SOURCE_DIR "/src"));
-    process.start(m_extractor,
-                  QStringList{u"-silent"_s, u"-locations"_s, u"none"_s, u"-I"_s,
-                              QStringLiteral(VRN_SOURCE_DIR "/src")}
-                      + sources(Folders.value(name), {u"*.h"_s, u"*.cpp"_s})
-                      + QStringList{u"-ts"_s, path});
+    process.setWorkingDirectory(Places::source("src"));
+    process.start(
+        m_extractor,
+        QStringList{u"-silent"_s, u"-locations"_s, u"none"_s, u"-I"_s, Places::source("src")}
+            + sources(Folders.value(name), {u"*.h"_s, u"*.cpp"_s}) + QStringList{u"-ts"_s, path});
     return process.waitForFinished(120000) && process.exitCode() == 0 ? readCatalogue(path)
                                                                       : Catalogue();
 }
@@ -288,7 +287,7 @@ void tst_translations::catalogue_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("file");
 
-    const QDir translations(QStringLiteral(VRN_SOURCE_DIR "/translations"));
+    const QDir translations(Places::source("translations"));
     for (auto name = Folders.keyBegin(); name != Folders.keyEnd(); ++name) {
         for (const QString &file : translations.entryList({*name + u"_*.ts"_s}, QDir::Files)) {
             QTest::newRow(qPrintable(file)) << *name << translations.filePath(file);
@@ -328,7 +327,7 @@ void tst_translations::catalogue()
 
 void tst_translations::everyLanguageHasEveryCatalogue()
 {
-    const QDir translations(QStringLiteral(VRN_SOURCE_DIR "/translations"));
+    const QDir translations(Places::source("translations"));
     QMap<QString, QStringList> languages;
     for (auto name = Folders.keyBegin(); name != Folders.keyEnd(); ++name) {
         for (const QString &file : translations.entryList({*name + u"_*.ts"_s}, QDir::Files)) {
@@ -343,8 +342,7 @@ void tst_translations::contexts()
 {
     // lupdate guesses at C++. At run time the context is the one that a file declares.
     for (auto name = Folders.keyBegin(); name != Folders.keyEnd(); ++name) {
-        const Catalogue present =
-            readCatalogue(QStringLiteral(VRN_SOURCE_DIR "/translations/%1_de.ts").arg(*name));
+        const Catalogue present = readCatalogue(Places::source("translations/%1_de.ts").arg(*name));
         QSet<QString> seen;
         for (const QString &file : sources(Folders.value(*name), {u"*.h"_s, u"*.cpp"_s})) {
             const QString otherwise = contextOutside(file, *name);

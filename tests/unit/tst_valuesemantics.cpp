@@ -15,6 +15,7 @@
 #include "support/ClassChecks.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/StreamBytes.h"
 #include "support/TestProgram.h"
 
@@ -855,7 +856,7 @@ private slots:
 void tst_valuesemantics::everyClassIsListed()
 {
     QStringList headers;
-    const QDir elements(QStringLiteral(VRN_SOURCE_DIR "/src/elements"));
+    const QDir elements(Places::source("src/elements"));
     for (const QFileInfo &header : elements.entryInfoList({u"C*.h"_s}, QDir::Files)) {
         headers << header.completeBaseName();
     }
@@ -870,7 +871,7 @@ void tst_valuesemantics::everyRecordIsListed()
     // Between file classes and helpers, the values are those that can be read from a data stream.
     QStringList headers;
     for (const QString &folder : {u"/settings"_s, u"/devicefiles"_s}) {
-        const QDir directory(QStringLiteral(VRN_SOURCE_DIR "/src") + folder);
+        const QDir directory(Places::source("src") + folder);
         for (const QFileInfo &header : directory.entryInfoList({u"*.h"_s}, QDir::Files)) {
             if (Files::read(header.filePath()).contains("operator>>")) {
                 headers << header.completeBaseName();

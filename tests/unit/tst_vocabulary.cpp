@@ -1,6 +1,7 @@
 // Long because it lists every constant with its value.
 #include "configfile/CAbstractDeviceConfigurationFile.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 #include "vocabulary/NDeviceConf.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -543,7 +544,7 @@ void tst_vocabulary::everyDeclaredConstantHasARow()
         tested.insert(QString::fromLatin1(row.name));
     }
 
-    QFile file(QStringLiteral(VRN_SOURCE_DIR "/src/vocabulary/") + header);
+    QFile file(Places::source("src/vocabulary/") + header);
     QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.errorString()));
     const QString text = QString::fromUtf8(file.readAll());
 

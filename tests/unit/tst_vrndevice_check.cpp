@@ -2,6 +2,7 @@
 #include "support/BrokenDocuments.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/PseudoTerminal.h"
 #include "support/TestProgram.h"
 #include "support/Tool.h"
@@ -22,7 +23,7 @@ using Tool::SResult;
 
 QString validFile(const QString &name)
 {
-    return QStringLiteral(VRN_TEST_DATA_DIR "/check/valid/") + name + u".3deco"_s;
+    return Places::data("check/valid/") + name + u".3deco"_s;
 }
 
 SResult check(const QStringList &arguments)
@@ -102,8 +103,7 @@ void tst_vrndevice_check::exitCodes_data()
     const QString valid = validFile(u"complete"_s);
     const QString warning = BrokenDocuments::path(u"revised-before-created"_s);
     const QString error = BrokenDocuments::path(u"file-twice"_s);
-    const QString broken = QStringLiteral(VRN_TEST_DATA_DIR "/configuration/invalid/"
-                                                            "mismatched-end-tag.3deco");
+    const QString broken = Places::data("configuration/invalid/mismatched-end-tag.3deco");
     const auto row = [](const char *name, const QStringList &arguments, int exitCode) {
         QTest::newRow(name) << arguments << exitCode;
     };

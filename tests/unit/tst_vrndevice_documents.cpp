@@ -277,7 +277,7 @@ QStringList tst_vrndevice_documents::offeredByFish(const QString &line) const
 QStringList tst_vrndevice_documents::offeredByZsh(const QString &line) const
 {
     // Completion works only on a terminal: an interactive shell in a pseudo terminal, which tells
-    // everything that is handed to its compadd.
+    // when it reads keys, and everything that is handed to its compadd.
     const char start[] = R"(PROMPT= RPROMPT=
 autoload -Uz compinit && compinit -u -d sub/zcompdump && source sub/_zsh
 compadd() {
@@ -295,7 +295,8 @@ finish() { zle complete-word; print -r -- "<end>"; exit }
 zle -N finish
 bindkey "^I" finish
 zstyle ":completion:*" insert-tab false
-precmd() { print -r -- "<ready>" }
+ready() { print -r -- "<ready>" }
+zle -N zle-line-init ready
 )";
     const char driver[] = R"(zmodload zsh/zpty || exit 1
 zpty shell "exec zsh -d -i"

@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 #include "support/Tool.h"
 
@@ -93,7 +94,7 @@ QString prose(const QString &path)
 /** Public headers, and the pages; relative to the root. */
 QStringList documents()
 {
-    const QDir root(QStringLiteral(VRN_SOURCE_DIR));
+    const QDir root(Places::source());
     QStringList result = {u"README.md"_s, u"CONTRIBUTING.md"_s, u"CHANGELOG.md"_s,
                           u"translations/README.md"_s};
     QDirIterator pages(root.filePath(u"docs"_s), {u"*.md"_s}, QDir::Files,
@@ -183,7 +184,7 @@ void tst_vrndevice_english::phrases()
 void tst_vrndevice_english::catalogue_data()
 {
     QTest::addColumn<QString>("file");
-    const QDir translations(QStringLiteral(VRN_SOURCE_DIR "/translations"));
+    const QDir translations(Places::source("translations"));
     for (const QString &file : translations.entryList({u"*_de.ts"_s}, QDir::Files)) {
         QTest::newRow(qPrintable(file)) << translations.filePath(file);
     }
@@ -237,7 +238,7 @@ void tst_vrndevice_english::document_data()
 void tst_vrndevice_english::document()
 {
     QFETCH(QString, file);
-    const QString text = prose(QStringLiteral(VRN_SOURCE_DIR "/") + file);
+    const QString text = prose(Places::source() + u'/' + file);
     QVERIFY(!text.isEmpty());
     const QStringList found = complaints(text, false);
     QVERIFY2(found.isEmpty(), qPrintable(u"\n"_s + found.join(u'\n')));

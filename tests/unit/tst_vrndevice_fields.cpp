@@ -2,6 +2,7 @@
 #include "configfile/ShapePaths.h"
 #include "support/Files.h"
 #include "support/Literals.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 #include "support/Tool.h"
 
@@ -73,7 +74,7 @@ QMap<QString, QStringList> listedFields()
         "static auto fields\\(Self &self\\)\\s*\\{\\s*return std::tie\\(([^)]*)\\);"_s,
         QRegularExpression::DotMatchesEverythingOption);
     QMap<QString, QStringList> fields;
-    const QDir elements(QStringLiteral(VRN_SOURCE_DIR "/src/elements"));
+    const QDir elements(Places::source("src/elements"));
     for (const QFileInfo &file : elements.entryInfoList({u"*.cpp"_s, u"*.h"_s}, QDir::Files)) {
         auto matches = list.globalMatch(QString::fromUtf8(Files::read(file.filePath())));
         while (matches.hasNext()) {
@@ -143,7 +144,7 @@ struct SVariant {
 
 QByteArray sample()
 {
-    return Files::read(QStringLiteral(VRN_TEST_DATA_DIR "/configuration/valid/full.3deco"));
+    return Files::read(Places::data("configuration/valid/full.3deco"));
 }
 
 /** The first child of that name, which is created where there is none. */

@@ -4,6 +4,7 @@
 #include "support/ItemCommands.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 #include "support/Tool.h"
 
@@ -19,7 +20,7 @@ namespace {
 
 QDir templateDirectory()
 {
-    return QDir(QStringLiteral(VRN_SOURCE_DIR "/src/tools/templates"), u"*.3deco"_s);
+    return QDir(Places::source("src/tools/templates"), u"*.3deco"_s);
 }
 
 /** The document without its dates: what is made at midnight may have another one. */

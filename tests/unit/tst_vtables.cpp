@@ -9,6 +9,7 @@
 #include "devicefiles/CHashMap.h"
 #include "elements/CSubDeviceKD2ElementEdit.h"
 #include "elements/CSubDeviceKD3ElementEdit.h"
+#include "support/Places.h"
 #include "support/TestProgram.h"
 
 #include <cxxabi.h>
@@ -266,8 +267,7 @@ void tst_vtables::initTestCase()
     // Keeps the linker from dropping the library.
     const CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.logfile() == nullptr);
-    QVERIFY2(m_table.load(QStringLiteral(VRN_TEST_DATA_DIR "/vtables.txt")),
-             qPrintable(m_table.problems()));
+    QVERIFY2(m_table.load(Places::data("vtables.txt")), qPrintable(m_table.problems()));
     QVERIFY(m_table.classes().size() > 15);
 }
 
@@ -308,7 +308,7 @@ void tst_vtables::everyPolymorphicClassIsListed()
 {
     for (const QString &folderName : {QStringLiteral("elements"), QStringLiteral("configfile"),
                                       QStringLiteral("devicefiles"), QStringLiteral("settings")}) {
-        const QDir folder(QStringLiteral(VRN_SOURCE_DIR "/src/") + folderName);
+        const QDir folder(Places::source("src/") + folderName);
         for (const QString &fileName : folder.entryList({QStringLiteral("*C*.h")}, QDir::Files)) {
             const QString className = fileName.section(QLatin1Char('.'), 0, 0);
             const bool hasVTable = !compiledSlots(className).isEmpty();
