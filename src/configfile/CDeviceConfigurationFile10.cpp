@@ -43,7 +43,6 @@ bool CDeviceConfigurationFile10::createNewDocument()
     const bool created = createNewDocument(TAG_ROOT_DEVICECONFIG, requiredFileVersion());
     CXMLMetaData meta;
     meta.setComment(QStringLiteral("Device Configuration File"));
-    meta.setDate(QDate::currentDate());
     if (logfile() != nullptr) {
         meta.setAuthor(logfile()->author());
     }

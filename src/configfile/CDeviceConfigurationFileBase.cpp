@@ -385,9 +385,7 @@ void CDeviceConfigurationFileBase::paramFileElementList(QList<CParamFileElement>
     for (int i = 0; i < entries.size(); ++i) {
         CParamFileElement file;
         paramFileElement(file, entries.at(i).toElement());
-        if (!file.isNull()) {
-            files.append(file);
-        }
+        files.append(file);
     }
 }
 

@@ -54,7 +54,10 @@ public:
     using CXmlAbstractVornFile::open;
     using CXmlAbstractVornFile::save;
 
-    /** Starts a document with nothing but its meta data; the author comes from the log. */
+    /**
+     * Starts a document with nothing but its meta data: a comment, and the author from the log.
+     * They have no date, so that it is the same document on every day.
+     */
     virtual bool createNewDocument() = 0;
     /**
      * Opens the file @p path. A document of another version is accepted with a warning. On failure
@@ -105,7 +108,10 @@ public:
     virtual bool setFaultTextFile(const CFileElement &file) = 0;
     virtual CFileElement faultTextFile() const = 0;
 
-    /** The parameter files, with name, type and comment; the document contains no directories. */
+    /**
+     * The parameter files, with name, type and comment; the document contains no directories. An
+     * empty entry is a null one.
+     */
     virtual QList<CParamFileElement> paramFiles() const = 0;
     /** @return whether the document has a list of parameter files */
     virtual bool paramFiles(QList<CParamFileElement> &files) const = 0;

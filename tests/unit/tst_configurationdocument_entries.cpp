@@ -32,6 +32,7 @@ private slots:
     void subDeviceType();
     void unknownTypeIsWrittenFirst();
     void subDeviceOrder();
+    void emptyParamFiles();
     void driveNumbers_data();
     void driveNumbers();
     void tooManySubDevices();
@@ -143,6 +144,35 @@ void tst_configurationdocument_entries::entryNames_data()
     QTest::newRow("name as text") << QByteArray("<File>a</File>") << QString();
     QTest::newRow("file in a file")
         << QByteArray("<File><File><Name>a</Name></File></File>") << QString();
+void tst_configurationdocument_entries::emptyParamFiles()
+{
+    // Each entry is one in the list, whatever is in it; a type alone is none.
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load(configDocument("   <ParameterFiles>\n    <File/>\n"
+                                     "    <File type=\"VornParameters\"/>\n"
+                                     "    <File>\n     <Name>a</Name>\n    </File>\n"
+                                     "    <File type=\"x\">\n     <Name/>\n    </File>\n"
+                                     "   </ParameterFiles>\n")));
+    const CParamFileElement null;
+    const CParamFileElement named =
+        SampleConfiguration::paramFile(u"a"_s, NvrnGlobal::PARAM_FILE_UNDEFINED);
+    const QList<CParamFileElement> expected = {null, null, named, null};
+    QVERIFY(file.paramFiles() == expected);
+    CDeviceElement device;
+    QVERIFY(file.configuration(device));
+    QVERIFY(device.parameterFiles() == expected);
+    // They are no files.
+    QVERIFY(!file.containsParamFile(null));
+    QVERIFY(!device.parameterFiles(NvrnDeviceCore::DEVICE_FILE_PARAMETER).isEmpty());
+    for (const CFileElement &placed :
+         device.parameterFiles(NvrnDeviceCore::DEVICE_FILE_PARAMETER)) {
+        QVERIFY(placed.fileName().startsWith(u"a."_s));
+    }
+    // A list that is written leaves them out, as it leaves out all invalid ones.
+    QVERIFY(file.setParamFiles(file.paramFiles()));
+    QVERIFY(file.paramFiles() == QList<CParamFileElement>{named});
+}
+
     QTest::newRow("behind another element")
         << QByteArray("<A/><File><Name>a</Name></File>") << u"a"_s;
 }
