@@ -49,7 +49,17 @@ auto warnOfIdentity(const CXmlAbstractVornFile &file, const QDomElement &parent)
     };
 }
 
-// What stands in the "Config" element. An item, a list or a group without any value is left out.
+/** Nothing of an old entry stays; what else its holder has does. */
+void replaceFile(CDeviceConfigurationFileBase &file, const CFileElement &value, const QString &tag,
+                 const QDomElement &parent)
+{
+    QDomElement holder = file.domElement(tag, parent);
+    while (!holder.removeChild(holder.firstChildElement(TAG_FILE)).isNull()) { }
+    file.appendFileElement(value, holder);
+}
+
+// What stands in the "Config" element, and the files of a drive. An item, a file, a list or a group
+// without any value is left out.
 
 void setConfigItem(CXmlAbstractVornFile &file, const SNode &node, const CDeviceElement &device,
                    const QDomElement &parent)
@@ -61,6 +71,14 @@ void setConfigItem(CXmlAbstractVornFile &file, const SNode &node, const CDeviceE
 }
 
 void setList(CDeviceConfigurationFileBase &file, const SNode &list, const CDeviceElement &device,
+void setFile(CDeviceConfigurationFileBase &file, const CFileElement &value, const QString &tag,
+             const QDomElement &parent)
+{
+    if (!value.isNull()) {
+        replaceFile(file, value, tag, parent);
+    }
+}
+
              const QDomElement &parent)
 {
     switch (list.entry) {
@@ -250,7 +268,7 @@ void CDeviceConfigurationFileBase::setConfigElement(const CDeviceElement &device
             setConfigItem(*this, node, device, parent);
             break;
         case EKind::SINGLE_FILE:
-            setSingleFile(find(deviceFiles(), node.tag)->get(device), node.tag, parent);
+            setFile(*this, find(deviceFiles(), node.tag)->get(device), node.tag, parent);
             break;
         case EKind::LIST:
         case EKind::OPTIONS:
@@ -275,7 +293,7 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
     setItems(*this, driveItems(), subDevice, element);
     for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
         if (!row.isOfKd2Only) {
-            setSingleFile(row.get(subDevice), row.tag, element);
+            setFile(*this, row.get(subDevice), row.tag, element);
         }
     }
     if (subDevice.isKD2()) {
@@ -288,7 +306,7 @@ void CDeviceConfigurationFileBase::appendKD2SubDeviceElement(const CSubDeviceKD2
 {
     for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
         if (row.isOfKd2Only) {
-            setSingleFile(row.get(subDevice), row.tag, element);
+            setFile(*this, row.get(subDevice), row.tag, element);
         }
     }
 }
@@ -433,25 +451,7 @@ void CDeviceConfigurationFileBase::setSingleFile(const CFileElement &file, const
     if (parent.isNull()) {
         return;
     }
-    QDomElement holder = parent.firstChildElement(tag);
-    if (holder.isNull() && file.isNull()) {
-        return;
-    }
-    if (holder.isNull()) {
-        holder = domElement(tag, parent);
-    }
-    // The first entry is filled again rather than replaced: what else it holds stays.
-    QDomElement entry = file.isNull() ? QDomElement() : holder.firstChildElement(TAG_FILE);
-    for (QDomElement child = holder.firstChildElement(TAG_FILE); !child.isNull();) {
-        const QDomElement next = child.nextSiblingElement(TAG_FILE);
-        if (child != entry) {
-            holder.removeChild(child);
-        }
-        child = next;
-    }
-    if (!file.isNull()) {
-        appendFileElement(file, entry.isNull() ? holder : entry);
-    }
+    replaceFile(*this, file, tag, parent);
 }
 
 CFileElement CDeviceConfigurationFileBase::singleFile(const QString &tag,

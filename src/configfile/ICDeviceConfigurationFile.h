@@ -25,7 +25,8 @@ class ICLogfile;
  * then save(). The object keeps the document and no elements: every getter reads the document,
  * every setter changes it at once. What a setter does not concern stays in the document, also
  * elements, attributes and comments that this library does not know; only setConfiguration() and
- * the setters of whole lists rebuild their part of the document.
+ * the setters of whole lists and of single files rebuild their part of the document. An element
+ * that a setter misses is created where a whole document has it.
  *
  * Without a document, as after a failed open() or load(), getters give empty values, and setters
  * change nothing and return false. A getter never creates an element.
@@ -101,7 +102,8 @@ public:
 
     /**
      * Object dictionary and fault texts, as the document contains them: with their project paths,
-     * whether or not configuration() would accept these. A null file removes the entry.
+     * whether or not configuration() would accept these. The setters replace the whole entry; for a
+     * null file it is one with empty texts, which is read as null.
      */
     virtual bool setOdictFile(const CFileElement &file) = 0;
     virtual CFileElement odictFile() const = 0;
@@ -168,7 +170,7 @@ public:
     /** @return whether the document has a list of OPC UA files */
     virtual bool opcUaFiles(QList<CFileElement> &files) const = 0;
 
-    /** Bus configuration of the EtherCAT master; a null file removes the entry. */
+    /** Bus configuration of the EtherCAT master; set like setOdictFile(). */
     virtual bool setEtherCatMasterFile(const CFileElement &file) = 0;
     virtual CFileElement etherCatMasterFile() const = 0;
 
