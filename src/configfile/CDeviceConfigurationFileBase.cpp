@@ -1,9 +1,11 @@
 #include "configfile/CDeviceConfigurationFileBase.h"
 
+#include "configfile/ElementOrder.h"
 #include "configfile/ItemElements.h"
 #include "configfile/ItemValue.h"
 #include "elements/DriveNumbers.h"
 #include "elements/StartOptions.h"
+#include "imported/CDomDoc.h"
 #include "imported/CMessageBoardHelper.h"
 #include "imported/CStr.h"
 #include "vocabulary/DriveTypes.h"
@@ -24,14 +26,13 @@ const QLatin1Char OptionSeparator(' ');
 using DeviceConfigurationFileTexts::Texts;
 
 template <typename Element>
-void setItems(CXmlAbstractVornFile &file, const QVector<SField<Element>> &rows,
-              const Element &element, QDomElement parent)
+void setItems(const QVector<SField<Element>> &rows, const Element &element, QDomElement parent)
 {
     for (const SField<Element> &row : rows) {
         if (row.isAttribute) {
             parent.setAttribute(row.tag, row.get(element));
         } else {
-            file.setNodeValue(row.tag, row.get(element), parent);
+            CDomDoc::setText(row.get(element), ElementOrder::child(row.tag, parent));
         }
     }
 }
@@ -53,7 +54,7 @@ auto warnOfIdentity(const CXmlAbstractVornFile &file, const QDomElement &parent)
 void replaceFile(CDeviceConfigurationFileBase &file, const CFileElement &value, const QString &tag,
                  const QDomElement &parent)
 {
-    QDomElement holder = file.domElement(tag, parent);
+    QDomElement holder = ElementOrder::child(tag, parent);
     while (!holder.removeChild(holder.firstChildElement(TAG_FILE)).isNull()) { }
     file.appendFileElement(value, holder);
 }
@@ -70,7 +71,6 @@ void setConfigItem(CXmlAbstractVornFile &file, const SNode &node, const CDeviceE
     }
 }
 
-void setList(CDeviceConfigurationFileBase &file, const SNode &list, const CDeviceElement &device,
 void setFile(CDeviceConfigurationFileBase &file, const CFileElement &value, const QString &tag,
              const QDomElement &parent)
 {
@@ -79,6 +79,7 @@ void setFile(CDeviceConfigurationFileBase &file, const CFileElement &value, cons
     }
 }
 
+void setList(CDeviceConfigurationFileBase &file, const SNode &list, const CDeviceElement &device,
              const QDomElement &parent)
 {
     switch (list.entry) {
@@ -160,8 +161,8 @@ void setOpcUa(CDeviceConfigurationFileBase &file, const SNode &group, const CDev
     if (!isUsed && device.opcUaFiles().isEmpty()) {
         return;
     }
-    const QDomElement element = file.domElement(group.tag, parent);
-    setItems(file, opcUaItems(), device, element);
+    const QDomElement element = ElementOrder::child(group.tag, parent);
+    setItems(opcUaItems(), device, element);
     for (const SNode &node : group.children) {
         setList(file, node, device, element);
     }
@@ -222,7 +223,7 @@ void CDeviceConfigurationFileBase::setDescriptionElement(const CDescriptionEleme
                                                          QDomElement element)
 {
     if (!element.isNull()) {
-        setItems(*this, descriptionItems(), description, element);
+        setItems(descriptionItems(), description, element);
     }
 }
 
@@ -252,7 +253,7 @@ void CDeviceConfigurationFileBase::setDeviceElement(const CDeviceElement &device
     if (element.isNull()) {
         return;
     }
-    setItems(*this, deviceItems(), device, element);
+    setItems(deviceItems(), device, element);
     setConfigElement(device, configDomElement(element));
     for (const CSubDeviceElement &subDevice : device.subDevices()) {
         appendSubDeviceElement(subDevice, element);
@@ -290,7 +291,7 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
         return;
     }
     const QDomElement element = createSubDeviceDomElement(device);
-    setItems(*this, driveItems(), subDevice, element);
+    setItems(driveItems(), subDevice, element);
     for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
         if (!row.isOfKd2Only) {
             setFile(*this, row.get(subDevice), row.tag, element);
@@ -448,9 +449,6 @@ void CDeviceConfigurationFileBase::setPluginElementList(const QList<CPluginEleme
 void CDeviceConfigurationFileBase::setSingleFile(const CFileElement &file, const QString &tag,
                                                  QDomElement parent)
 {
-    if (parent.isNull()) {
-        return;
-    }
     replaceFile(*this, file, tag, parent);
 }
 
@@ -464,8 +462,8 @@ CFileElement CDeviceConfigurationFileBase::singleFile(const QString &tag,
 
 void CDeviceConfigurationFileBase::setOpcUaFlag(bool enabled, QDomElement config)
 {
-    setNodeValue(TAG_OPCUA_ENABLED, enabled ? VALUE_TRUE : VALUE_FALSE,
-                 domElement(TAG_OPCUA, config));
+    const QDomElement opcUa = ElementOrder::child(TAG_OPCUA, config);
+    setNodeValue(ElementOrder::child(TAG_OPCUA_ENABLED, opcUa), enabled ? VALUE_TRUE : VALUE_FALSE);
 }
 
 bool CDeviceConfigurationFileBase::opcUaFlag(const QDomElement &config) const

@@ -84,9 +84,9 @@ public:
     virtual CDescriptionElement description() const = 0;
 
     /**
-     * Replaces the device by @p device. Serial number, network endpoint and list position, and the
-     * directories and drive numbers of parameter files, are not part of the document. Parts of the
-     * device that are empty are left out.
+     * Removes every device of the document, and appends @p device to the root. Serial number,
+     * network endpoint and list position, and the directories and drive numbers of parameter files,
+     * are not part of the document. Parts of the device that are empty are left out.
      */
     virtual bool setConfiguration(const CDeviceElement &device) = 0;
     /**

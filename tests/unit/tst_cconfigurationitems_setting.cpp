@@ -66,6 +66,7 @@ private slots:
     void directoriesAreNormalised();
     void missingElementsAreCreated_data();
     void missingElementsAreCreated();
+    void removedItemsComeBackAtTheirPlace();
     void activeFpgaFile();
     void commentsAndElementsInAnItemStay();
 
@@ -356,6 +357,21 @@ void tst_cconfigurationitems_setting::missingElementsAreCreated()
     QVERIFY(opened.items.setValue(path, value));
     QCOMPARE(opened.value(path), value);
     QCOMPARE(opened.bytes(), after);
+}
+
+void tst_cconfigurationitems_setting::removedItemsComeBackAtTheirPlace()
+{
+    int count = 0;
+    for (const SItem &item : SOpened(m_sample).items.items()) {
+        SOpened opened(m_sample);
+        // What goes as a whole entry is no item any more.
+        if (!isSpecial(item.path) && opened.items.remove(item.path)
+            && opened.items.setValue(item.path, item.value)) {
+            QCOMPARE(opened.bytes(), m_sample);
+            ++count;
+        }
+    }
+    QVERIFY(count > 60);
 }
 
 void tst_cconfigurationitems_setting::activeFpgaFile()
