@@ -361,13 +361,15 @@ void tst_cconfigurationitems_setting::missingElementsAreCreated()
 
 void tst_cconfigurationitems_setting::removedItemsComeBackAtTheirPlace()
 {
+    const QByteArray example =
+        Files::read(Places::source("examples/packaging-line/DeviceConfiguration.3deco"));
     int count = 0;
-    for (const SItem &item : SOpened(m_sample).items.items()) {
-        SOpened opened(m_sample);
+    for (const SItem &item : SOpened(example).items.items()) {
+        SOpened opened(example);
         // What goes as a whole entry is no item any more.
         if (!isSpecial(item.path) && opened.items.remove(item.path)
             && opened.items.setValue(item.path, item.value)) {
-            QCOMPARE(opened.bytes(), m_sample);
+            QCOMPARE(opened.bytes(), example);
             ++count;
         }
     }
