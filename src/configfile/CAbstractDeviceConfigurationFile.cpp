@@ -1,5 +1,6 @@
 #include "configfile/CAbstractDeviceConfigurationFile.h"
 
+#include "configfile/ElementOrder.h"
 #include "configfile/ItemElements.h"
 #include "imported/CDomDoc.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -26,8 +27,8 @@ class Entry
 {
 public:
     /** @p parent if it is an element of the given kind already, else a new one at its end. */
-    Entry(CXmlAbstractVornFile &file, const QDomElement &parent, const QString &tag)
-        : m_file(file), m_document(parent.ownerDocument()), m_element(parent),
+    Entry(const QDomElement &parent, const QString &tag)
+        : m_document(parent.ownerDocument()), m_element(parent),
           m_isNew(parent.tagName() != tag && parent.tagName() != TAG_FILE)
     {
         if (m_isNew) {
@@ -51,7 +52,7 @@ public:
     void setValue(const QString &tag, const QString &value)
     {
         if (!m_isNew) {
-            m_file.setNodeValue(tag, value, m_element);
+            CDomDoc::setText(value, ElementOrder::child(tag, m_element));
             return;
         }
         // A new one has no such child yet: there is nothing to look for.
@@ -61,7 +62,6 @@ public:
     }
 
 private:
-    CXmlAbstractVornFile &m_file;
     QDomDocument m_document;
     QDomElement m_element;
     const bool m_isNew;
@@ -156,26 +156,26 @@ QDomElement CAbstractDeviceConfigurationFile::deviceDomElement()
 QDomElement CAbstractDeviceConfigurationFile::configDomElement(QDomElement device)
 {
     const QDomElement parent = device.isNull() ? deviceDomElement() : device;
-    return domElement(TAG_CONFIG, parent);
+    return ElementOrder::child(TAG_CONFIG, parent);
 }
 
 QDomElement CAbstractDeviceConfigurationFile::paramFilesDomElement(QDomElement element)
 {
     const QDomElement parent = element.isNull() ? configDomElement(element) : element;
-    return domElement(TAG_PARAMETERFILES, parent);
+    return ElementOrder::child(TAG_PARAMETERFILES, parent);
 }
 
 QDomElement CAbstractDeviceConfigurationFile::pluginsDomElement(QDomElement element)
 {
     const QDomElement parent = element.isNull() ? configDomElement(element) : element;
-    return domElement(TAG_PLUGINS, parent);
+    return ElementOrder::child(TAG_PLUGINS, parent);
 }
 
 void CAbstractDeviceConfigurationFile::appendFileElement(const CFileElement &file,
                                                          QDomElement parent)
 {
     if (!parent.isNull()) {
-        Entry(*this, parent, TAG_FILE).setItems(ConfigurationShape::fileItems(), file);
+        Entry(parent, TAG_FILE).setItems(ConfigurationShape::fileItems(), file);
     }
 }
 
@@ -238,7 +238,7 @@ void CAbstractDeviceConfigurationFile::appendParamFileElement(const CParamFileEl
                                                               QDomElement parent)
 {
     if (file.isValid() && !parent.isNull()) {
-        Entry(*this, parent, TAG_FILE).setItems(ConfigurationShape::parameterFileItems(), file);
+        Entry(parent, TAG_FILE).setItems(ConfigurationShape::parameterFileItems(), file);
     }
 }
 
@@ -285,7 +285,7 @@ CAbstractDeviceConfigurationFile::strToDeviceClass(const QString &text) const
 void CAbstractDeviceConfigurationFile::appendFileString(const QString &fileName, QDomElement parent)
 {
     if (!parent.isNull()) {
-        Entry(*this, parent, TAG_FILE).setValue(TAG_NAME, fileName);
+        Entry(parent, TAG_FILE).setValue(TAG_NAME, fileName);
     }
 }
 
@@ -305,7 +305,7 @@ void CAbstractDeviceConfigurationFile::appendPluginElement(const CPluginElement 
                                                            QDomElement parent)
 {
     if (!parent.isNull()) {
-        Entry(*this, parent, TAG_PLUGIN).setItems(ConfigurationShape::pluginItems(), plugin);
+        Entry(parent, TAG_PLUGIN).setItems(ConfigurationShape::pluginItems(), plugin);
     }
 }
 

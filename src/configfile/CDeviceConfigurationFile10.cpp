@@ -1,6 +1,7 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 
 #include "configfile/ConfigurationShape.h"
+#include "configfile/ElementOrder.h"
 #include "imported/CMessageBoardHelper.h"
 #include "imported/ICLogfile.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -19,6 +20,13 @@ using DeviceConfigurationFile10Texts::Texts;
 bool remove(const QDomElement &element)
 {
     return !element.isNull() && !element.parentNode().removeChild(element).isNull();
+}
+
+/** @p parent, where the child @p tag now has its place: what builds the list anew replaces it. */
+QDomElement withChild(const QString &tag, const QDomElement &parent)
+{
+    ElementOrder::child(tag, parent);
+    return parent;
 }
 
 } // namespace
@@ -43,7 +51,6 @@ bool CDeviceConfigurationFile10::createNewDocument()
     const bool created = createNewDocument(TAG_ROOT_DEVICECONFIG, requiredFileVersion());
     CXMLMetaData meta;
     meta.setComment(QStringLiteral("Device Configuration File"));
-    meta.setDate(QDate::currentDate());
     if (logfile() != nullptr) {
         meta.setAuthor(logfile()->author());
     }
@@ -132,17 +139,7 @@ bool CDeviceConfigurationFile10::setDescription(const CDescriptionElement &descr
     if (root.isNull()) {
         return false;
     }
-    QDomElement element = findDescriptionElement();
-    if (element.isNull()) {
-        element = document.createElement(TAG_DESCRIPTION);
-        const QDomElement device = findDeviceElement();
-        // A null device would put it first, but the description comes behind the head.
-        if (device.isNull()) {
-            root.appendChild(element);
-        } else {
-            root.insertBefore(element, device);
-        }
-    }
+    const QDomElement element = ElementOrder::child(TAG_DESCRIPTION, root);
     const QString text = QStringLiteral("Project description");
     const QDomNode before = element.previousSibling();
     if (!before.isComment() || before.nodeValue().trimmed() != text) {
@@ -166,18 +163,9 @@ bool CDeviceConfigurationFile10::setConfiguration(const CDeviceElement &device)
     if (root.isNull()) {
         return false;
     }
-    // The new device takes the place of the first one, so that comments around it keep their sense.
-    const QDomElement present = findDeviceElement();
+    while (remove(findDeviceElement())) { }
     const QDomElement element = document.createElement(TAG_DEVICE);
-    if (present.isNull()) {
-        root.appendChild(element);
-    } else {
-        root.replaceChild(element, present);
-    }
-    for (QDomElement other = element.nextSiblingElement(TAG_DEVICE); !other.isNull();
-         other = element.nextSiblingElement(TAG_DEVICE)) {
-        root.removeChild(other);
-    }
+    root.appendChild(element);
     setDeviceElement(device, element);
     return true;
 }
@@ -258,7 +246,7 @@ bool CDeviceConfigurationFile10::setParamFiles(const QList<CParamFileElement> &f
     if (!hasDocument()) {
         return false;
     }
-    setParamFileElementList(files, configDomElement(QDomElement()));
+    setParamFileElementList(files, withChild(TAG_PARAMETERFILES, configDomElement(QDomElement())));
     return true;
 }
 
@@ -351,7 +339,8 @@ bool CDeviceConfigurationFile10::setFpgaFiles(const QStringList &fileNames)
     if (!hasDocument()) {
         return false;
     }
-    setFileStringList(fileNames, TAG_FPGA_FILES, configDomElement(QDomElement()));
+    setFileStringList(fileNames, TAG_FPGA_FILES,
+                      withChild(TAG_FPGA_FILES, configDomElement(QDomElement())));
     return true;
 }
 
@@ -365,7 +354,8 @@ bool CDeviceConfigurationFile10::appendFpgaFile(const QString &fileName)
     if (!hasDocument()) {
         return false;
     }
-    appendFileString(fileName, domElement(TAG_FPGA_FILES, configDomElement(QDomElement())));
+    appendFileString(fileName,
+                     ElementOrder::child(TAG_FPGA_FILES, configDomElement(QDomElement())));
     return true;
 }
 
@@ -379,7 +369,7 @@ bool CDeviceConfigurationFile10::setActiveFpgaFile(const QString &fileName)
     if (!hasDocument() || fileName.isEmpty()) {
         return false;
     }
-    QDomElement list = domElement(TAG_FPGA_FILES, configDomElement(QDomElement()));
+    QDomElement list = ElementOrder::child(TAG_FPGA_FILES, configDomElement(QDomElement()));
     const auto findSame = [&]() {
         return findFile(list, [&](const QDomElement &entry) {
             return CDeviceBaseElement::isSameFpgaFile(getNodeValue(TAG_NAME, entry), fileName);
@@ -415,7 +405,7 @@ bool CDeviceConfigurationFile10::setAdditionalFiles(const QList<CFileElement> &f
     if (!hasDocument()) {
         return false;
     }
-    setFileElements(files, TAG_FILES, configDomElement(QDomElement()));
+    setFileElements(files, TAG_FILES, withChild(TAG_FILES, configDomElement(QDomElement())));
     return true;
 }
 
@@ -429,7 +419,7 @@ bool CDeviceConfigurationFile10::appendAdditionalFile(const CFileElement &file)
     if (!hasDocument() || file.isNull()) {
         return false;
     }
-    appendFileElement(file, domElement(TAG_FILES, configDomElement(QDomElement())));
+    appendFileElement(file, ElementOrder::child(TAG_FILES, configDomElement(QDomElement())));
     return true;
 }
 
@@ -443,7 +433,7 @@ bool CDeviceConfigurationFile10::setPlugins(const QList<CPluginElement> &plugins
     if (!hasDocument()) {
         return false;
     }
-    setPluginElementList(plugins, configDomElement(QDomElement()));
+    setPluginElementList(plugins, withChild(TAG_PLUGINS, configDomElement(QDomElement())));
     return true;
 }
 
@@ -466,7 +456,7 @@ bool CDeviceConfigurationFile10::setExecutionPlugin(const QString &name)
     if (!hasDocument()) {
         return false;
     }
-    setNodeValue(TAG_EXECUTIONPLUGIN, name, configDomElement(QDomElement()));
+    setNodeValue(ElementOrder::child(TAG_EXECUTIONPLUGIN, configDomElement(QDomElement())), name);
     return true;
 }
 
@@ -494,7 +484,8 @@ bool CDeviceConfigurationFile10::setOpcUaFiles(const QList<CFileElement> &files)
     if (!hasDocument()) {
         return false;
     }
-    setFileElements(files, TAG_OPCUA_FILES, domElement(TAG_OPCUA, configDomElement(QDomElement())));
+    const QDomElement opcUa = ElementOrder::child(TAG_OPCUA, configDomElement(QDomElement()));
+    setFileElements(files, TAG_OPCUA_FILES, withChild(TAG_OPCUA_FILES, opcUa));
     return true;
 }
 

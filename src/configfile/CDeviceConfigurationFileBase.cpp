@@ -1,9 +1,11 @@
 #include "configfile/CDeviceConfigurationFileBase.h"
 
+#include "configfile/ElementOrder.h"
 #include "configfile/ItemElements.h"
 #include "configfile/ItemValue.h"
 #include "elements/DriveNumbers.h"
 #include "elements/StartOptions.h"
+#include "imported/CDomDoc.h"
 #include "imported/CMessageBoardHelper.h"
 #include "imported/CStr.h"
 #include "vocabulary/DriveTypes.h"
@@ -24,14 +26,13 @@ const QLatin1Char OptionSeparator(' ');
 using DeviceConfigurationFileTexts::Texts;
 
 template <typename Element>
-void setItems(CXmlAbstractVornFile &file, const QVector<SField<Element>> &rows,
-              const Element &element, QDomElement parent)
+void setItems(const QVector<SField<Element>> &rows, const Element &element, QDomElement parent)
 {
     for (const SField<Element> &row : rows) {
         if (row.isAttribute) {
             parent.setAttribute(row.tag, row.get(element));
         } else {
-            file.setNodeValue(row.tag, row.get(element), parent);
+            CDomDoc::setText(row.get(element), ElementOrder::child(row.tag, parent));
         }
     }
 }
@@ -49,7 +50,17 @@ auto warnOfIdentity(const CXmlAbstractVornFile &file, const QDomElement &parent)
     };
 }
 
-// What stands in the "Config" element. An item, a list or a group without any value is left out.
+/** Nothing of an old entry stays; what else its holder has does. */
+void replaceFile(CDeviceConfigurationFileBase &file, const CFileElement &value, const QString &tag,
+                 const QDomElement &parent)
+{
+    QDomElement holder = ElementOrder::child(tag, parent);
+    while (!holder.removeChild(holder.firstChildElement(TAG_FILE)).isNull()) { }
+    file.appendFileElement(value, holder);
+}
+
+// What stands in the "Config" element, and the files of a drive. An item, a file, a list or a group
+// without any value is left out.
 
 void setConfigItem(CXmlAbstractVornFile &file, const SNode &node, const CDeviceElement &device,
                    const QDomElement &parent)
@@ -57,6 +68,14 @@ void setConfigItem(CXmlAbstractVornFile &file, const SNode &node, const CDeviceE
     const QString value = find(configItems(), node.tag)->get(device);
     if (value != ItemValue::absentValue(node.item)) {
         file.setNodeValue(node.tag, value, parent);
+    }
+}
+
+void setFile(CDeviceConfigurationFileBase &file, const CFileElement &value, const QString &tag,
+             const QDomElement &parent)
+{
+    if (!value.isNull()) {
+        replaceFile(file, value, tag, parent);
     }
 }
 
@@ -142,8 +161,8 @@ void setOpcUa(CDeviceConfigurationFileBase &file, const SNode &group, const CDev
     if (!isUsed && device.opcUaFiles().isEmpty()) {
         return;
     }
-    const QDomElement element = file.domElement(group.tag, parent);
-    setItems(file, opcUaItems(), device, element);
+    const QDomElement element = ElementOrder::child(group.tag, parent);
+    setItems(opcUaItems(), device, element);
     for (const SNode &node : group.children) {
         setList(file, node, device, element);
     }
@@ -204,7 +223,7 @@ void CDeviceConfigurationFileBase::setDescriptionElement(const CDescriptionEleme
                                                          QDomElement element)
 {
     if (!element.isNull()) {
-        setItems(*this, descriptionItems(), description, element);
+        setItems(descriptionItems(), description, element);
     }
 }
 
@@ -234,7 +253,7 @@ void CDeviceConfigurationFileBase::setDeviceElement(const CDeviceElement &device
     if (element.isNull()) {
         return;
     }
-    setItems(*this, deviceItems(), device, element);
+    setItems(deviceItems(), device, element);
     setConfigElement(device, configDomElement(element));
     for (const CSubDeviceElement &subDevice : device.subDevices()) {
         appendSubDeviceElement(subDevice, element);
@@ -250,7 +269,7 @@ void CDeviceConfigurationFileBase::setConfigElement(const CDeviceElement &device
             setConfigItem(*this, node, device, parent);
             break;
         case EKind::SINGLE_FILE:
-            setSingleFile(find(deviceFiles(), node.tag)->get(device), node.tag, parent);
+            setFile(*this, find(deviceFiles(), node.tag)->get(device), node.tag, parent);
             break;
         case EKind::LIST:
         case EKind::OPTIONS:
@@ -272,10 +291,10 @@ void CDeviceConfigurationFileBase::appendSubDeviceElement(const CSubDeviceElemen
         return;
     }
     const QDomElement element = createSubDeviceDomElement(device);
-    setItems(*this, driveItems(), subDevice, element);
+    setItems(driveItems(), subDevice, element);
     for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
         if (!row.isOfKd2Only) {
-            setSingleFile(row.get(subDevice), row.tag, element);
+            setFile(*this, row.get(subDevice), row.tag, element);
         }
     }
     if (subDevice.isKD2()) {
@@ -288,7 +307,7 @@ void CDeviceConfigurationFileBase::appendKD2SubDeviceElement(const CSubDeviceKD2
 {
     for (const SFileField<CSubDeviceElement> &row : driveFiles()) {
         if (row.isOfKd2Only) {
-            setSingleFile(row.get(subDevice), row.tag, element);
+            setFile(*this, row.get(subDevice), row.tag, element);
         }
     }
 }
@@ -385,9 +404,7 @@ void CDeviceConfigurationFileBase::paramFileElementList(QList<CParamFileElement>
     for (int i = 0; i < entries.size(); ++i) {
         CParamFileElement file;
         paramFileElement(file, entries.at(i).toElement());
-        if (!file.isNull()) {
-            files.append(file);
-        }
+        files.append(file);
     }
 }
 
@@ -432,28 +449,7 @@ void CDeviceConfigurationFileBase::setPluginElementList(const QList<CPluginEleme
 void CDeviceConfigurationFileBase::setSingleFile(const CFileElement &file, const QString &tag,
                                                  QDomElement parent)
 {
-    if (parent.isNull()) {
-        return;
-    }
-    QDomElement holder = parent.firstChildElement(tag);
-    if (holder.isNull() && file.isNull()) {
-        return;
-    }
-    if (holder.isNull()) {
-        holder = domElement(tag, parent);
-    }
-    // The first entry is filled again rather than replaced: what else it holds stays.
-    QDomElement entry = file.isNull() ? QDomElement() : holder.firstChildElement(TAG_FILE);
-    for (QDomElement child = holder.firstChildElement(TAG_FILE); !child.isNull();) {
-        const QDomElement next = child.nextSiblingElement(TAG_FILE);
-        if (child != entry) {
-            holder.removeChild(child);
-        }
-        child = next;
-    }
-    if (!file.isNull()) {
-        appendFileElement(file, entry.isNull() ? holder : entry);
-    }
+    replaceFile(*this, file, tag, parent);
 }
 
 CFileElement CDeviceConfigurationFileBase::singleFile(const QString &tag,
@@ -466,8 +462,8 @@ CFileElement CDeviceConfigurationFileBase::singleFile(const QString &tag,
 
 void CDeviceConfigurationFileBase::setOpcUaFlag(bool enabled, QDomElement config)
 {
-    setNodeValue(TAG_OPCUA_ENABLED, enabled ? VALUE_TRUE : VALUE_FALSE,
-                 domElement(TAG_OPCUA, config));
+    const QDomElement opcUa = ElementOrder::child(TAG_OPCUA, config);
+    setNodeValue(ElementOrder::child(TAG_OPCUA_ENABLED, opcUa), enabled ? VALUE_TRUE : VALUE_FALSE);
 }
 
 bool CDeviceConfigurationFileBase::opcUaFlag(const QDomElement &config) const

@@ -25,7 +25,8 @@ class ICLogfile;
  * then save(). The object keeps the document and no elements: every getter reads the document,
  * every setter changes it at once. What a setter does not concern stays in the document, also
  * elements, attributes and comments that this library does not know; only setConfiguration() and
- * the setters of whole lists rebuild their part of the document.
+ * the setters of whole lists and of single files rebuild their part of the document. An element
+ * that a setter misses is created where a whole document has it.
  *
  * Without a document, as after a failed open() or load(), getters give empty values, and setters
  * change nothing and return false. A getter never creates an element.
@@ -54,7 +55,10 @@ public:
     using CXmlAbstractVornFile::open;
     using CXmlAbstractVornFile::save;
 
-    /** Starts a document with nothing but its meta data; the author comes from the log. */
+    /**
+     * Starts a document with nothing but its meta data: a comment, and the author from the log.
+     * They have no date, so that it is the same document on every day.
+     */
     virtual bool createNewDocument() = 0;
     /**
      * Opens the file @p path. A document of another version is accepted with a warning. On failure
@@ -80,9 +84,9 @@ public:
     virtual CDescriptionElement description() const = 0;
 
     /**
-     * Replaces the device by @p device. Serial number, network endpoint and list position, and the
-     * directories and drive numbers of parameter files, are not part of the document. Parts of the
-     * device that are empty are left out.
+     * Removes every device of the document, and appends @p device to the root. Serial number,
+     * network endpoint and list position, and the directories and drive numbers of parameter files,
+     * are not part of the document. Parts of the device that are empty are left out.
      */
     virtual bool setConfiguration(const CDeviceElement &device) = 0;
     /**
@@ -98,14 +102,18 @@ public:
 
     /**
      * Object dictionary and fault texts, as the document contains them: with their project paths,
-     * whether or not configuration() would accept these. A null file removes the entry.
+     * whether or not configuration() would accept these. The setters replace the whole entry; for a
+     * null file it is one with empty texts, which is read as null.
      */
     virtual bool setOdictFile(const CFileElement &file) = 0;
     virtual CFileElement odictFile() const = 0;
     virtual bool setFaultTextFile(const CFileElement &file) = 0;
     virtual CFileElement faultTextFile() const = 0;
 
-    /** The parameter files, with name, type and comment; the document contains no directories. */
+    /**
+     * The parameter files, with name, type and comment; the document contains no directories. An
+     * empty entry is a null one.
+     */
     virtual QList<CParamFileElement> paramFiles() const = 0;
     /** @return whether the document has a list of parameter files */
     virtual bool paramFiles(QList<CParamFileElement> &files) const = 0;
@@ -162,7 +170,7 @@ public:
     /** @return whether the document has a list of OPC UA files */
     virtual bool opcUaFiles(QList<CFileElement> &files) const = 0;
 
-    /** Bus configuration of the EtherCAT master; a null file removes the entry. */
+    /** Bus configuration of the EtherCAT master; set like setOdictFile(). */
     virtual bool setEtherCatMasterFile(const CFileElement &file) = 0;
     virtual CFileElement etherCatMasterFile() const = 0;
 

@@ -3,6 +3,7 @@
 #include "configfile/CDeviceConfigurationFile10.h"
 #include "support/BrokenDocuments.h"
 #include "support/CheckedDocuments.h"
+#include "support/ConfigurationTexts.h"
 #include "support/Files.h"
 #include "support/Literals.h"
 #include "support/MessageCatcher.h"
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void documentsOfTheRules();
     void itemsAreThoseOfTheDocument();
     void entriesAreCountedAsTheItems();
+    void nullSingleFileIsNone();
     void texts_data();
     void texts();
 };
@@ -195,6 +197,26 @@ void tst_cconfigurationcheck_rules::entriesAreCountedAsTheItems()
     CDeviceConfigurationFile10 file(nullptr);
     QVERIFY(file.load(bytes));
     QCOMPARE(CConfigurationItems(file).entries(), found.mid(1));
+}
+
+void tst_cconfigurationcheck_rules::nullSingleFileIsNone()
+{
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load(document("<Files/>")));
+    CConfigurationCheck check;
+    QVERIFY(check.load(ConfigurationTexts::bytesOf(file)));
+    const int before = check.findings().size();
+    QVERIFY(file.setOdictFile(CFileElement()));
+    QVERIFY(file.setFaultTextFile(CFileElement()));
+    QVERIFY(file.setEtherCatMasterFile(CFileElement()));
+    QVERIFY(check.load(ConfigurationTexts::bytesOf(file)));
+    QCOMPARE(check.findings().size(), before);
+    // With anything in it, it is a file that has no name.
+    CFileElement nameless;
+    nameless.setComment(u"c"_s);
+    QVERIFY(file.setOdictFile(nameless));
+    QVERIFY(check.load(ConfigurationTexts::bytesOf(file)));
+    QCOMPARE(check.findings().size(), before + 1);
 }
 
 void tst_cconfigurationcheck_rules::texts_data()

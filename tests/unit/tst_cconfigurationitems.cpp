@@ -424,9 +424,13 @@ void tst_cconfigurationitems::entriesAreThoseOfTheReaders()
     CDeviceElement device;
     QVERIFY(opened.file.configuration(device));
     QStringList expected;
+    int nameless = 0;
     for (const CParamFileElement &file : device.parameterFiles()) {
-        expected << CConfigurationItems::entryPath(u"device.parameterFiles"_s, file.name());
+        const int occurrence = file.name().isEmpty() ? ++nameless : 1;
+        expected << CConfigurationItems::entryPath(u"device.parameterFiles"_s, file.name(),
+                                                   occurrence);
     }
+    QCOMPARE(nameless, 3);
     for (const QString &name : device.fpgaFiles()) {
         expected << CConfigurationItems::entryPath(u"device.fpgaFiles"_s, name);
     }
@@ -437,11 +441,13 @@ void tst_cconfigurationitems::entriesAreThoseOfTheReaders()
         expected << CConfigurationItems::entryPath(u"files"_s, file.fileName());
     }
     QCOMPARE(opened.items.entries(), expected);
-    QCOMPARE(opened.items.entries(),
-             QStringList({u"device.parameterFiles[Deep]"_s, u"device.parameterFiles[Deeper]"_s,
-                          u"device.parameterFiles[Flat]"_s, u"device.fpgaFiles[]"_s,
-                          u"device.fpgaFiles[b]"_s, u"device.plugins[Deep]"_s,
-                          u"device.plugins[]"_s, u"files[]"_s, u"files[y]"_s}));
+    QCOMPARE(
+        opened.items.entries(),
+        QStringList({u"device.parameterFiles[Deep]"_s, u"device.parameterFiles[Deeper]"_s,
+                     u"device.parameterFiles[]"_s, u"device.parameterFiles[][2]"_s,
+                     u"device.parameterFiles[][3]"_s, u"device.parameterFiles[Flat]"_s,
+                     u"device.fpgaFiles[]"_s, u"device.fpgaFiles[b]"_s, u"device.plugins[Deep]"_s,
+                     u"device.plugins[]"_s, u"files[]"_s, u"files[y]"_s}));
     QCOMPARE(opened.value(u"device.parameterFiles[Deeper].name"_s), u"Deeper"_s);
 }
 

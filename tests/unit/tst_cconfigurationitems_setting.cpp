@@ -66,6 +66,7 @@ private slots:
     void directoriesAreNormalised();
     void missingElementsAreCreated_data();
     void missingElementsAreCreated();
+    void removedItemsComeBackAtTheirPlace();
     void activeFpgaFile();
     void commentsAndElementsInAnItemStay();
 
@@ -356,6 +357,23 @@ void tst_cconfigurationitems_setting::missingElementsAreCreated()
     QVERIFY(opened.items.setValue(path, value));
     QCOMPARE(opened.value(path), value);
     QCOMPARE(opened.bytes(), after);
+}
+
+void tst_cconfigurationitems_setting::removedItemsComeBackAtTheirPlace()
+{
+    const QByteArray example =
+        Files::read(Places::source("examples/packaging-line/DeviceConfiguration.3deco"));
+    int count = 0;
+    for (const SItem &item : SOpened(example).items.items()) {
+        SOpened opened(example);
+        // What goes as a whole entry is no item any more.
+        if (!isSpecial(item.path) && opened.items.remove(item.path)
+            && opened.items.setValue(item.path, item.value)) {
+            QCOMPARE(opened.bytes(), example);
+            ++count;
+        }
+    }
+    QVERIFY(count > 60);
 }
 
 void tst_cconfigurationitems_setting::activeFpgaFile()

@@ -8,6 +8,8 @@
 
 #include <QtTest>
 
+#include <functional>
+
 using namespace ConfigurationTexts;
 
 namespace {
@@ -16,6 +18,9 @@ QString validPath(const QString &name)
 {
     return Places::data("configuration/valid/") + name;
 }
+
+using File = CDeviceConfigurationFile10;
+using Setter = std::function<bool(File &)>;
 
 /** The marks of content that the library does not know, as they stand in a document. */
 QStringList unknownMarks(const QByteArray &bytes)
@@ -30,6 +35,8 @@ QStringList unknownMarks(const QByteArray &bytes)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Setter)
 
 class tst_configurationdocument : public QObject
 {
@@ -47,9 +54,12 @@ private slots:
     void emptyDevice();
     void writingTwice();
     void severalDevices();
-    void deviceKeepsItsPlace();
+    void deviceComesLast();
     void descriptionPlace_data();
     void descriptionPlace();
+    void settersCreateAtTheirPlace_data();
+    void settersCreateAtTheirPlace();
+    void settersInAnyOrder();
 
     void missingParts_data();
     void missingParts();
@@ -221,17 +231,17 @@ void tst_configurationdocument::severalDevices()
     const QByteArray bytes = bytesOf(file);
     QCOMPARE(bytes.count("<Device"), 1);
     QVERIFY(!bytes.contains("second"));
-    QVERIFY(bytes.indexOf("<Device>") < bytes.indexOf("<Other/>"));
+    QVERIFY(bytes.indexOf("<Device>") > bytes.indexOf("<Other/>"));
 }
 
-void tst_configurationdocument::deviceKeepsItsPlace()
+void tst_configurationdocument::deviceComesLast()
 {
     CDeviceConfigurationFile10 file(nullptr);
-    QVERIFY(file.load(document(" <A/>\n <!-- of the device -->\n <Device/>\n <B/>\n")));
+    QVERIFY(file.load(document(" <A/>\n <!-- c -->\n <Device/>\n <Description/>\n <B/>\n")));
     QVERIFY(file.setConfiguration(SampleConfiguration::device()));
     const QByteArray bytes = bytesOf(file);
-    QVERIFY(bytes.contains("<A/>\n <!-- of the device -->\n <Device>"));
-    QVERIFY(bytes.contains("</Device>\n <B/>\n"));
+    QVERIFY(bytes.contains(">\n <A/>\n <!-- c -->\n <Description/>\n <B/>\n <Device>\n"));
+    QVERIFY(bytes.endsWith(" </Device>\n</VornDeviceConfig>\n"));
 }
 
 void tst_configurationdocument::descriptionPlace_data()
@@ -250,6 +260,9 @@ void tst_configurationdocument::descriptionPlace_data()
     QTest::newRow("in front of the device")
         << QByteArray(" <Head/>\n <Device/>\n")
         << QByteArray(" <Head/>\n" + comment + description + " <Device/>\n");
+    QTest::newRow("in front of the comment on the device")
+        << QByteArray(" <Head/>\n <!-- c -->\n <Device/>\n")
+        << QByteArray(" <Head/>\n" + comment + description + " <!-- c -->\n <Device/>\n");
     QTest::newRow("behind the head")
         << QByteArray(" <Head/>\n") << QByteArray(" <Head/>\n" + comment + description);
     QTest::newRow("where it was") << QByteArray(" <Device/>\n" + comment
@@ -278,6 +291,79 @@ void tst_configurationdocument::descriptionPlace()
     QVERIFY(file.setDescription(SampleConfiguration::description()));
     QCOMPARE(bytesOf(file), document(after));
     QVERIFY(file.description() == SampleConfiguration::description());
+}
+
+void tst_configurationdocument::settersCreateAtTheirPlace_data()
+{
+    QTest::addColumn<QString>("parent");
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<Setter>("set");
+
+    using namespace SampleConfiguration;
+    const QString root = u"VornDeviceConfig"_s;
+    const QString config = u"Config"_s;
+    const QString opcUa = u"OpcUa"_s;
+    const auto row = [](const QString &parent, const char *tag, const Setter &set) {
+        QTest::newRow(tag) << parent << QString::fromLatin1(tag) << set;
+    };
+    row(root, "Description", [](File &f) { return f.setDescription(description()); });
+    row(config, "ParameterFiles", [](File &f) { return f.setParamFiles(paramFiles()); });
+    row(config, "Dictionary", [](File &f) { return f.setOdictFile(odictFile()); });
+    row(config, "FaultTextFile", [](File &f) { return f.setFaultTextFile(faultTextFile()); });
+    row(config, "FPGA_FileNames", [](File &f) { return f.setFpgaFiles(fpgaFiles()); });
+    row(opcUa, "OpcUaEnabled", [](File &f) { return f.setOpcUaEnabled(true); });
+    row(opcUa, "OpcUaFiles", [](File &f) { return f.setOpcUaFiles(opcUaFiles()); });
+    row(config, "EtherCatMaster",
+        [](File &f) { return f.setEtherCatMasterFile(etherCatMasterFile()); });
+    row(config, "Files", [](File &f) { return f.setAdditionalFiles(additionalFiles()); });
+    row(config, "Plugins", [](File &f) { return f.setPlugins(plugins()); });
+    row(config, "ExecutionPlugin", [](File &f) { return f.setExecutionPlugin(executionPlugin()); });
+    row(config, "OpcUa",
+        [](File &f) { return f.setOpcUaFiles(opcUaFiles()) && f.setOpcUaEnabled(true); });
+}
+
+void tst_configurationdocument::settersCreateAtTheirPlace()
+{
+    QFETCH(QString, parent);
+    QFETCH(QString, tag);
+    QFETCH(Setter, set);
+
+    File file(nullptr);
+    QVERIFY(file.open(validPath(u"full.3deco"_s)));
+    const QDomDocument document = file.domDocument();
+    QDomElement element = document.elementsByTagName(parent).at(0).toElement();
+    const QDomElement removed = element.firstChildElement(tag);
+    if (removed.previousSibling().isComment()) {
+        element.removeChild(removed.previousSibling());
+    }
+    QVERIFY(!element.removeChild(removed).isNull());
+    QVERIFY(set(file));
+    QCOMPARE(QString::fromUtf8(bytesOf(file)),
+             QString::fromUtf8(Files::read(validPath(u"full.3deco"_s))));
+}
+
+void tst_configurationdocument::settersInAnyOrder()
+{
+    File file(nullptr);
+    QVERIFY(file.load(document(" <Device>\n  <Name/>\n  <Colour/>\n  <!-- of the drive -->\n"
+                               "  <SubDevice/>\n </Device>\n")));
+    const QList<ConfigurationItems::Setter> setters = ConfigurationItems::setters();
+    for (int i = setters.size() - 1; i >= 0; --i) {
+        setters.at(i).set(file);
+    }
+    const auto names = [](const QDomElement &parent) {
+        QStringList result;
+        for (QDomNode node = parent.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            result << node.nodeName();
+        }
+        return result.join(QLatin1Char(' '));
+    };
+    QCOMPARE(names(file.domDocument().documentElement()), u"#comment Description Device"_s);
+    QCOMPARE(names(file.findDeviceElement()), u"Name Colour Config #comment SubDevice"_s);
+    QCOMPARE(names(file.findConfigElement()),
+             u"ParameterFiles Dictionary FaultTextFile FPGA_FileNames OpcUa EtherCatMaster Files "
+             "Plugins ExecutionPlugin"_s);
+    QCOMPARE(names(file.findOpcUAElement()), u"OpcUaEnabled OpcUaFiles"_s);
 }
 
 void tst_configurationdocument::missingParts_data()

@@ -11,6 +11,17 @@
 
 using namespace ConfigurationTexts;
 
+namespace {
+
+using File = CDeviceConfigurationFile10;
+using FileSetter = bool (File::*)(const CFileElement &);
+using FileGetter = CFileElement (File::*)() const;
+
+} // namespace
+
+Q_DECLARE_METATYPE(FileSetter)
+Q_DECLARE_METATYPE(FileGetter)
+
 /** Files, plug-ins and drives in the document. */
 class tst_configurationdocument_entries : public QObject
 {
@@ -21,10 +32,13 @@ private slots:
     void paramFileTypes();
     void entriesAtAnyDepth();
     void emptyEntries();
+    void emptyParamFiles();
     void entryNames_data();
     void entryNames();
     void singleFileHolders_data();
     void singleFileHolders();
+    void singleFilesOfNull_data();
+    void singleFilesOfNull();
     void pluginPriority_data();
     void pluginPriority();
 
@@ -130,6 +144,35 @@ void tst_configurationdocument_entries::emptyEntries()
     QCOMPARE(file.additionalFiles().constFirst().fileName(), u"b"_s);
 }
 
+void tst_configurationdocument_entries::emptyParamFiles()
+{
+    // Each entry is one in the list, whatever is in it; a type alone is none.
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load(configDocument("   <ParameterFiles>\n    <File/>\n"
+                                     "    <File type=\"VornParameters\"/>\n"
+                                     "    <File>\n     <Name>a</Name>\n    </File>\n"
+                                     "    <File type=\"x\">\n     <Name/>\n    </File>\n"
+                                     "   </ParameterFiles>\n")));
+    const CParamFileElement null;
+    const CParamFileElement named =
+        SampleConfiguration::paramFile(u"a"_s, NvrnGlobal::PARAM_FILE_UNDEFINED);
+    const QList<CParamFileElement> expected = {null, null, named, null};
+    QVERIFY(file.paramFiles() == expected);
+    CDeviceElement device;
+    QVERIFY(file.configuration(device));
+    QVERIFY(device.parameterFiles() == expected);
+    // They are no files.
+    QVERIFY(!file.containsParamFile(null));
+    QVERIFY(!device.parameterFiles(NvrnDeviceCore::DEVICE_FILE_PARAMETER).isEmpty());
+    for (const CFileElement &placed :
+         device.parameterFiles(NvrnDeviceCore::DEVICE_FILE_PARAMETER)) {
+        QVERIFY(placed.fileName().startsWith(u"a."_s));
+    }
+    // A list that is written leaves them out, as it leaves out all invalid ones.
+    QVERIFY(file.setParamFiles(file.paramFiles()));
+    QVERIFY(file.paramFiles() == QList<CParamFileElement>{named});
+}
+
 void tst_configurationdocument_entries::entryNames_data()
 {
     QTest::addColumn<QByteArray>("entry");
@@ -176,7 +219,11 @@ void tst_configurationdocument_entries::singleFileHolders_data()
     QTest::newRow("several entries")
         << QByteArray("    <File>\n     <Name>x</Name>\n    </File>\n    <A/>\n"
                       "    <File/>\n    <File>\n     <Name>y</Name>\n    </File>\n")
-        << QByteArray(written + "    <A/>\n");
+        << QByteArray("    <A/>\n" + written);
+    QTest::newRow("type and other content in the entry")
+        << QByteArray("    <!--c-->\n    <File type=\"x\">\n     <!--old-->\n     <Size>3</Size>\n"
+                      "     <Name b=\"1\">x</Name>\n    </File>\n    <A b=\"2\"/>\n")
+        << QByteArray("    <!--c-->\n    <A b=\"2\"/>\n" + written);
 }
 
 void tst_configurationdocument_entries::singleFileHolders()
@@ -193,6 +240,56 @@ void tst_configurationdocument_entries::singleFileHolders()
     QVERIFY(file.setOdictFile(odict));
     QVERIFY(file.odictFile() == odict);
     QCOMPARE(bytesOf(file), holder(after));
+}
+
+void tst_configurationdocument_entries::singleFilesOfNull_data()
+{
+    QTest::addColumn<QByteArray>("tag");
+    QTest::addColumn<FileSetter>("set");
+    QTest::addColumn<FileGetter>("get");
+
+    QTest::newRow("object dictionary")
+        << QByteArray("Dictionary") << FileSetter(&File::setOdictFile)
+        << FileGetter(&File::odictFile);
+    QTest::newRow("fault texts") << QByteArray("FaultTextFile")
+                                 << FileSetter(&File::setFaultTextFile)
+                                 << FileGetter(&File::faultTextFile);
+    QTest::newRow("EtherCAT master")
+        << QByteArray("EtherCatMaster") << FileSetter(&File::setEtherCatMasterFile)
+        << FileGetter(&File::etherCatMasterFile);
+}
+
+void tst_configurationdocument_entries::singleFilesOfNull()
+{
+    QFETCH(QByteArray, tag);
+    QFETCH(FileSetter, set);
+    QFETCH(FileGetter, get);
+
+    const QByteArray empty = "    <File>\n     <Name/>\n     <Comment/>\n     <DeviceDir/>\n"
+                             "     <ProjectDir/>\n    </File>\n";
+    const auto holder = [&tag](const QByteArray &content) {
+        return configDocument("   <" + tag + ">\n" + content + "   </" + tag + ">\n");
+    };
+    const struct {
+        QByteArray before;
+        QByteArray after;
+    } rows[] = {
+        {document(""), holder(empty)},
+        {configDocument(""), holder(empty)},
+        {holder("    <File type=\"x\">\n     <Name>a</Name>\n    </File>\n    <A/>\n"),
+         holder("    <A/>\n" + empty)},
+        {holder(empty), holder(empty)},
+    };
+    for (const auto &row : rows) {
+        CDeviceConfigurationFile10 file(nullptr);
+        QVERIFY(file.load(row.before));
+        QVERIFY((file.*set)(CFileElement()));
+        QCOMPARE(bytesOf(file), row.after);
+        QVERIFY((file.*get)().isNull());
+        CDeviceElement device;
+        QVERIFY(file.configuration(device));
+        QVERIFY(device.isNull());
+    }
 }
 
 void tst_configurationdocument_entries::pluginPriority_data()

@@ -155,6 +155,15 @@ void tst_configurationhelpers_reading::readLists()
     QStringList names = {u"before"_s};
     file.fileStrings(names, list);
     QCOMPARE(names, (QStringList{u"a"_s, QString(), QString(), u"b"_s}));
+
+    // At any depth, and with those in which nothing is.
+    QList<CParamFileElement> paramFiles = SampleConfiguration::paramFiles();
+    file.paramFileElementList(paramFiles, list);
+    names.clear();
+    for (const CParamFileElement &paramFile : qAsConst(paramFiles)) {
+        names << paramFile.name();
+    }
+    QCOMPARE(names, (QStringList{u"a"_s, u"no"_s, QString(), QString(), u"b"_s}));
 }
 
 void tst_configurationhelpers_reading::readListsOfNull()

@@ -52,6 +52,8 @@ private slots:
 
     void setOneItem();
     void setSeveralItems();
+    void setPutsBackWhatWasRemoved_data();
+    void setPutsBackWhatWasRemoved();
     void setJson();
     void setValueWithHyphen();
     void addEntryWithItems();
@@ -294,6 +296,30 @@ void tst_vrndevice_items::setSeveralItems()
                  "     <Name>a].csv</Name>\n     <Comment>Box formats</Comment>\n"
                  "     <DeviceDir>/velkor/a/</DeviceDir>\n");
     QCOMPARE(bytes(), expected);
+}
+
+void tst_vrndevice_items::setPutsBackWhatWasRemoved_data()
+{
+    QTest::addColumn<QString>("item");
+    for (const QString &item :
+         {u"description.version"_s, u"device.hardwareId"_s, u"device.class"_s, u"device.comment"_s,
+          u"device.configurationName"_s, u"device.executionPlugin"_s, u"device.opcUaEnabled"_s,
+          u"device.dictionary.deviceDir"_s, u"device.plugins[motion].version"_s, u"drive[0].name"_s,
+          u"drive[0].busId"_s, u"drive[0].param.name"_s}) {
+        QTest::newRow(qPrintable(item)) << item;
+    }
+}
+
+void tst_vrndevice_items::setPutsBackWhatWasRemoved()
+{
+    QFETCH(QString, item);
+    QString value = run({u"get"_s, FileName, item}).output;
+    value.chop(1);
+    QVERIFY(!value.isEmpty());
+    QCOMPARE(run({u"remove"_s, FileName, item}).exitCode, 0);
+    QVERIFY(bytes() != m_example);
+    QCOMPARE(run({u"set"_s, FileName, item, value}).exitCode, 0);
+    QCOMPARE(bytes(), m_example);
 }
 
 void tst_vrndevice_items::setJson()

@@ -43,6 +43,7 @@ private slots:
     void newListsTemplates();
     void newFromTemplate_data();
     void newFromTemplate();
+    void newWithoutTemplate();
     void newFromAFile();
     void newKeepsWhatItDoesNotKnow();
     void newRefusesTemplates();
@@ -113,10 +114,11 @@ void tst_vrndevice_new::newFromTemplate()
     QCOMPARE(found, drives);
     QCOMPARE(device.plugins().value(0).name(), plugins);
     QCOMPARE(file.description().name(), u"Größe 1"_s);
-    for (const QDate &date : {file.description().creationDate(), file.description().revisionDate(),
-                              file.metaData().date()}) {
+    for (const QDate &date :
+         {file.description().creationDate(), file.description().revisionDate()}) {
         QVERIFY(date >= before && date <= after);
     }
+    QVERIFY(file.metaData().date().isNull());
     // The other directories are where the layout puts them.
     QCOMPARE(device.odictFile().projectPath(), u"Größe 1/opt/velkor/conf/"_s);
     QCOMPARE(device.subDevice(0).parameterFile().projectPath(),
@@ -135,6 +137,16 @@ void tst_vrndevice_new::newFromTemplate()
                  name, deviceClass, otherClass)),
              qPrintable(refused.errors));
     QVERIFY(!QFileInfo::exists(path(u"none"_s)));
+}
+
+void tst_vrndevice_new::newWithoutTemplate()
+{
+    // The date of the description is the only one.
+    QCOMPARE(run({u"new"_s, u"made"_s, u"--class=kd3"_s, u"--name=N"_s}).exitCode, 0);
+    const QByteArray made = Files::read(path(u"made"_s));
+    QVERIFY(made.contains(" <Head>\n  <Author/>\n  <Date/>\n"
+                          "  <Comment>Device Configuration File</Comment>\n </Head>\n"));
+    QCOMPARE(undated(made).count(u">DATE<"_s), 2);
 }
 
 void tst_vrndevice_new::newFromAFile()
@@ -156,7 +168,8 @@ void tst_vrndevice_new::newFromAFile()
                  "  <Name>Packaging line</Name>\n"
                  "  <Comment>Commissioned")
         .replace("<Name>Line 2<", "<Name>PackagingLine<")
-        .replace("<Author/>", "<Author>Commissioning</Author>");
+        .replace("<Author/>\n  <Date/>",
+                 "<Author>Commissioning</Author>\n  <Date>2026-01-01</Date>");
     QCOMPARE(undated(made), undated(m_example));
 }
 

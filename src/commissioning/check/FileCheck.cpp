@@ -37,6 +37,11 @@ void FileCheck::check(const Fields &fields, const QString &item, bool isOfDevice
 {
     CFileElement file;
     m_context.file.fileElement(file, fields.parent());
+    // The null file, as the library writes that there is none; in a list nobody wants it.
+    const bool isSingle = fields.type().list == nullptr;
+    if (isSingle && file.isNull()) {
+        return;
+    }
     const bool isNamed = checkName(fields, item);
     if (isNamed || !file.devicePath().isEmpty()) {
         checkDevicePath(file, fields, item);

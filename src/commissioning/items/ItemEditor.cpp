@@ -2,6 +2,7 @@
 
 #include "commissioning/items/EntryTexts.h"
 #include "commissioning/Texts.h"
+#include "configfile/ElementOrder.h"
 #include "configfile/ItemValue.h"
 #include "elements/CDeviceElement.h"
 #include "vocabulary/NVornXmlTags.h"
@@ -156,19 +157,14 @@ QDomElement ItemEditor::child(const QDomElement &parent, const QString &tag)
         // With all that a file has, as everywhere else.
         m_file.appendFileElement(CFileElement(), parent);
     }
-    return m_file.domElement(tag, parent);
+    return ElementOrder::child(tag, parent);
 }
 
 QDomElement ItemEditor::createdDescription(QDomElement root)
 {
-    QDomDocument document = root.ownerDocument();
-    const QDomElement description = document.createElement(TAG_DESCRIPTION);
-    const QDomNode comment = document.createComment(QStringLiteral("Project description"));
-    const QDomElement device = m_file.findDeviceElement();
-    for (const QDomNode &node : {comment, QDomNode(description)}) {
-        // A null device would put it first, but the description comes behind the head.
-        device.isNull() ? root.appendChild(node) : root.insertBefore(node, device);
-    }
+    const QDomElement description = ElementOrder::child(TAG_DESCRIPTION, root);
+    root.insertBefore(root.ownerDocument().createComment(QStringLiteral("Project description")),
+                      description);
     return description;
 }
 

@@ -210,11 +210,6 @@ bool ItemFinder::isEntry(const CDeviceConfigurationFile10 &file, const SNode &li
         return false;
     }
     switch (list.entry) {
-    case EEntry::PARAMETER_FILE: {
-        CParamFileElement entry;
-        file.paramFileElement(entry, element);
-        return !entry.isNull();
-    }
     case EEntry::FILE:
     case EEntry::OPC_UA_FILE: {
         CFileElement entry;

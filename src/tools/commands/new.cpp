@@ -135,19 +135,19 @@ void adaptProjectDirectories(CDeviceConfigurationFile10 &file, const QString &ol
 }
 
 /**
- * Makes the template the new device's own: names, directories in the project and dates. All else
- * stays, also what only other programs understand.
+ * Makes the template the new device's own: names, directories in the project and the dates of the
+ * description. Author and date of the template itself go; all else stays, also what only other
+ * programs understand.
  */
 bool adaptTemplate(CDeviceConfigurationFile10 &file, const QString &name)
 {
     CConfigurationItems items(file);
-    const QDate today = QDate::currentDate();
-    const QString todayText = today.toString(Qt::ISODate);
+    const QString today = QDate::currentDate().toString(Qt::ISODate);
     QString oldName;
     items.value(QStringLiteral("device.name"), oldName);
     const bool done = items.setValue(QStringLiteral("description.name"), name)
-        && items.setValue(QStringLiteral("description.creationDate"), todayText)
-        && items.setValue(QStringLiteral("description.revisionDate"), todayText)
+        && items.setValue(QStringLiteral("description.creationDate"), today)
+        && items.setValue(QStringLiteral("description.revisionDate"), today)
         && items.setValue(QStringLiteral("device.name"), name);
     if (!done) {
         printError(items.errorText());
@@ -155,7 +155,7 @@ bool adaptTemplate(CDeviceConfigurationFile10 &file, const QString &name)
     }
     adaptProjectDirectories(file, oldName, name);
     CXMLMetaData meta = file.metaData();
-    meta.setDate(today);
+    meta.setDate(QDate());
     meta.setAuthor(QString());
     file.setMetaData(meta);
     return true;
