@@ -53,11 +53,12 @@ struct SOutcome {
 };
 
 template <typename T>
-SOutcome readFrom(QDataStream &stream)
+SOutcome readFrom(QDataStream &stream, int version = QDataStream::Qt_5_15)
 {
     SOutcome outcome;
     T value = sample<T>();
     StreamBytes::setUp(stream);
+    stream.setVersion(version);
     AllocationCounter::start();
     stream >> value;
     outcome.peakBytes = AllocationCounter::counts().peakBytes;
@@ -166,6 +167,27 @@ void checkCounts()
     }
 }
 
+/** The same where texts have eight bits a character. */
+template <typename T>
+void checkCountsInVersion1()
+{
+    QByteArray bytes;
+    QDataStream writer(&bytes, QIODevice::WriteOnly);
+    writer.setVersion(QDataStream::Qt_1_0);
+    writer << sample<T>();
+    for (int at = 0; at + 4 <= bytes.size(); ++at) {
+        for (const quint32 count : Counts) {
+            QDataStream stream(withNumber(bytes, at, count));
+            const SOutcome outcome = readFrom<T>(stream, QDataStream::Qt_1_0);
+            const QByteArray where =
+                "byte " + QByteArray::number(at) + ", count " + QByteArray::number(count, 16);
+            QVERIFY2(outcome.isUsable, where);
+            QVERIFY2(outcome.isModest(bytes.size()),
+                     where + ": " + QByteArray::number(outcome.peakBytes));
+        }
+    }
+}
+
 /** Counts that are believed as long as something comes: behind them stands a lot of one byte. */
 template <typename T>
 void checkCountsWithMuchBehind()
@@ -258,6 +280,8 @@ private slots:
     void flipped() { run(); }
     void counts_data() { ROWS(checkCounts); }
     void counts() { run(); }
+    void countsInVersion1_data() { ROWS(checkCountsInVersion1); }
+    void countsInVersion1() { run(); }
     void countsWithMuchBehind_data() { ROWS(checkCountsWithMuchBehind); }
     void countsWithMuchBehind() { run(); }
     void sequential_data() { ROWS(checkSequential); }
