@@ -3,6 +3,7 @@
 #include "devicefiles/CHashMap.h"
 #include "storage/FileStorage.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <QTextStream>
 
@@ -51,12 +52,26 @@ void CDeviceOSReleaseFilePrivate::read(const QByteArray &content)
     const QLatin1Char separator('=');
     QTextStream stream(content);
     stream.setCodec("UTF-8");
+    QList<QString> keys;
+    QList<QString> values;
+    // The map compares one key after the other: with that, a file of many keys would take minutes.
+    QHash<QString, int> indices;
     for (QString line; stream.readLineInto(&line);) {
-        if (line.contains(separator)) {
-            map.insert(line.section(separator, 0, 0),
-                       line.section(separator, 1, 1).remove(stripped));
+        if (!line.contains(separator)) {
+            continue;
         }
+        const QString key = line.section(separator, 0, 0);
+        const QString value = line.section(separator, 1, 1).remove(stripped);
+        const auto known = indices.constFind(key);
+        if (known != indices.constEnd()) {
+            values[known.value()] = value;
+            continue;
+        }
+        indices.insert(key, keys.size());
+        keys.append(key);
+        values.append(value);
     }
+    map = CHashMap<QString, QString>(keys, values);
 }
 
 void CDeviceOSReleaseFilePrivate::write(QTextStream &stream) const

@@ -360,14 +360,8 @@ bool CDeviceBaseElement::operator!=(const CDeviceBaseElement &other) const
 
 QDataStream &operator<<(QDataStream &stream, const CDeviceBaseElement &device)
 {
-    QMap<unsigned char, CSubDeviceElement> subDevices = device.m_subDevices;
-    for (auto it = device.m_subDevices.cbegin(); it != device.m_subDevices.cend(); ++it) {
-        if (it.value().type() == NvrnDeviceCore::ELEMENT_UNKNOWN) {
-            subDevices.remove(it.key());
-        }
-    }
     stream << static_cast<const CBaseElement &>(device);
-    return FieldList::write(stream, device.d) << subDevices;
+    return FieldList::write(stream, device.d) << device.m_subDevices;
 }
 
 QDataStream &operator>>(QDataStream &stream, CDeviceBaseElement &device)

@@ -321,7 +321,9 @@ private:
  * object dictionary; fault texts; additional files; plug-ins; execution plug-in; FPGA images; OPC
  * UA enabled (bool); OPC UA files; EtherCAT master file; kind of host address (signed 32 bit);
  * host address; port (16 bit); preferred position (signed 32 bit); the map of sub-devices by drive
- * number (8 bit), without empty containers, which have no stream form. Reading does not check.
+ * number (8 bit), as Qt writes maps. An empty container among them is counted and has its number,
+ * but nothing behind it, so what was written with one is read back as something else. Reading does
+ * not check.
  */
 VRNDEVICECORE_EXPORT QDataStream &operator<<(QDataStream &stream, const CDeviceBaseElement &device);
 VRNDEVICECORE_EXPORT QDataStream &operator>>(QDataStream &stream, CDeviceBaseElement &device);

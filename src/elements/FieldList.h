@@ -4,6 +4,7 @@
 
 #include <QDataStream>
 #include <QHostAddress>
+#include <QIODevice>
 #include <QList>
 #include <QMap>
 #include <QSharedDataPointer>
@@ -94,21 +95,55 @@ inline void readField(QDataStream &stream, QHostAddress &address)
 }
 
 /**
+ * Gives a list or a map a status of its own while it is read, so that only what it reads itself
+ * decides whether it is complete, and puts back what the stream failed of before. It is what Qt's
+ * own operators do. In a transaction that failed, nothing is read any more, and its status stays.
+ */
+class OwnStatus
+{
+public:
+    explicit OwnStatus(QDataStream &stream) : m_stream(stream), m_before(stream.status())
+    {
+        const QIODevice *const device = stream.device();
+        if (device == nullptr || !device->isTransactionStarted()) {
+            stream.resetStatus();
+        }
+    }
+
+    ~OwnStatus()
+    {
+        if (m_before != QDataStream::Ok) {
+            m_stream.resetStatus();
+            m_stream.setStatus(m_before);
+        }
+    }
+
+    bool isOk() const { return m_stream.status() == QDataStream::Ok; }
+
+private:
+    Q_DISABLE_COPY(OwnStatus)
+
+    QDataStream &m_stream;
+    const QDataStream::Status m_before;
+};
+
+/**
  * Qt's own operator takes the count for granted and reserves memory for it; a few broken bytes
  * could ask for all there is. As there, a list that cannot be read to its end is left empty.
  */
 template <typename List>
 void readList(QDataStream &stream, List &list)
 {
+    const OwnStatus status(stream);
     list.clear();
     quint32 count = 0;
     stream >> count;
-    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+    for (quint32 i = 0; i < count && status.isOk(); ++i) {
         typename List::value_type item;
         readField(stream, item);
         list.append(item);
     }
-    if (stream.status() != QDataStream::Ok) {
+    if (!status.isOk()) {
         list.clear();
     }
 }
@@ -128,17 +163,18 @@ inline void readField(QDataStream &stream, QStringList &list)
 template <typename Key, typename Value>
 void readField(QDataStream &stream, QMap<Key, Value> &map)
 {
+    const OwnStatus status(stream);
     map.clear();
     quint32 count = 0;
     stream >> count;
-    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+    for (quint32 i = 0; i < count && status.isOk(); ++i) {
         Key key = Key();
         Value value;
         readField(stream, key);
         readField(stream, value);
         map.insert(key, value);
     }
-    if (stream.status() != QDataStream::Ok) {
+    if (!status.isOk()) {
         map.clear();
     }
 }

@@ -52,7 +52,7 @@ inline void run()
 
 #define CLASS_NAME(Class) \
     template <> \
-    const char *ClassChecks::className<Class>() \
+    inline const char *ClassChecks::className<Class>() \
     { \
         return #Class; \
     }

@@ -20,7 +20,9 @@ private slots:
     void streamForm_data();
     void streamForm();
     void streamOfFiles();
-    void emptyContainersAreNotStreamed();
+    void emptyContainer_data();
+    void emptyContainer();
+    void readingAnEmptyContainer();
     void readingDoesNotCheck();
     void repeatedDriveNumber();
     void brokenCount_data();
@@ -147,15 +149,64 @@ void tst_cdeviceelement_streams::streamOfFiles()
     QCOMPARE(read.driveId(), quint8(255));
 }
 
-void tst_cdeviceelement_streams::emptyContainersAreNotStreamed()
+void tst_cdeviceelement_streams::emptyContainer_data()
 {
+    QTest::addColumn<QList<int>>("empty");
+    QTest::addColumn<QList<int>>("filled");
+
+    QTest::newRow("alone") << QList<int>{4} << QList<int>{};
+    QTest::newRow("several alone") << QList<int>{0, 4, 254} << QList<int>{};
+    QTest::newRow("highest") << QList<int>{1} << QList<int>{0};
+    QTest::newRow("lowest") << QList<int>{0} << QList<int>{1};
+    QTest::newRow("between") << QList<int>{1} << QList<int>{0, 2};
+    QTest::newRow("around") << QList<int>{0, 2} << QList<int>{1};
+}
+
+void tst_cdeviceelement_streams::emptyContainer()
+{
+    QFETCH(QList<int>, empty);
+    QFETCH(QList<int>, filled);
+
     CDeviceElement device;
-    device.insertSubDevice(kd3(), 0);
-    const QByteArray bytes = StreamBytes::toBytes(device);
+    QMap<int, QByteArray> containers;
+    for (const int id : empty) {
+        device.insertSubDevice(CSubDeviceElement(), static_cast<quint8>(id));
+        containers.insert(id, QByteArray());
+    }
+    for (const int id : filled) {
+        device.insertSubDevice(kd3(), static_cast<quint8>(id));
+        containers.insert(id, StreamBytes::toBytes(device.subDevice(static_cast<quint8>(id))));
+    }
+    QByteArray bytes = StreamBytes::toBytes(CDeviceElement());
+    bytes.chop(4);
+    bytes += StreamBytes::toBytes(containers.size());
+    for (int id = 255; id >= 0; --id) {
+        if (containers.contains(id)) {
+            bytes += static_cast<char>(id) + containers.value(id);
+        }
+    }
+    QCOMPARE(StreamBytes::toBytes(device).toHex(' '), bytes.toHex(' '));
+}
+
+void tst_cdeviceelement_streams::readingAnEmptyContainer()
+{
+    // Nothing stands in place of its type: that is taken from what follows.
+    CDeviceElement device;
     device.insertSubDevice(CSubDeviceElement(), 1);
-    QCOMPARE(device.subDeviceCount(), 2);
-    QCOMPARE(StreamBytes::toBytes(device), bytes);
-    QCOMPARE(StreamBytes::fromBytes<CDeviceElement>(bytes).subDeviceCount(), 1);
+    const QByteArray bytes = StreamBytes::toBytes(device);
+
+    CDeviceElement read;
+    QCOMPARE(StreamBytes::read(bytes, read), qint64(-1));
+    QCOMPARE(read.subDeviceCount(), 0);
+
+    QCOMPARE(StreamBytes::read(bytes + "rest", read), qint64(bytes.size() + 4));
+    QCOMPARE(read.subDeviceCount(), 1);
+    QCOMPARE(read.subDevice(1).type(), ELEMENT_UNKNOWN);
+
+    const CSubDeviceElement drive = kd3();
+    QCOMPARE(StreamBytes::read(bytes + StreamBytes::toBytes(drive), read),
+             qint64(bytes.size() + StreamBytes::toBytes(drive).size()));
+    QVERIFY(read.subDevice(1) == drive);
 }
 
 void tst_cdeviceelement_streams::readingDoesNotCheck()
