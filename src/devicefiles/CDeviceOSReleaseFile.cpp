@@ -117,9 +117,9 @@ EFileResult CDeviceOSReleaseFile::open(const QString &fileName)
 {
     d->map.clear();
     QByteArray content;
-    const FileStorage::SResult read = FileStorage::read(fileName, content);
-    d->errorText = read.reason;
+    const FileStorage::SResult read = FileStorage::read(fileName, content, MaximumSize);
     if (!read) {
+        d->errorText = read.reason;
         return FILE_RESULT_READ_FAILURE;
     }
     return openFromBuffer(content);
@@ -128,6 +128,11 @@ EFileResult CDeviceOSReleaseFile::open(const QString &fileName)
 EFileResult CDeviceOSReleaseFile::openFromBuffer(const QByteArray &buffer)
 {
     d->map.clear();
+    const bool isTooLarge = buffer.size() > MaximumSize;
+    d->errorText = isTooLarge ? FileStorage::tooLarge(MaximumSize) : QString();
+    if (isTooLarge) {
+        return FILE_RESULT_READ_FAILURE;
+    }
     d->read(buffer);
     return FILE_RESULT_SUCCESS;
 }

@@ -23,6 +23,9 @@ class ICLogfile;
 class VRNDEVICECORE_EXPORT CDeviceOSReleaseFile
 {
 public:
+    /** Bytes of the file or buffer; far more than a device needs. */
+    static constexpr qint64 MaximumSize = Q_INT64_C(16) * 1024 * 1024;
+
     /** No keys. @p log is not owned, may be null, and is only kept for callers. */
     explicit CDeviceOSReleaseFile(ICLogfile *log = nullptr);
     /** Calls open(), whose result is not reported: a failure leaves isNull(). */
@@ -42,11 +45,18 @@ public:
      * second "=" is dropped. A line without "=" is skipped. A key that comes twice keeps its first
      * place and gets its last value.
      *
+     * The name means what it means to QFile: ":/name" is a resource, and "prefix:name" is looked
+     * for in Qt's search paths.
+     *
      * @return FILE_RESULT_SUCCESS; or FILE_RESULT_READ_FAILURE if the file does not exist, is not a
-     *         regular file, or cannot be read
+     *         regular file, is larger than MaximumSize, or cannot be read
      */
     NvrnGlobal::EFileResult open(const QString &fileName);
-    /** Opens from memory. @return FILE_RESULT_SUCCESS */
+    /**
+     * Opens from memory.
+     * @return FILE_RESULT_SUCCESS; or FILE_RESULT_READ_FAILURE, and no keys are left, if @p buffer
+     * is larger than MaximumSize
+     */
     NvrnGlobal::EFileResult openFromBuffer(const QByteArray &buffer);
 
     /**
@@ -65,8 +75,8 @@ public:
     NvrnGlobal::EFileResult saveToBuffer(QByteArray &buffer);
 
     /**
-     * Why the last open() or save() of a file failed, for the user and mostly in the words of
-     * the system, like "No space left on device"; empty when it did not.
+     * Why the last open(), openFromBuffer() or save() of a file failed, for the user and mostly in
+     * the words of the system, like "No space left on device"; empty when it did not.
      */
     QString errorText() const;
 

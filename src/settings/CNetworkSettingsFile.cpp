@@ -56,7 +56,7 @@ EFileResult CNetworkSettingsFile::open(const QString &fileName)
 {
     QByteArray content;
     QHash<QString, QString> values;
-    const FileStorage::SResult read = FileStorage::read(fileName, content);
+    const FileStorage::SResult read = FileStorage::read(fileName, content, MaximumSize);
     const bool isRead = read && NetworkText::readValues(content, values);
     m_errorText = read && !isRead ? qt_error_string(ENOMEM) : read.reason;
     if (!isRead) {

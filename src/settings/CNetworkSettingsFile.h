@@ -22,6 +22,9 @@
 class VRNDEVICECORE_EXPORT CNetworkSettingsFile
 {
 public:
+    /** Bytes of the file; far more than a device needs. */
+    static constexpr qint64 MaximumSize = Q_INT64_C(16) * 1024 * 1024;
+
     /** Default settings, no file name. */
     CNetworkSettingsFile();
     /** Default settings, then open(); a failure is not reported and leaves the file name empty. */
@@ -52,7 +55,7 @@ public:
      * gives NTP_MODE_UNKNOWN. A kernel log level out of range leaves the one that was held before.
      *
      * @return FILE_RESULT_SUCCESS; or FILE_RESULT_FAILURE, and nothing changes, if the file does
-     *         not exist, is not a regular file, or cannot be read
+     *         not exist, is not a regular file, is larger than MaximumSize, or cannot be read
      */
     NvrnGlobal::EFileResult open(const QString &fileName);
 

@@ -1,57 +1,16 @@
 #include "settings/NetworkText.h"
 
-#include <QFile>
+#include "storage/MemoryResource.h"
+
 #include <QSettings>
 
 #include <algorithm>
-#include <atomic>
 #include <cctype>
 #include <iterator>
-
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace NetworkText {
 
 namespace {
-
-/** A file in memory that can be opened by name while it lives. */
-class MemoryFile
-{
-public:
-    explicit MemoryFile(const QByteArray &content) : m_fd(memfd_create("network.conf", MFD_CLOEXEC))
-    {
-        QFile file;
-        m_isOk = m_fd >= 0 && file.open(m_fd, QIODevice::WriteOnly | QIODevice::Unbuffered)
-            && file.write(content) == content.size() && setTime();
-    }
-
-    ~MemoryFile()
-    {
-        if (m_fd >= 0) {
-            close(m_fd);
-        }
-    }
-
-    bool isOk() const { return m_isOk; }
-    QString name() const { return QStringLiteral("/proc/self/fd/%1").arg(m_fd); }
-
-private:
-    Q_DISABLE_COPY(MemoryFile)
-
-    /** QSettings remembers a file by name, size and time: no two may have the same. */
-    bool setTime() const
-    {
-        static std::atomic<long> second{0};
-        const timespec time = {++second, 0};
-        const timespec times[] = {time, time};
-        return futimens(m_fd, times) == 0;
-    }
-
-    const int m_fd;
-    bool m_isOk = false;
-};
 
 // A character that no text has, in place of "@" while the text is parsed.
 const char16_t Mark = 0xFDD0;
@@ -152,11 +111,11 @@ QString toText(const QVariant &value)
 template <typename Use>
 bool parse(const QByteArray &content, Use use)
 {
-    const MemoryFile file(prepared(withoutByteOrderMark(content)));
-    if (!file.isOk()) {
+    const MemoryResource resource(prepared(withoutByteOrderMark(content)));
+    if (!resource.isOk()) {
         return false;
     }
-    QSettings parser(file.name(), QSettings::IniFormat);
+    QSettings parser(resource.name(), QSettings::IniFormat);
     parser.setIniCodec("UTF-8");
     use(parser);
     return parser.status() != QSettings::AccessError;

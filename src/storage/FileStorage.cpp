@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
@@ -37,10 +38,19 @@ SResult notRegular()
     return {NOT_OPENED, Texts::tr("This is not a regular file.")};
 }
 
-/** The name as the system takes it; empty when it cannot be one. */
+/** Whether QFile takes @p path for a name of its own and not of the system, as ":/resource". */
+bool isVirtual(const QString &path)
+{
+    return !path.isEmpty() && !QFileInfo(path).isNativePath();
+}
+
+/**
+ * The name as the system takes it, with what Qt's search paths make of "prefix:name"; empty when it
+ * cannot be one.
+ */
 QByteArray systemName(const QString &path)
 {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = QFile::encodeName(QFileInfo(path).filePath());
     return name.contains('\0') ? QByteArray() : name;
 }
 
@@ -258,6 +268,32 @@ SResult writeTo(Descriptor &device, const QByteArray &content)
     return written ? SResult() : failure(NOT_FINISHED, errno);
 }
 
+SResult readAll(QFile &file, QByteArray &content)
+{
+    content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        content.clear();
+        return {NOT_FINISHED, file.errorString()};
+    }
+    return SResult();
+}
+
+SResult readVirtual(const QString &path, QByteArray &content, qint64 maximumSize)
+{
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        return failure(NOT_OPENED, info.isDir() ? EISDIR : ENOENT);
+    }
+    if (info.size() > maximumSize) {
+        return {NOT_OPENED, tooLarge(maximumSize)};
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {NOT_OPENED, file.errorString()};
+    }
+    return readAll(file, content);
+}
+
 } // namespace
 
 QString tooLarge(qint64 maximumSize)
@@ -268,6 +304,9 @@ QString tooLarge(qint64 maximumSize)
 SResult read(const QString &path, QByteArray &content, qint64 maximumSize)
 {
     content.clear();
+    if (isVirtual(path)) {
+        return readVirtual(path, content, maximumSize);
+    }
     const QByteArray name = systemName(path);
     Descriptor opened(open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     struct stat status = {};
@@ -287,17 +326,15 @@ SResult read(const QString &path, QByteArray &content, qint64 maximumSize)
     if (!file.open(opened.release(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         return {NOT_OPENED, file.errorString()};
     }
-    content = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        content.clear();
-        return {NOT_FINISHED, file.errorString()};
-    }
-    return SResult();
+    return readAll(file, content);
 }
 
 SResult replace(const QString &path, const QByteArray &content,
                 QFileDevice::Permissions permissions)
 {
+    if (isVirtual(path)) {
+        return failure(NOT_OPENED, EROFS);
+    }
     const QByteArray givenName = systemName(path);
     if (givenName.isEmpty()) {
         return failure(NOT_OPENED, ENOENT);

@@ -8,6 +8,9 @@
  * Reading and replacing whole files. It belongs to no library: each that reads or writes files is
  * built with it, for the maker's imported libraries have nothing of the kind.
  *
+ * A name means what it means to QFile: ":/name" is a resource, which can be read but not replaced,
+ * and "prefix:name" is looked for in Qt's search paths.
+ *
  * All functions may be used from any thread; two that replace one file at a time leave the content
  * of one of them.
  */
@@ -31,15 +34,12 @@ struct SResult {
     explicit operator bool() const { return outcome == DONE; }
 };
 
-/** Bytes; far more than any of the small files of a device needs. */
-const qint64 SmallFile = Q_INT64_C(16) * 1024 * 1024;
-
 /**
  * Reads the file @p path; @p content is empty on failure. Only a regular file is read: a directory
  * has no content, and a pipe or device might never come to an end. One that is larger than
  * @p maximumSize bytes is not opened.
  */
-SResult read(const QString &path, QByteArray &content, qint64 maximumSize = SmallFile);
+SResult read(const QString &path, QByteArray &content, qint64 maximumSize);
 
 /** Why content of more than @p maximumSize bytes is refused, for the user. */
 QString tooLarge(qint64 maximumSize);

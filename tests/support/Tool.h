@@ -36,13 +36,14 @@ inline QProcessEnvironment englishEnvironment()
     return environment;
 }
 
-inline SResult run(const QString &directory, const QStringList &arguments,
-                   const QProcessEnvironment &environment = englishEnvironment())
+/** @param command what is started: the tool, or a program that starts it */
+inline SResult runCommand(const QString &directory, const QStringList &command,
+                          const QProcessEnvironment &environment = englishEnvironment())
 {
     QProcess process;
     process.setWorkingDirectory(directory);
     process.setProcessEnvironment(environment);
-    process.start(program(), arguments);
+    process.start(command.first(), command.mid(1));
     SResult result;
     if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
         result.exitCode = process.exitCode();
@@ -50,6 +51,12 @@ inline SResult run(const QString &directory, const QStringList &arguments,
     result.output = QString::fromUtf8(process.readAllStandardOutput());
     result.errors = QString::fromUtf8(process.readAllStandardError());
     return result;
+}
+
+inline SResult run(const QString &directory, const QStringList &arguments,
+                   const QProcessEnvironment &environment = englishEnvironment())
+{
+    return runCommand(directory, QStringList{program()} + arguments, environment);
 }
 
 /** The project that is shipped as an example. */

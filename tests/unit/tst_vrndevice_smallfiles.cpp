@@ -6,6 +6,7 @@
 #include "support/Literals.h"
 #include "support/TestProgram.h"
 #include "support/Tool.h"
+#include "support/WithoutProc.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -59,6 +60,8 @@ private slots:
     void networkNotSaved();
     void networkCheck();
     void networkCheckFindsNothing();
+    void networkWithoutProc_data();
+    void networkWithoutProc();
     void osReleaseShow();
     void osReleaseThatIsNotValid();
     void module();
@@ -388,6 +391,33 @@ void tst_vrndevice_smallfiles::networkCheckFindsNothing()
     const SResult json = run(u"network check network.conf --json"_s);
     QCOMPARE(json.exitCode, 0);
     QCOMPARE(json.json(), (QJsonObject{{u"findings"_s, QJsonArray()}}));
+}
+
+void tst_vrndevice_smallfiles::networkWithoutProc_data()
+{
+    QTest::addColumn<QString>("arguments");
+
+    QTest::newRow("show") << u"network show network.conf"_s;
+    QTest::newRow("check") << u"network check network.conf"_s;
+    QTest::newRow("set") << u"network set network.conf MODE=DHCP"_s;
+}
+
+void tst_vrndevice_smallfiles::networkWithoutProc()
+{
+    QFETCH(QString, arguments);
+    if (WithoutProc::run(m_directory->path(), {u"--version"_s}).exitCode != 0) {
+        QSKIP("/proc cannot be hidden here, or a sanitizer needs it.", 0);
+    }
+    QVERIFY(Files::write(path(Network), "MODE=STATIC\nADDRESS=192.168.1.10\nNETCON_PORT=0\n"));
+    const SResult hidden = WithoutProc::run(m_directory->path(), words(arguments));
+    const QByteArray left = Files::read(path(Network));
+
+    QVERIFY(Files::write(path(Network), "MODE=STATIC\nADDRESS=192.168.1.10\nNETCON_PORT=0\n"));
+    const SResult usual = run(arguments);
+    QCOMPARE(hidden.exitCode, usual.exitCode);
+    QCOMPARE(hidden.output, usual.output);
+    QCOMPARE(hidden.errors, usual.errors);
+    QCOMPARE(left, Files::read(path(Network)));
 }
 
 void tst_vrndevice_smallfiles::osReleaseShow()

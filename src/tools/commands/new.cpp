@@ -6,7 +6,6 @@
 #include "vocabulary/NVornXmlTags.h"
 
 #include <QDate>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -66,9 +65,7 @@ bool openTemplate(const QString &nameOrPath, CDeviceConfigurationFile10 &file)
 {
     for (const STemplate &entry : Templates) {
         if (entry.name == nameOrPath) {
-            // The layer that reads files takes those of the operating system alone.
-            QFile resource(entry.path());
-            return resource.open(QIODevice::ReadOnly) && file.load(resource.readAll());
+            return file.open(entry.path());
         }
     }
     if (!isStandardStream(nameOrPath) && !QFileInfo::exists(nameOrPath)) {
