@@ -91,9 +91,9 @@ int run(const CommandLine &line)
     if (line.wantsJson()) {
         out.print(toJson(added));
     } else {
-        out.stream() << Texts::tr("Added drive %1: %2, %3")
-                            .arg(QString::number(used), added.name(), subDeviceTypeName(added))
-                     << '\n';
+        out.text() << Texts::tr("Added drive %1: %2, %3")
+                          .arg(QString::number(used), added.name(), subDeviceTypeName(added))
+                   << '\n';
     }
     return out.finish();
 }
