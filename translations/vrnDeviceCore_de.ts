@@ -360,8 +360,8 @@
         <translation>Die Antriebsnummer fehlt.</translation>
     </message>
     <message>
-        <source>This number means that no number is assigned.</source>
-        <translation>Diese Nummer bedeutet, dass keine Nummer vergeben ist.</translation>
+        <source>255 means that no number is assigned: the drive is read with the next free number.</source>
+        <translation>255 bedeutet, dass keine Nummer vergeben ist: Der Antrieb wird mit der nächsten freien Nummer gelesen.</translation>
     </message>
     <message>
         <source>The document is read as version %1; save it again with this version.</source>

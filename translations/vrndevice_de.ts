@@ -192,6 +192,10 @@
         <translation>--id muss eine Zahl von 0 bis 254 sein.</translation>
     </message>
     <message>
+        <source>%1: All drive numbers are in use.</source>
+        <translation>%1: Alle Antriebsnummern sind belegt.</translation>
+    </message>
+    <message>
         <source>%1: The drive number %2 is in use.</source>
         <translation>%1: Die Antriebsnummer %2 ist belegt.</translation>
     </message>

@@ -42,7 +42,8 @@ public:
     virtual void deviceElement(CDeviceElement &device, const QDomElement &element) const;
     /**
      * Reads the sub-devices of the "Device" @p element. Each gets a drive number of its own: one
-     * that has none, or one that is taken, gets the next free one, with a warning.
+     * that has none, which 255 stands for, or one that is taken, gets the next free one up to 254,
+     * with a warning. When none is free it is left out, with a warning.
      */
     virtual void subDeviceElements(QList<CSubDeviceElement> &subDevices,
                                    const QDomElement &element) const;

@@ -95,7 +95,8 @@ public:
      * Object dictionary and fault texts must have their project path below the device's own
      * directory, which is its name followed by "/"; another path is removed with a warning (but
      * not when it is empty, or when the device has no name). A sub-device without a usable drive
-     * number, or with one that is taken, gets the next free one, with a warning.
+     * number (255 is none), or with one that is taken, gets the next free one up to 254, with a
+     * warning; when none is free it is left out, with a warning.
      * @return false when the document has no device; @p device is null then
      */
     virtual bool configuration(CDeviceElement &device) const = 0;

@@ -265,7 +265,8 @@ void CDeviceBaseElement::setOpcUaEnabled(bool enabled)
     if (enabled) {
         appendOption(StartOptions::opcUa());
     } else {
-        removeOption(StartOptions::opcUa());
+        // Not removeOption(), which takes one entry only, and one with an argument as well.
+        d->options.removeAll(StartOptions::opcUa());
     }
 }
 

@@ -237,7 +237,10 @@ public:
     // OPC UA
 
     bool isOpcUaEnabled() const;
-    /** Also adds or removes the option "-opc". */
+    /**
+     * Also adds the option "-opc", or removes it however often it is there. An option that only
+     * begins with it, such as "-opc 4840", stays.
+     */
     void setOpcUaEnabled(bool enabled);
     QList<CFileElement> opcUaFiles() const;
     void setOpcUaFiles(const QList<CFileElement> &files);

@@ -6,25 +6,23 @@ namespace DriveNumbers {
 
 namespace {
 
-using Used = std::bitset<Count>;
+using Used = std::bitset<Highest + 1>;
 
 /** The number behind the highest in use, or the lowest free one; -1 when all are used. */
 int next(const Used &used)
 {
-    // 255 is left to documents that ask for it: elsewhere it means "no drive number".
     int number = Highest;
     while (number >= 0 && !used.test(static_cast<size_t>(number))) {
         --number;
     }
-    number = behind(number);
-    if (number != None) {
-        return number;
+    if (number < Highest) {
+        return number + 1;
     }
     number = 0;
-    while (number < Count && used.test(static_cast<size_t>(number))) {
+    while (number <= Highest && used.test(static_cast<size_t>(number))) {
         ++number;
     }
-    return number == Count ? -1 : number;
+    return number <= Highest ? number : -1;
 }
 
 } // namespace
@@ -33,7 +31,7 @@ int read(const QString &text)
 {
     bool isNumber = false;
     const uint number = text.toUInt(&isNumber);
-    return isNumber && number < Count ? static_cast<int>(number) : -1;
+    return isNumber && number <= None ? static_cast<int>(number) : -1;
 }
 
 QString key(const QString &text)
@@ -54,7 +52,8 @@ QVector<SAssigned> assigned(const QStringList &texts)
     Used used;
     for (const QString &text : texts) {
         const int number = read(text);
-        const bool isOwn = number >= 0 && !used.test(static_cast<size_t>(number));
+        const bool isOwn =
+            number >= 0 && number <= Highest && !used.test(static_cast<size_t>(number));
         if (isOwn) {
             used.set(static_cast<size_t>(number));
         }

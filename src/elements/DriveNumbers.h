@@ -9,15 +9,10 @@ namespace DriveNumbers {
 
 /** A drive may be given any number up to this one. */
 constexpr quint8 Highest = 254;
-/**
- * Means that no number is assigned. A document may contain it all the same, and then a drive is
- * read with it.
- */
+/** Means that no number is assigned. A drive with it in a document is read like one without. */
 constexpr quint8 None = 255;
-/** Of all numbers, None included. */
-constexpr int Count = 256;
 
-/** The number that a reader of the document takes @p text for; -1 for any other text. */
+/** The number in @p text, None included; -1 for any other text. */
 int read(const QString &text);
 
 /** The number in @p text without signs and leading zeros, which names a drive in paths; any other
@@ -29,7 +24,7 @@ quint8 behind(int highest);
 
 /** The number with which a drive of a document is read. */
 struct SAssigned {
-    /** -1 when all numbers are used: the drive is left out. */
+    /** At most Highest; -1 when all numbers are used: the drive is left out. */
     int number = -1;
     /** Whether the document contains that number, and no earlier drive has it. */
     bool isOwn = false;
@@ -37,9 +32,9 @@ struct SAssigned {
 
 /**
  * Gives each drive of a document a number of its own. @p texts are what the document contains as
- * their numbers; a drive whose text is not a number, or that of an earlier drive, gets the number
- * behind the highest one in use, at most 254, else the lowest that is free. It gets it after all
- * drives that have their own, so that it takes none of theirs.
+ * their numbers; a drive whose text is not a number, or None, or that of an earlier drive, gets the
+ * number behind the highest one in use, at most 254, else the lowest that is free. It gets it after
+ * all drives that have their own, so that it takes none of theirs.
  */
 QVector<SAssigned> assigned(const QStringList &texts);
 

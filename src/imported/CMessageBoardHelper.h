@@ -13,7 +13,9 @@ class ICLogfile;
  *
  * A message first goes to the log, if one is given, and then to the program's handler. Without a
  * handler it becomes one line on standard error, "program: warning: text" or
- * "program: error: text". All operations may be called from any thread at any time.
+ * "program: error: text", in which escape sequences stand for what a terminal would obey: control
+ * characters, ends of lines and marks of direction. A handler gets the text as it was posted. All
+ * operations may be called from any thread at any time.
  */
 class VRNCORE_EXPORT CMessageBoardHelper
 {

@@ -4,7 +4,7 @@
 
 int editConfiguration(const CommandLine &line,
                       const std::function<bool(CConfigurationItems &)> &change,
-                      const std::function<void(QTextStream &)> &report,
+                      const std::function<void(PrintedText &)> &report,
                       const std::function<QJsonObject()> &reportJson)
 {
     const QString path = line.argument(0);
@@ -28,7 +28,7 @@ int editConfiguration(const CommandLine &line,
     if (line.wantsJson()) {
         out.print(reportJson());
     } else {
-        report(out.stream());
+        report(out.text());
     }
     return out.finish();
 }
@@ -54,11 +54,15 @@ int reportFailure(const QString &path, const CConfigurationItems &items)
     return EXIT_NOT_DONE;
 }
 
-void print(const QList<CConfigurationItems::SItem> &items, QTextStream &stream)
+void print(const QList<CConfigurationItems::SItem> &items, PrintedText &stream)
 {
     for (const CConfigurationItems::SItem &item : items) {
-        QString text = QStringLiteral("%1 = %2").arg(item.path, item.value);
-        stream << text.replace(QLatin1Char('\n'), QStringLiteral("\n\t")) << '\n';
+        const QStringList lines = item.value.split(QLatin1Char('\n'));
+        stream << item.path << " = " << lines.constFirst();
+        for (const QString &further : lines.mid(1)) {
+            stream << "\n\t" << further;
+        }
+        stream << '\n';
     }
 }
 

@@ -17,7 +17,7 @@
  */
 int editConfiguration(const CommandLine &line,
                       const std::function<bool(CConfigurationItems &)> &change,
-                      const std::function<void(QTextStream &)> &report,
+                      const std::function<void(PrintedText &)> &report,
                       const std::function<QJsonObject()> &reportJson);
 
 /**
@@ -31,5 +31,5 @@ bool setItems(CConfigurationItems &items, const QStringList &pairs,
 int reportFailure(const QString &path, const CConfigurationItems &items);
 
 /** One "path = value" a line; further lines of a value begin with a tab. */
-void print(const QList<CConfigurationItems::SItem> &items, QTextStream &stream);
+void print(const QList<CConfigurationItems::SItem> &items, PrintedText &stream);
 QJsonArray toJson(const QList<CConfigurationItems::SItem> &items);

@@ -18,7 +18,7 @@ struct SRow {
 void printParagraph(const QString &text, Output &out)
 {
     for (QString &line : wrapped(text, LineLength)) {
-        out.stream() << line.replace(QChar::Nbsp, QLatin1Char(' ')) << '\n';
+        out.text() << line.replace(QChar::Nbsp, QLatin1Char(' ')) << '\n';
     }
 }
 
@@ -40,16 +40,16 @@ void printSection(const QString &title, const QList<SRow> &rows, int termWidth, 
     if (rows.isEmpty()) {
         return;
     }
-    out.stream() << '\n' << title << '\n';
+    out.text() << '\n' << title << '\n';
     const int column = Indentation + termWidth + Indentation;
     for (const SRow &row : rows) {
         QString start = QString(Indentation, QLatin1Char(' ')) + row.term;
         if (row.term.size() > termWidth) {
-            out.stream() << start << '\n';
+            out.text() << start << '\n';
             start.clear();
         }
         for (const QString &line : wrapped(row.explanation, LineLength - column)) {
-            out.stream() << start.leftJustified(column) << line << '\n';
+            out.text() << start.leftJustified(column) << line << '\n';
             start.clear();
         }
     }
@@ -163,7 +163,7 @@ QList<SExitCode> exitCodes()
 int printHelp()
 {
     Output out;
-    out.stream() << Texts::tr("Usage: vrndevice COMMAND [ARGUMENTS]") << '\n';
+    out.text() << Texts::tr("Usage: vrndevice COMMAND [ARGUMENTS]") << '\n';
     printParagraph(purpose(), out);
     const QList<SRow> commandRows = rows(commands());
     const QList<SRow> optionRows = rows(optionsOfTool());
@@ -174,7 +174,7 @@ int printHelp()
     for (const SExitCode &exitCode : exitCodes()) {
         codes.append(QString::number(exitCode.code) + QChar::Nbsp + exitCode.meaning);
     }
-    out.stream() << '\n';
+    out.text() << '\n';
     printParagraph(Texts::tr("Exit codes: %1.").arg(codes.join(QStringLiteral(", "))), out);
     return out.finish();
 }
@@ -182,7 +182,7 @@ int printHelp()
 int printHelp(const QString &group)
 {
     Output out;
-    out.stream() << Texts::tr("Usage: vrndevice %1 COMMAND [ARGUMENTS]").arg(group) << '\n';
+    out.text() << Texts::tr("Usage: vrndevice %1 COMMAND [ARGUMENTS]").arg(group) << '\n';
     const QList<SRow> commandRows = rows(commandsOfGroup(group));
     printSection(Texts::tr("Commands:"), commandRows, width(commandRows), out);
     return out.finish();
@@ -199,10 +199,10 @@ int printHelp(const CommandLine &line)
     printSection(Texts::tr("Options:"), optionRows, termWidth, out);
     printSection(Texts::tr("Arguments:"), argumentRows, termWidth, out);
     const QStringList examples = line.examples();
-    out.stream() << '\n'
-                 << (examples.size() > 1 ? Texts::tr("Examples:") : Texts::tr("Example:")) << '\n';
+    out.text() << '\n'
+               << (examples.size() > 1 ? Texts::tr("Examples:") : Texts::tr("Example:")) << '\n';
     for (const QString &example : examples) {
-        out.stream() << "  " << example << '\n';
+        out.text() << "  " << example << '\n';
     }
     return out.finish();
 }

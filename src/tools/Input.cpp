@@ -63,7 +63,7 @@ int saveConfiguration(const QString &path, CDeviceConfigurationFile10 &file)
         return EXIT_NOT_DONE;
     }
     Output out;
-    out.stream() << QString::fromUtf8(content);
+    out.exact() << QString::fromUtf8(content);
     return out.finish();
 }
 

@@ -1,18 +1,24 @@
 #include "tools/Output.h"
 
 #include "imported/CMessageBoardHelper.h"
+#include "storage/PrintableText.h"
 #include "tools/Command.h"
 
 #include <QFile>
 #include <QJsonDocument>
 #include <QVector>
 
-Output::Output() : m_stream(&m_bytes)
+Output::Output() : m_stream(&m_bytes), m_text(m_stream)
 {
     m_stream.setCodec("UTF-8");
 }
 
-QTextStream &Output::stream()
+PrintedText &Output::text()
+{
+    return m_text;
+}
+
+QTextStream &Output::exact()
 {
     return m_stream;
 }
@@ -29,18 +35,19 @@ void Output::printColumns(const QList<QStringList> &rows)
     for (const QStringList &row : rows) {
         widths.resize(row.size());
         for (int column = 0; column < row.size(); ++column) {
-            widths[column] = qMax(widths.at(column), row.at(column).size());
+            // As wide as it is printed.
+            widths[column] = qMax(widths.at(column), PrintableText::of(row.at(column)).size());
         }
     }
     for (const QStringList &row : rows) {
         QString text;
         for (int column = 0; column < row.size(); ++column) {
-            text += row.at(column).leftJustified(widths.at(column) + gap);
+            text += PrintableText::of(row.at(column)).leftJustified(widths.at(column) + gap);
         }
         while (text.endsWith(QLatin1Char(' '))) {
             text.chop(1);
         }
-        m_stream << text << '\n';
+        m_text << text << '\n';
     }
 }
 

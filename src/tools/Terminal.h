@@ -26,10 +26,14 @@ bool isTerminal(FILE *stream);
  */
 bool wantsColours(FILE *stream);
 
-/** @p text with the escape sequences of @p style around it; as it is without @p wanted. */
-QString styled(const QString &text, EStyle style, bool wanted);
+/** The number of @p style in an escape sequence. */
+int code(EStyle style);
 
-/** @p text on one line, and without what a terminal would take for a command. */
-QString printable(const QString &text);
+/** A text in a style, if that is wanted. */
+struct SStyled {
+    QString text;
+    EStyle style = STYLE_BOLD;
+    bool isWanted = false;
+};
 
 } // namespace Terminal

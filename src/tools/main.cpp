@@ -35,7 +35,7 @@ int run(QStringList arguments)
     }
     if (name == QLatin1String("-v") || name == QLatin1String("--version")) {
         Output out;
-        out.stream() << "vrndevice " << QCoreApplication::applicationVersion() << '\n';
+        out.text() << "vrndevice " << QCoreApplication::applicationVersion() << '\n';
         return out.finish();
     }
     QStringList known = firstWords();

@@ -238,7 +238,8 @@ void tst_cconfigurationcheck_rules::texts_data()
     row("drive-number-too-high", u"'256' is not a valid drive number."_s, u"256"_s,
         u"a number from 0 to 254"_s, u"The drive is read with the next free number."_s);
     row("drive-number-unassigned", u"'255' is not a valid drive number."_s, u"255"_s,
-        u"a number from 0 to 254"_s, u"This number means that no number is assigned."_s);
+        u"a number from 0 to 254"_s,
+        u"255 means that no number is assigned: the drive is read with the next free number."_s);
     row("drive-number-twice", u"The drive number 0 is already used by drive[0]."_s, u"00"_s,
         u"a unique number"_s, u"The drive is read with the next free number."_s);
     row("class-in-capitals", u"'KD3' is not a valid device class. It is read as 'Undefined'."_s,

@@ -162,7 +162,7 @@ void tst_cconfigurationoverview::driveItems_data()
     QTest::newRow("gaps behind the highest one")
         << u"253 x y z"_s << u"0=drive[y] 1=drive[z] 253=drive[253] 254=drive[x]"_s;
     QTest::newRow("gaps alone") << u"254 x y"_s << u"0=drive[x] 1=drive[y] 254=drive[254]"_s;
-    QTest::newRow("255 is told") << u"255 x"_s << u"0=drive[x] 255=drive[255]"_s;
+    QTest::newRow("255 is none") << u"255 x"_s << u"0=drive[255] 1=drive[x]"_s;
     QTest::newRow("written otherwise") << u"01 1"_s << u"1=drive[1] 2=drive[1][2]"_s;
 }
 

@@ -381,6 +381,15 @@ void tst_cdeviceelement::opcUaOption_data()
                            << QStringList{u"-a"_s};
     QTest::newRow("longer") << QStringList{u"-opcua"_s} << QStringList{u"-opcua"_s, opc}
                             << QStringList{u"-opcua"_s};
+    QTest::newRow("several times")
+        << QStringList{opc, u"-a"_s, opc, opc} << QStringList{opc, u"-a"_s, opc, opc}
+        << QStringList{u"-a"_s};
+    QTest::newRow("with an argument") << QStringList{u"-opc 4840"_s}
+                                      << QStringList{u"-opc 4840"_s, opc}
+                                      << QStringList{u"-opc 4840"_s};
+    QTest::newRow("behind one with an argument")
+        << QStringList{u"-opc 4840"_s, opc} << QStringList{u"-opc 4840"_s, opc}
+        << QStringList{u"-opc 4840"_s};
 }
 
 void tst_cdeviceelement::opcUaOption()
@@ -398,15 +407,16 @@ void tst_cdeviceelement::opcUaOption()
     device.setOpcUaEnabled(true);
     QCOMPARE(device.options(), enabled);
 
-    // The flag is its own, the options do not change it.
-    device.removeOption(u"-opc"_s);
-    QVERIFY(device.isOpcUaEnabled());
-    device.appendOption(u"-opc"_s);
     device.setOpcUaEnabled(false);
     QVERIFY(!device.isOpcUaEnabled());
     QCOMPARE(device.options(), disabled);
+
+    // The flag is its own, the options do not change it.
     device.appendOption(u"-opc"_s);
     QVERIFY(!device.isOpcUaEnabled());
+    device.setOpcUaEnabled(true);
+    device.removeOption(u"-opc"_s);
+    QVERIFY(device.isOpcUaEnabled());
 }
 
 void tst_cdeviceelement::hardwareIdCompatible_data()

@@ -118,7 +118,16 @@ void tst_cmessageboardhelper::standardError_data()
     row("warning", "warning", "The text.", "drive: warning: The text.\n");
     row("critical", "critical", "The text.", "drive: error: The text.\n");
     row("empty text", "warning", "", "drive: warning: \n");
-    row("line breaks become blanks", "critical", "one\ntwo\n", "drive: error: one two \n");
+    row("line breaks", "critical", "one\ntwo\r\n", "drive: error: one\\ntwo\\r\\n\n");
+    row("control characters", "warning", "\x1b[31m\t\x7f\xc2\x9b",
+        "drive: warning: "
+        "\\u001b[31m\\t\\u007f\\u009b\n");
+    row("other line breaks", "warning", "\xe2\x80\xa8\xe2\x80\xa9",
+        "drive: warning: \\u2028\\u2029\n");
+    row("directions", "warning",
+        "\xe2\x80\xae"
+        "cod.3deco\xd8\x9c",
+        "drive: warning: \\u202ecod.3deco\\u061c\n");
     row("format characters", "critical", "100 %s %n %1 \\n", "drive: error: 100 %s %n %1 \\n\n");
     row("non-Latin", "critical", "\xe8\xbb\xb8", "drive: error: \xe8\xbb\xb8\n");
     row("with a log", "with log", "The text.", "drive: warning: The text.\n");

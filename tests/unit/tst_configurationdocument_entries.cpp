@@ -395,7 +395,7 @@ void tst_configurationdocument_entries::subDeviceOrder()
 {
     CDeviceElement device;
     CSubDeviceKD3Element subDevice;
-    for (const int id : {200, 3, 255, 0}) {
+    for (const int id : {200, 3, 254, 0}) {
         subDevice.setDriveId(static_cast<quint8>(id));
         subDevice.setName(QString::number(id));
         device.setSubDevices(device.subDevices() << subDevice);
@@ -408,7 +408,7 @@ void tst_configurationdocument_entries::subDeviceOrder()
          e = e.nextSiblingElement(u"SubDevice"_s)) {
         numbers << file.getNodeValue(u"DriveNo"_s, e);
     }
-    QCOMPARE(numbers, (QStringList{u"0"_s, u"3"_s, u"200"_s, u"255"_s}));
+    QCOMPARE(numbers, (QStringList{u"0"_s, u"3"_s, u"200"_s, u"254"_s}));
     CDeviceElement back;
     QVERIFY(file.configuration(back));
     QVERIFY(back == device);
@@ -430,6 +430,12 @@ void tst_configurationdocument_entries::driveNumbers_data()
     QTest::newRow("words") << QStringList{u"one"_s} << u"0"_s << 1;
     QTest::newRow("negative") << QStringList{u"-1"_s} << u"0"_s << 1;
     QTest::newRow("one too large") << QStringList{u"256"_s} << u"0"_s << 1;
+    QTest::newRow("none") << QStringList{u"255"_s} << u"0"_s << 1;
+    QTest::newRow("none, with zeros in front") << QStringList{u"0255"_s} << u"0"_s << 1;
+    QTest::newRow("none, several times") << QStringList{u"255"_s, u"255"_s} << u"0 1"_s << 2;
+    QTest::newRow("none, before given ones")
+        << QStringList{u"255"_s, u"0"_s, u"7"_s} << u"8 0 7"_s << 1;
+    QTest::newRow("none, with the highest") << QStringList{u"254"_s, u"255"_s} << u"254 0"_s << 1;
     QTest::newRow("overflow") << QStringList{u"4294967296"_s} << u"0"_s << 1;
     QTest::newRow("fraction") << QStringList{u"1.0"_s} << u"0"_s << 1;
     QTest::newRow("twice") << QStringList{u"3"_s, u"3"_s} << u"3 4"_s << 1;
@@ -472,6 +478,14 @@ void tst_configurationdocument_entries::driveNumbers()
     QCOMPARE(found.join(QLatin1Char(' ')), numbers);
     QCOMPARE(catcher.warnings().size(), warnings);
     QVERIFY(catcher.criticals().isEmpty());
+
+    // Another drive takes the place of none.
+    CDeviceElement larger = device;
+    larger.insertSubDevice(CSubDeviceElement(CSubDeviceKD3Element()));
+    QCOMPARE(larger.subDeviceCount(), texts.size() + 1);
+    for (const CSubDeviceElement &subDevice : device.subDevices()) {
+        QVERIFY(larger.subDevice(subDevice.driveId()) == subDevice);
+    }
 }
 
 void tst_configurationdocument_entries::tooManySubDevices()
@@ -483,10 +497,11 @@ void tst_configurationdocument_entries::tooManySubDevices()
     }
     const MessageCatcher catcher;
     const CDeviceElement device = deviceIn(deviceDocument(content));
-    QCOMPARE(device.subDeviceCount(), 256);
+    QCOMPARE(device.subDeviceCount(), 255);
     QCOMPARE(device.subDevice(0).name(), u"s0"_s);
-    QCOMPARE(device.subDevice(255).name(), u"s255"_s);
+    QCOMPARE(device.subDevice(254).name(), u"s254"_s);
     QCOMPARE(catcher.warnings().size(), 258);
+    QVERIFY(catcher.warnings().at(255).contains(u"'s255'"_s));
     QVERIFY(catcher.warnings().at(256).contains(u"'s256'"_s));
     QVERIFY(catcher.warnings().at(257).contains(u"'s257'"_s));
 }

@@ -28,8 +28,8 @@ CFileElement numberedFile(const QString &kind, int index)
 
 CSubDeviceElement numberedSubDevice(int index)
 {
-    // Odd numbers far apart, so that gaps and the highest number are among them.
-    const quint8 id = static_cast<quint8>(index * 4 + 3);
+    // Even numbers far apart, so that gaps and the highest number are among them.
+    const quint8 id = static_cast<quint8>(index * 4 + 2);
     if (index % 2 == 0) {
         CSubDeviceKD2Element kd2;
         kd2.setHardwareId(QStringLiteral("KD2:Drive %1:%1:2:3").arg(index));

@@ -2,6 +2,7 @@
 #include "support/Files.h"
 #include "support/TestProgram.h"
 #include "support/Tool.h"
+#include "vocabulary/NVornXmlTags.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -9,6 +10,8 @@
 
 namespace {
 
+using NVornXmlTags::TAG_DRIVE_NO;
+using NVornXmlTags::TAG_SUB_DEVICE;
 using Tool::SResult;
 
 const QString FileName = QStringLiteral("DeviceConfiguration.3deco");
@@ -34,6 +37,9 @@ private Q_SLOTS:
     void addDriveTakesTheNextFreeNumber();
     void addDriveWithNumberAndName();
     void addDriveRefusesANumberInUse();
+    void addDriveNeverTakesTheNumberOfNone_data();
+    void addDriveNeverTakesTheNumberOfNone();
+    void driveWithTheNumberOfNone();
     void addDriveKeepsTheRestOfTheDocument();
     void placeListsEveryFile();
     void unreadableInput_data();
@@ -268,6 +274,77 @@ void tst_vrndevice::addDriveRefusesANumberInUse()
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.errors.contains(QStringLiteral("The drive number 1 is in use.")));
     QCOMPARE(Files::read(path()), before);
+}
+
+void tst_vrndevice::addDriveNeverTakesTheNumberOfNone_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("behind 253") << QStringLiteral("253") << 0 << QStringLiteral("Added drive 254:");
+    QTest::newRow("behind 254") << QStringLiteral("254") << 0 << QStringLiteral("Added drive 0:");
+    QTest::newRow("behind none") << QStringLiteral("255") << 0 << QStringLiteral("Added drive 4:");
+    QTest::newRow("behind all") << QString() << 1
+                                << QStringLiteral("All drive numbers are in use.");
+}
+
+void tst_vrndevice::addDriveNeverTakesTheNumberOfNone()
+{
+    QFETCH(QString, first);
+    QFETCH(int, exitCode);
+    QFETCH(QString, text);
+    copyExample();
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.open(path()));
+    if (first.isEmpty()) {
+        CDeviceElement device;
+        QVERIFY(file.configuration(device));
+        while (device.subDeviceCount() < 255) {
+            device.insertSubDevice(CSubDeviceElement(CSubDeviceKD3Element()));
+        }
+        QVERIFY(file.setConfiguration(device));
+    } else {
+        const QDomElement drive = file.findDeviceElement().firstChildElement(TAG_SUB_DEVICE);
+        file.setNodeValue(TAG_DRIVE_NO, first, drive);
+    }
+    QVERIFY(file.save(path()));
+    const QByteArray before = Files::read(path());
+
+    const SResult result =
+        run({QStringLiteral("add-drive"), path(), QStringLiteral("--type=KD3_drive")});
+    QCOMPARE(result.exitCode, exitCode);
+    const QString &told = exitCode == 0 ? result.output : result.errors;
+    QVERIFY2(told.contains(text), qPrintable(told));
+    QCOMPARE(Files::read(path()) == before, exitCode != 0);
+}
+
+void tst_vrndevice::driveWithTheNumberOfNone()
+{
+    copyExample();
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.open(path()));
+    const QDomElement drive = file.findDeviceElement().firstChildElement(TAG_SUB_DEVICE);
+    const QString name = file.getNodeValue(QStringLiteral("Name"), drive);
+    file.setNodeValue(TAG_DRIVE_NO, QStringLiteral("255"), drive);
+    QVERIFY(file.save(path()));
+
+    const QString warning =
+        QStringLiteral("The drive '%1' has no unique drive number and gets 3.").arg(name);
+    const SResult shown = run({QStringLiteral("show"), path(), QStringLiteral("--json")});
+    QCOMPARE(shown.exitCode, 0);
+    QVERIFY2(shown.errors.contains(warning), qPrintable(shown.errors));
+    const QJsonArray drives =
+        shown.json()[QStringLiteral("device")].toObject()[QStringLiteral("drive")].toArray();
+    QCOMPARE(drives.last().toObject()[QStringLiteral("name")].toString(), name);
+    QCOMPARE(drives.last().toObject()[QStringLiteral("driveNo")].toInt(), 3);
+
+    const SResult checked = run({QStringLiteral("check"), path()});
+    QCOMPARE(checked.exitCode, 1);
+    for (const char *text :
+         {"drive-number-invalid", "the drive is read with the next free number"}) {
+        QVERIFY2(checked.output.contains(QLatin1String(text)), qPrintable(checked.output));
+    }
 }
 
 void tst_vrndevice::addDriveKeepsTheRestOfTheDocument()

@@ -90,7 +90,9 @@ const SRow Rows[] = {
     {EValue::KEY_DRIVE_NUMBER, DRIVE_NUMBER_MISSING,
      QT_TRANSLATE_NOOP("CConfigurationCheck", "The drive number is missing."), DRIVE_NUMBER_INVALID,
      DRIVE_NUMBER_INVALID, nullptr,
-     QT_TRANSLATE_NOOP("CConfigurationCheck", "This number means that no number is assigned."),
+     QT_TRANSLATE_NOOP("CConfigurationCheck",
+                       "255 means that no number is assigned: the drive is read with the "
+                       "next free number."),
      NextFreeNumber},
 };
 

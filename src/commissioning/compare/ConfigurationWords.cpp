@@ -3,6 +3,7 @@
 #include "commissioning/items/ItemPath.h"
 #include "commissioning/Texts.h"
 #include "configfile/ShapePaths.h"
+#include "storage/PrintableText.h"
 
 namespace {
 
@@ -57,29 +58,12 @@ QString lastWord(const QString &item)
 bool needsEscape(QChar c)
 {
     switch (c.category()) {
-    case QChar::Other_Control:
     case QChar::Other_Format:
     case QChar::Other_Surrogate:
     case QChar::Other_NotAssigned:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
         return true;
     default:
-        return false;
-    }
-}
-
-QString escaped(QChar c)
-{
-    switch (c.unicode()) {
-    case '\n':
-        return QStringLiteral("\\n");
-    case '\r':
-        return QStringLiteral("\\r");
-    case '\t':
-        return QStringLiteral("\\t");
-    default:
-        return QStringLiteral("\\u%1").arg(static_cast<uint>(c.unicode()), 4, 16, QLatin1Char('0'));
+        return PrintableText::isCommand(c);
     }
 }
 
@@ -130,7 +114,7 @@ QString ConfigurationWords::shown(const QString &text)
             quoted += c;
             quoted += text.at(++i);
         } else if (needsEscape(c)) {
-            quoted += escaped(c);
+            quoted += PrintableText::escaped(c);
             isPlain = false;
         } else {
             if (c == QLatin1Char('"') || c == QLatin1Char('\\')) {

@@ -1,5 +1,6 @@
 #include "commissioning/report/ReportPage.h"
 
+#include "commissioning/rules/ConfigurationRules.h"
 #include "commissioning/Texts.h"
 
 #include <algorithm>
@@ -8,6 +9,16 @@ using ConfigurationReportTexts::Texts;
 using Element = HtmlWriter::Element;
 
 namespace {
+
+/**
+ * Where a link of the project leads is a path of this computer, which means nothing to the others
+ * that the page is for.
+ */
+bool isPathOfThisComputer(const SConfigurationFinding &finding)
+{
+    return finding.rule == ConfigurationRules::id(ConfigurationRules::PROJECT_FILE_OUTSIDE)
+        || finding.rule == ConfigurationRules::id(ConfigurationRules::PROJECT_FILE_MISSING);
+}
 
 /** Further ones are folded away, so that the drawing is not out of sight. */
 const int SummaryLength = 12;
@@ -110,7 +121,7 @@ void ReportPage::writeFinding(int index)
         }
     };
     // Most messages quote what was found.
-    if (!finding.message.contains(finding.found)) {
+    if (!finding.message.contains(finding.found) && !isPathOfThisComputer(finding)) {
         line(Texts::tr("Found:"), finding.found);
     }
     line(Texts::tr("Expected:"), finding.expected);

@@ -120,7 +120,9 @@ void ReportPage::writeHead()
     // Names come from anywhere: should one ever get past the escaping, it still cannot do anything.
     m_out.empty("meta",
                 {{"http-equiv", QStringLiteral("Content-Security-Policy")},
-                 {"content", QStringLiteral("default-src 'none'; style-src 'unsafe-inline'")}});
+                 {"content",
+                  QStringLiteral("default-src 'none'; style-src 'unsafe-inline'; base-uri 'none'; "
+                                 "form-action 'none'")}});
     m_out.element("title", Texts::tr("%1 – configuration report").arg(title()));
     m_out.lineBreak();
     QFile css(QStringLiteral(":/vrnCommissioning/report.css"));

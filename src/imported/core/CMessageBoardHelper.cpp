@@ -1,6 +1,7 @@
 #include "imported/CMessageBoardHelper.h"
 
 #include "imported/ICLogfile.h"
+#include "storage/PrintableText.h"
 
 #include <QCoreApplication>
 
@@ -28,8 +29,9 @@ void writeToStandardError(CMessageBoardHelper::ESeverity severity, const QString
     }
     line += severity == CMessageBoardHelper::SEVERITY_WARNING ? QLatin1String(": warning: ")
                                                               : QLatin1String(": error: ");
-    // One message is one line, so that programs which read standard error can rely on it.
-    line += QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')) + QLatin1Char('\n');
+    // One message is one line, so that programs which read standard error can rely on it. Names and
+    // values in it come from anywhere.
+    line += PrintableText::of(text) + QLatin1Char('\n');
     const QByteArray bytes = line.toLocal8Bit();
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
 }

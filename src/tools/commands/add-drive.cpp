@@ -23,6 +23,16 @@ CSubDeviceElement newDrive(const QString &type)
     return CSubDeviceElement();
 }
 
+/** The number that a reader would give a drive behind all others; -1 when all are in use. */
+int freeNumber(const CDeviceElement &device)
+{
+    QStringList numbers;
+    for (const CSubDeviceElement &drive : device.subDevices()) {
+        numbers.append(QString::number(drive.driveId()));
+    }
+    return DriveNumbers::assigned(numbers << QString()).constLast().number;
+}
+
 void describe(CommandLine &line)
 {
     line.addArgument(QStringLiteral("FILE"), Texts::tr("The configuration to change."));
@@ -44,9 +54,8 @@ int run(const CommandLine &line)
         return line.badUsage(Texts::tr("--type must be KD2_drive or KD3_drive."));
     }
     bool isNumber = true;
-    const uint id =
-        line.isSet(IdOption) ? line.value(IdOption).toUInt(&isNumber) : DriveNumbers::None;
-    if (!isNumber || (id > DriveNumbers::Highest && line.isSet(IdOption))) {
+    const uint id = line.isSet(IdOption) ? line.value(IdOption).toUInt(&isNumber) : 0;
+    if (!isNumber || id > DriveNumbers::Highest) {
         return line.badUsage(Texts::tr("--id must be a number from 0 to 254."));
     }
 
@@ -56,14 +65,19 @@ int run(const CommandLine &line)
     if (!readDevice(path, file, device)) {
         return EXIT_UNREADABLE_INPUT;
     }
-    const auto wanted = static_cast<quint8>(id);
-    if (wanted != DriveNumbers::None
-        && device.subDevice(wanted).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
-        printError(Texts::tr("%1: The drive number %2 is in use.").arg(path, QString::number(id)));
+    const int number = line.isSet(IdOption) ? static_cast<int>(id) : freeNumber(device);
+    if (number < 0) {
+        printError(Texts::tr("%1: All drive numbers are in use.").arg(path));
+        return EXIT_NOT_DONE;
+    }
+    const auto used = static_cast<quint8>(number);
+    if (device.subDevice(used).type() != NvrnDeviceCore::ELEMENT_UNKNOWN) {
+        printError(
+            Texts::tr("%1: The drive number %2 is in use.").arg(path, QString::number(number)));
         return EXIT_NOT_DONE;
     }
     drive.setName(line.value(NameOption));
-    const quint8 used = device.insertSubDevice(drive, wanted);
+    device.insertSubDevice(drive, used);
     // Only the new drive is written: the rest of the document stays as it is.
     file.appendSubDeviceElement(drive, file.deviceDomElement());
     const int exitCode = saveConfiguration(path, file);
@@ -77,9 +91,9 @@ int run(const CommandLine &line)
     if (line.wantsJson()) {
         out.print(toJson(added));
     } else {
-        out.stream() << Texts::tr("Added drive %1: %2, %3")
-                            .arg(QString::number(used), added.name(), subDeviceTypeName(added))
-                     << '\n';
+        out.text() << Texts::tr("Added drive %1: %2, %3")
+                          .arg(QString::number(used), added.name(), subDeviceTypeName(added))
+                   << '\n';
     }
     return out.finish();
 }

@@ -27,7 +27,7 @@ int run(const CommandLine &line)
         [&](CConfigurationItems &items) {
             return items.add(entry) && setItems(items, pairs, done);
         },
-        [&](QTextStream &stream) {
+        [&](PrintedText &stream) {
             stream << Texts::tr("Added %1").arg(entry) << '\n';
             print(done, stream);
         },

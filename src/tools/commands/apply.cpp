@@ -49,7 +49,7 @@ int print(const CommandLine &line, const CConfigurationPatch &patch, const QStri
     } else if (mismatches.isEmpty()) {
         const QStringList lines = patch.describe();
         for (const QString &text : lines) {
-            out.stream() << text << '\n';
+            out.text() << text << '\n';
         }
     }
     return out.finish();

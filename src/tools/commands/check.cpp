@@ -55,17 +55,17 @@ QString placeText(const QString &path, const SXmlPosition &position)
 }
 
 void print(const QString &path, const SConfigurationFinding &finding, bool wantsColours,
-           QTextStream &out)
+           PrintedText &out)
 {
     const QString severity = isError(finding) ? Texts::tr("error") : Texts::tr("warning");
     const Terminal::EStyle style = isError(finding) ? Terminal::STYLE_RED : Terminal::STYLE_YELLOW;
-    out << Terminal::styled(placeText(path, finding.position) + QLatin1Char(':'),
-                            Terminal::STYLE_BOLD, wantsColours)
-        << ' ' << Terminal::styled(severity + QLatin1Char(':'), style, wantsColours) << ' '
-        << Terminal::printable(finding.message) << " [" << finding.rule << "]\n";
+    const QString place = placeText(path, finding.position) + QLatin1Char(':');
+    out << Terminal::SStyled{place, Terminal::STYLE_BOLD, wantsColours} << ' '
+        << Terminal::SStyled{severity + QLatin1Char(':'), style, wantsColours} << ' '
+        << finding.message << " [" << finding.rule << "]\n";
     const auto detail = [&out](const QString &name, const QString &text) {
         if (!text.isEmpty()) {
-            out << "    " << name << ' ' << Terminal::printable(text) << '\n';
+            out << "    " << name << ' ' << text << '\n';
         }
     };
     detail(Texts::tr("item:"), finding.item);
@@ -130,7 +130,7 @@ int run(const CommandLine &line)
             if (line.wantsJson()) {
                 array.append(toJson(finding));
             } else {
-                print(path, finding, wantsColours, out.stream());
+                print(path, finding, wantsColours, out.text());
             }
         }
         if (line.wantsJson()) {
@@ -139,7 +139,7 @@ int run(const CommandLine &line)
                                      {QStringLiteral("findings"), array}});
         } else {
             if (error.isEmpty() && findings.isEmpty()) {
-                out.stream() << Texts::tr("%1: nothing is wrong").arg(shownName(path)) << '\n';
+                out.text() << Texts::tr("%1: nothing is wrong").arg(shownName(path)) << '\n';
             }
             // File by file, so that what is printed needs no more memory than what is read.
             outputCode = qMax(outputCode, out.finish());
@@ -150,7 +150,7 @@ int run(const CommandLine &line)
                    {QStringLiteral("errors"), count.errors},
                    {QStringLiteral("warnings"), count.warnings}});
     } else if (count.errors + count.warnings > 0) {
-        out.stream() << count.text() << '\n';
+        out.text() << count.text() << '\n';
     }
     outputCode = qMax(outputCode, out.finish());
     return qMax(outputCode, count.exitCode(line.isSet(StrictOption)));

@@ -511,7 +511,7 @@ int run(const CommandLine &line)
     Output out;
     for (const SShell &shell : shells()) {
         if (shell.name == line.argument(0)) {
-            shell.print(out.stream());
+            shell.print(out.exact());
         }
     }
     return out.finish();

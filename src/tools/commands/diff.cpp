@@ -29,11 +29,11 @@ int run(const CommandLine &line)
     const CConfigurationPatch patch = CConfigurationComparison::compare(before, after);
     Output out;
     if (line.wantsJson()) {
-        out.stream() << QString::fromUtf8(patch.toJson());
+        out.exact() << QString::fromUtf8(patch.toJson());
     } else {
         const QStringList lines = patch.describe();
         for (const QString &text : lines) {
-            out.stream() << text << '\n';
+            out.text() << text << '\n';
         }
     }
     const int written = out.finish();

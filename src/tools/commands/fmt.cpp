@@ -112,9 +112,9 @@ int run(const CommandLine &line)
             continue;
         }
         if (file.state == EState::REWRITTEN) {
-            out.stream() << Texts::tr("%1: rewritten").arg(file.path) << '\n';
+            out.text() << Texts::tr("%1: rewritten").arg(file.path) << '\n';
         } else if (file.state == EState::NOT_CANONICAL) {
-            out.stream() << Texts::tr("%1: would change").arg(shownName(file.path)) << '\n';
+            out.text() << Texts::tr("%1: would change").arg(shownName(file.path)) << '\n';
         }
     }
     if (line.wantsJson()) {

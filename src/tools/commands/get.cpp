@@ -1,5 +1,6 @@
 #include "tools/ConfigurationEdit.h"
 #include "tools/Input.h"
+#include "tools/Terminal.h"
 
 namespace {
 
@@ -32,9 +33,14 @@ int run(const CommandLine &line)
     if (line.wantsJson()) {
         out.print({{QStringLiteral("items"), toJson(found)}});
     } else if (!isWhole && items.value(wanted, value)) {
-        out.stream() << value << '\n';
+        if (Terminal::isTerminal(stdout)) {
+            out.text() << value << '\n';
+        } else {
+            // A script gets the value as the document contains it.
+            out.exact() << value << '\n';
+        }
     } else {
-        print(found, out.stream());
+        print(found, out.text());
     }
     return out.finish();
 }

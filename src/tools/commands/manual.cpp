@@ -269,7 +269,7 @@ void printExamples(Page &page)
 int run(const CommandLine & /*line*/)
 {
     Output out;
-    Page page(out.stream());
+    Page page(out.exact());
     printStart(page);
     printOptionsAndCommands(page);
     printSurroundings(page);

@@ -71,7 +71,7 @@ int print(const CommandLine &line, const CConfigurationMerge &merge)
     } else {
         const QStringList lines = patch.describe();
         for (const QString &text : lines) {
-            out.stream() << text << '\n';
+            out.text() << text << '\n';
         }
     }
     return out.finish();
@@ -107,7 +107,7 @@ int run(const CommandLine &line)
     const QList<CConfigurationMerge::SConflict> conflicts = merge.conflicts();
     for (const CConfigurationMerge::SConflict &conflict : conflicts) {
         printWarning(Texts::tr("conflict: %1")
-                         .arg(CConfigurationMerge::describe(conflict).join(QLatin1Char('\n'))));
+                         .arg(CConfigurationMerge::describe(conflict).join(QLatin1Char(' '))));
     }
     // Where nothing is taken, our file stays as it is, also the way it was written.
     if (output != oursPath || isStandardStream(output) || !merge.patch().isEmpty()) {

@@ -13,7 +13,7 @@ int toCode(const QString &text, bool &isCode)
     return text.toInt(&isCode, isHexadecimal ? 16 : 10);
 }
 
-void print(int code, const QString &message, const QString &description, QTextStream &out)
+void print(int code, const QString &message, const QString &description, PrintedText &out)
 {
     out << code << " (0x" << QString::number(code, 16) << "): " << message << '\n';
     for (const QString &line : description.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
@@ -56,7 +56,7 @@ int run(const CommandLine &line)
                                  {QStringLiteral("message"), message},
                                  {QStringLiteral("description"), description}});
         if (!line.wantsJson()) {
-            print(code, message, description, out.stream());
+            print(code, message, description, out.text());
         }
     }
     if (line.wantsJson()) {

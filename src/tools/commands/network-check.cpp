@@ -32,11 +32,11 @@ int run(const CommandLine &line)
         }
         out.print({{QStringLiteral("findings"), array}});
     } else if (findings.isEmpty()) {
-        out.stream() << Texts::tr("%1: nothing is wrong").arg(path) << '\n';
+        out.text() << Texts::tr("%1: nothing is wrong").arg(path) << '\n';
     }
     for (const CNetworkSettingsCheck::SFinding &finding : findings) {
         if (!line.wantsJson()) {
-            out.stream() << toText(path, finding) << '\n';
+            out.text() << toText(path, finding) << '\n';
         }
     }
     const int exitCode = out.finish();

@@ -238,7 +238,7 @@ int run(const CommandLine &line)
     if (line.wantsJson()) {
         out.print(toJson(file));
     } else {
-        out.stream() << Texts::tr("Created %1: device %2").arg(path, name) << '\n';
+        out.text() << Texts::tr("Created %1: device %2").arg(path, name) << '\n';
     }
     return out.finish();
 }

@@ -23,7 +23,7 @@ int run(const CommandLine &line)
             return std::all_of(paths.cbegin(), paths.cend(),
                                [&](const QString &path) { return items.remove(path); });
         },
-        [&](QTextStream &stream) {
+        [&](PrintedText &stream) {
             for (const QString &path : paths) {
                 stream << Texts::tr("Removed %1").arg(path) << '\n';
             }

@@ -56,7 +56,7 @@ int run(const CommandLine &line)
     const QByteArray page = CConfigurationReport(overview, findings).toHtml();
     Output out;
     if (!isFile) {
-        out.stream() << QString::fromUtf8(page);
+        out.exact() << QString::fromUtf8(page);
         return out.finish();
     }
     const FileStorage::SResult written = FileStorage::replace(path, page);
@@ -72,9 +72,9 @@ int run(const CommandLine &line)
                    {QStringLiteral("errors"), errors},
                    {QStringLiteral("warnings"), warnings}});
     } else {
-        out.stream() << Texts::tr("Wrote %1. Errors: %2, warnings: %3.")
-                            .arg(path, QString::number(errors), QString::number(warnings))
-                     << '\n';
+        out.text() << Texts::tr("Wrote %1. Errors: %2, warnings: %3.")
+                          .arg(path, QString::number(errors), QString::number(warnings))
+                   << '\n';
     }
     return out.finish();
 }

@@ -25,7 +25,7 @@ int run(const CommandLine &line)
     QList<CConfigurationItems::SItem> done;
     return editConfiguration(
         line, [&](CConfigurationItems &items) { return setItems(items, pairs, done); },
-        [&](QTextStream &stream) { print(done, stream); },
+        [&](PrintedText &stream) { print(done, stream); },
         [&]() {
             return QJsonObject{{QStringLiteral("items"), toJson(done)}};
         });

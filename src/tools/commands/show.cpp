@@ -25,7 +25,7 @@ int run(const CommandLine &line)
     }
     visitTree(configurationTree(CConfigurationOverview(file)),
               [&out](const STreeNode &node, const QString &before, const QString &) {
-                  out.stream() << before << node.text << '\n';
+                  out.text() << before << node.text << '\n';
               });
     return out.finish();
 }

@@ -142,10 +142,10 @@ int reportStaged(const CommandLine &line, const CDeviceManifest &manifest)
                    {QStringLiteral("size"), size},
                    {QStringLiteral("manifestSha256"), sum}});
     } else {
-        out.stream() << Texts::tr("Staged %1 files with %2 bytes; checksum of the manifest: %3")
-                            .arg(QString::number(manifest.entries().size()), QString::number(size),
-                                 sum)
-                     << '\n';
+        out.text() << Texts::tr("Staged %1 files with %2 bytes; checksum of the manifest: %3")
+                          .arg(QString::number(manifest.entries().size()), QString::number(size),
+                               sum)
+                   << '\n';
     }
     return out.finish();
 }

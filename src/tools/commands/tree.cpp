@@ -36,7 +36,7 @@ QList<SConfigurationFinding> findingsOf(const STreeNode &node, const CItemFindin
 class TreePrinter
 {
 public:
-    TreePrinter(const CItemFindings &findings, bool wantsColours, QTextStream &out)
+    TreePrinter(const CItemFindings &findings, bool wantsColours, PrintedText &out)
         : m_findings(findings), m_wantsColours(wantsColours), m_out(out)
     {
     }
@@ -44,8 +44,8 @@ public:
     void print(const STreeNode &node, const QString &before, const QString &beforeFurtherLines)
     {
         m_out << before
-              << (node.children.isEmpty() ? Terminal::printable(node.text)
-                                          : styled(node.text, Terminal::STYLE_BOLD))
+              << Terminal::SStyled{node.text, Terminal::STYLE_BOLD,
+                                   m_wantsColours && !node.children.isEmpty()}
               << '\n';
         for (const CFileElement &file : node.files) {
             printPlace(beforeFurtherLines, Texts::tr("device:"), file.devicePath(),
@@ -59,9 +59,9 @@ public:
     }
 
 private:
-    QString styled(const QString &text, Terminal::EStyle style) const
+    Terminal::SStyled styled(const QString &text, Terminal::EStyle style) const
     {
-        return Terminal::styled(Terminal::printable(text), style, m_wantsColours);
+        return {text, style, m_wantsColours};
     }
 
     /** A directory that the configuration leaves open is shown as a hyphen. */
@@ -69,7 +69,7 @@ private:
                     const QString &path)
     {
         m_out << before << styled(title, Terminal::STYLE_CYAN) << ' '
-              << (directory.isEmpty() ? QStringLiteral("-") : Terminal::printable(path)) << '\n';
+              << (directory.isEmpty() ? QStringLiteral("-") : path) << '\n';
     }
 
     void print(const SConfigurationFinding &finding, const QString &before)
@@ -78,7 +78,7 @@ private:
         m_out << before
               << (isError ? styled(Texts::tr("error:"), Terminal::STYLE_RED)
                           : styled(Texts::tr("warning:"), Terminal::STYLE_YELLOW))
-              << ' ' << Terminal::printable(finding.message) << " [" << finding.rule << ']';
+              << ' ' << finding.message << " [" << finding.rule << ']';
         if (finding.position.isKnown()) {
             m_out << ' '
                   << Texts::tr("(line %1, column %2)")
@@ -87,13 +87,13 @@ private:
         }
         m_out << '\n';
         if (!finding.hint.isEmpty()) {
-            m_out << before << QStringLiteral("  ") << Terminal::printable(finding.hint) << '\n';
+            m_out << before << QStringLiteral("  ") << finding.hint << '\n';
         }
     }
 
     const CItemFindings &m_findings;
     const bool m_wantsColours;
-    QTextStream &m_out;
+    PrintedText &m_out;
 };
 
 QJsonObject toJson(const STreeNode &node, const CItemFindings &findings)
@@ -151,7 +151,7 @@ int run(const CommandLine &line)
         return out.finish();
     }
     const bool wantsColours = when == Always || (when == Auto && Terminal::wantsColours(stdout));
-    TreePrinter printer(findings, wantsColours, out.stream());
+    TreePrinter printer(findings, wantsColours, out.text());
     visitTree(root,
               [&printer](const STreeNode &node, const QString &before,
                          const QString &beforeFurtherLines) {

@@ -47,12 +47,12 @@ QJsonObject toJson(const QString &path, const CStagedTree &tree)
 void print(const QString &path, const CStagedTree &tree, Output &out)
 {
     for (const CStagedTree::SDifference &difference : tree.differences()) {
-        out.stream() << path << ": " << difference.message << '\n';
+        out.text() << path << ": " << difference.message << '\n';
     }
     if (tree.differences().isEmpty()) {
-        out.stream() << Texts::tr("%1: All %2 files match the manifest.")
-                            .arg(path, QString::number(tree.manifest().entries().size()))
-                     << '\n';
+        out.text() << Texts::tr("%1: All %2 files match the manifest.")
+                          .arg(path, QString::number(tree.manifest().entries().size()))
+                   << '\n';
     }
 }
 
