@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 
@@ -36,10 +37,10 @@ inline QProcessEnvironment englishEnvironment()
     return environment;
 }
 
-inline SResult run(const QString &directory, const QStringList &arguments,
+/** With @p process, of which its standard streams may have been set. */
+inline SResult run(QProcess &process, const QString &directory, const QStringList &arguments,
                    const QProcessEnvironment &environment = englishEnvironment())
 {
-    QProcess process;
     process.setWorkingDirectory(directory);
     process.setProcessEnvironment(environment);
     process.start(program(), arguments);
@@ -50,6 +51,28 @@ inline SResult run(const QString &directory, const QStringList &arguments,
     result.output = QString::fromUtf8(process.readAllStandardOutput());
     result.errors = QString::fromUtf8(process.readAllStandardError());
     return result;
+}
+
+inline SResult run(const QString &directory, const QStringList &arguments,
+                   const QProcessEnvironment &environment = englishEnvironment())
+{
+    QProcess process;
+    return run(process, directory, arguments, environment);
+}
+
+/** Every command, from the help. */
+inline QStringList commandNames()
+{
+    QStringList names;
+    static const QRegularExpression row(QStringLiteral("^  ([a-z][a-z-]*(?: [a-z-]+)?)  "));
+    const QString help = run(QDir::tempPath(), {QStringLiteral("--help")}).output;
+    for (const QString &line : help.split(QLatin1Char('\n'))) {
+        const QRegularExpressionMatch match = row.match(line);
+        if (match.hasMatch()) {
+            names.append(match.captured(1));
+        }
+    }
+    return names;
 }
 
 /** The project that is shipped as an example. */
