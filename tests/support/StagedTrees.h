@@ -97,6 +97,47 @@ inline QByteArray archiveOf(const QList<SEntry> &entries, bool compressed = true
     return bytes;
 }
 
+/** What @p tar becomes with gzip. */
+inline QByteArray gzipOf(const QByteArray &tar)
+{
+    QByteArray bytes(tar.size() + (1 << 16), Qt::Uninitialized);
+    size_t used = 0;
+    archive *const written = archive_write_new();
+    archive_write_set_format_raw(written);
+    archive_write_add_filter_gzip(written);
+    archive_write_open_memory(written, bytes.data(), static_cast<size_t>(bytes.size()), &used);
+    archive_entry *const header = archive_entry_new();
+    archive_entry_set_filetype(header, S_IFREG);
+    archive_write_header(written, header);
+    archive_write_data(written, tar.constData(), static_cast<size_t>(tar.size()));
+    archive_entry_free(header);
+    archive_write_close(written);
+    archive_write_free(written);
+    bytes.truncate(static_cast<int>(used));
+    return bytes;
+}
+
+/** Bytes of a block in an archive that is not compressed; each header is one. */
+const int TarBlock = 512;
+
+/** Bytes that a file takes in an archive that is not compressed. */
+inline int sizeInArchive(const QByteArray &content)
+{
+    return TarBlock + (content.size() + TarBlock - 1) / TarBlock * TarBlock;
+}
+
+/** Writes the sum of a header of tar that was changed by hand, which begins at @p start. */
+inline void seal(QByteArray &tar, int start = 0)
+{
+    const int place = start + 148;
+    tar.replace(place, 8, QByteArray(8, ' '));
+    int sum = 0;
+    for (int i = 0; i < TarBlock; ++i) {
+        sum += static_cast<unsigned char>(tar.at(start + i));
+    }
+    tar.replace(place, 8, QByteArray::number(sum, 8).rightJustified(6, '0') + QByteArray("\0 ", 2));
+}
+
 inline QByteArray sumOf(const QByteArray &content)
 {
     return QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();

@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 
@@ -36,11 +37,13 @@ inline QProcessEnvironment englishEnvironment()
     return environment;
 }
 
-/** @param command what is started: the tool, or a program that starts it */
-inline SResult runCommand(const QString &directory, const QStringList &command,
+/**
+ * With @p process, of which its standard streams may have been set.
+ * @param command what is started: the tool, or a program that starts it
+ */
+inline SResult runCommand(QProcess &process, const QString &directory, const QStringList &command,
                           const QProcessEnvironment &environment = englishEnvironment())
 {
-    QProcess process;
     process.setWorkingDirectory(directory);
     process.setProcessEnvironment(environment);
     process.start(command.first(), command.mid(1));
@@ -53,10 +56,33 @@ inline SResult runCommand(const QString &directory, const QStringList &command,
     return result;
 }
 
+/** The same for the tool. */
+inline SResult run(QProcess &process, const QString &directory, const QStringList &arguments,
+                   const QProcessEnvironment &environment = englishEnvironment())
+{
+    return runCommand(process, directory, QStringList{program()} + arguments, environment);
+}
+
 inline SResult run(const QString &directory, const QStringList &arguments,
                    const QProcessEnvironment &environment = englishEnvironment())
 {
-    return runCommand(directory, QStringList{program()} + arguments, environment);
+    QProcess process;
+    return run(process, directory, arguments, environment);
+}
+
+/** Every command, from the help. */
+inline QStringList commandNames()
+{
+    QStringList names;
+    static const QRegularExpression row(QStringLiteral("^  ([a-z][a-z-]*(?: [a-z-]+)?)  "));
+    const QString help = run(QDir::tempPath(), {QStringLiteral("--help")}).output;
+    for (const QString &line : help.split(QLatin1Char('\n'))) {
+        const QRegularExpressionMatch match = row.match(line);
+        if (match.hasMatch()) {
+            names.append(match.captured(1));
+        }
+    }
+    return names;
 }
 
 /** The project that is shipped as an example. */

@@ -46,7 +46,8 @@ inline Tool::SResult run(const QString &directory, const QStringList &arguments)
     }
     command << QStringLiteral("sh") << QStringLiteral("-c")
             << QStringLiteral("mount -t tmpfs none /proc && exec \"$0\" \"$@\"") << Tool::program();
-    return Tool::runCommand(directory, command + arguments);
+    QProcess process;
+    return Tool::runCommand(process, directory, command + arguments);
 }
 
 } // namespace WithoutProc

@@ -57,6 +57,21 @@ QByteArray archiveBehindManifest(const QList<SEntry> &entries)
     return archiveOf(QList<SEntry>{{"manifest.json", manifest, S_IFREG, {}, -1}} + entries);
 }
 
+/** So long that it needs an extended header; only behind one do hard links have content. */
+const QString LongName(120, u'a');
+
+/** A file whose place is taken by a hard link that brings the same content along. */
+QByteArray archiveWithFullHardLink()
+{
+    const QByteArray manifest = manifestOf({{LongName, QString(), 9, sumOf("content a")}});
+    QByteArray tar = archiveOf(
+        {regular("manifest.json", manifest), regular(LongName.toLatin1(), "content a")}, false);
+    const int header = tar.indexOf("content a") - TarBlock;
+    tar.replace(header + 156, 2, "1b"); // its type, and what it leads to
+    seal(tar, header);
+    return gzipOf(tar);
+}
+
 } // namespace
 
 using Change = std::function<void(const QDir &root)>;
@@ -107,6 +122,14 @@ private slots:
         row("surplus beside a name that begins alike",
             [=](const QDir &root) { QDir().mkpath(root.filePath(u"velkor-x"_s)); },
             {u"surplus velkor-x"_s});
+        row("surplus directory of which another name goes on",
+            [](const QDir &root) { QDir().mkpath(root.filePath(u"velkor/configurations/ST"_s)); },
+            {u"surplus velkor/configurations/ST"_s});
+        row("surplus manifest in a directory",
+            [](const QDir &root) {
+                Files::write(root.filePath(u"velkor/log/manifest.json"_s), "{}");
+            },
+            {u"surplus velkor/log/manifest.json"_s});
         row("swapped",
             [=](const QDir &root) {
                 QFile::rename(root.filePath(a), root.filePath(u"t"_s));
@@ -190,6 +213,21 @@ private slots:
         QCOMPARE(verified(root()), expected);
     }
 
+    void tooManyDifferencesInTree()
+    {
+        CStagedTree tree;
+        QVERIFY(tree.write(plan({u"tiny"_s}), treeTarget()));
+        const int most = 10000;
+        const QByteArray surplus = system(root()) + "/a";
+        for (int i = 0; i <= most; ++i) {
+            QCOMPARE(mkdir((surplus + QByteArray::number(i)).constData(), 0700), 0);
+        }
+        const QStringList found = verified(root());
+        QCOMPARE(found.size(), most);
+        // What is behind them was not looked for.
+        QCOMPARE(found.filter(u"missing"_s), QStringList());
+    }
+
     void verifyTellsWhatItCannotRead()
     {
         CStagedTree tree;
@@ -246,6 +284,7 @@ private slots:
             {u"surplus ./a"_s, u"missing a"_s});
         row("symbolic link", tail({b, {"a", {}, S_IFLNK, "/etc/passwd", -1}}), {u"wrong-kind a"_s});
         row("hard link", tail({b, {"a", {}, S_IFREG, "b", -1}}), {u"wrong-kind a"_s});
+        row("hard link with content", archiveWithFullHardLink(), {u"wrong-kind "_s + LongName});
         row("device", tail({b, {"a", {}, S_IFCHR, {}, -1}}), {u"wrong-kind a"_s});
         row("directory for a file", tail({b, {"a/", {}, S_IFDIR, {}, -1}}), {u"wrong-kind a"_s});
         row("two manifests", tail({a, b, regular("manifest.json", manifest)}),

@@ -53,20 +53,6 @@ bool isThere(const QString &program)
     return !QStandardPaths::findExecutable(program).isEmpty();
 }
 
-/** Every command, from the help. */
-QStringList commandNames(const QString &help)
-{
-    QStringList names;
-    static const QRegularExpression row(u"^  ([a-z][a-z-]*(?: [a-z-]+)?)  "_s);
-    for (const QString &line : help.split(u'\n')) {
-        const QRegularExpressionMatch match = row.match(line);
-        if (match.hasMatch()) {
-            names.append(match.captured(1));
-        }
-    }
-    return names;
-}
-
 /** In one line, as roff gets it. */
 QString inRoff(QString text)
 {
@@ -131,7 +117,7 @@ void tst_vrndevice_documents::manualHoldsTheHelp()
 {
     const QString manual = run({u"manual"_s}).output.simplified();
     const QString help = run({u"--help"_s}).output;
-    const QStringList names = commandNames(help);
+    const QStringList names = Tool::commandNames();
     QVERIFY(names.size() >= 14);
     for (const QString &name : names) {
         const QString subsection = u".SS %1 \\fBvrndevice %1\\fR"_s.arg(inRoff(name));

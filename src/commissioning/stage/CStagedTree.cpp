@@ -78,12 +78,8 @@ bool CStagedTree::verify(const QString &path)
         return true;
     }
     TreeComparison comparison(m_manifest, m_progress);
-    bool isComplete = true;
-    if (isTree) {
-        compareTree(opened.get(), true, comparison);
-    } else {
-        isComplete = compareArchive(opened.get(), comparison);
-    }
+    const bool isComplete = isTree ? compareTree(opened.get(), true, comparison)
+                                   : compareArchive(opened.get(), comparison);
     m_wasCancelled = comparison.isCancelled();
     if (m_wasCancelled) {
         m_errorText = Texts::tr("The operation was cancelled.");

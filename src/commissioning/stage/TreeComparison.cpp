@@ -365,11 +365,11 @@ QList<CStagedTree::SDifference> TreeComparison::differences(bool isComplete) con
     return result;
 }
 
-void compareTree(int root, bool contents, TreeComparison &comparison)
+bool compareTree(int root, bool contents, TreeComparison &comparison)
 {
     // Another one, for it is closed in the end.
     const int opened = openIn(root, ".", O_DIRECTORY);
-    TreeWalk(contents, comparison).walk(opened, QByteArray());
+    return TreeWalk(contents, comparison).walk(opened, QByteArray());
 }
 
 bool compareArchive(int fd, TreeComparison &comparison)

@@ -66,8 +66,11 @@ private:
     bool m_isCancelled = false;
 };
 
-/** Compares the directory @p root, a descriptor; without @p contents only names and kinds. */
-void compareTree(int root, bool contents, TreeComparison &comparison);
+/**
+ * Compares the directory @p root, a descriptor; without @p contents only names and kinds.
+ * @return whether it was compared to its end
+ */
+bool compareTree(int root, bool contents, TreeComparison &comparison);
 /** Compares the archive @p fd. @return whether it could be read to its end */
 bool compareArchive(int fd, TreeComparison &comparison);
 
