@@ -53,7 +53,7 @@ int run(const CommandLine &line)
     const QString path = line.argument(0);
     CDeviceConfigurationFile10 file(nullptr);
     CDeviceElement device;
-    if (!readDevice(path, file, device)) {
+    if (!readDevice(path, file, device, EAccess::CHANGE)) {
         return EXIT_UNREADABLE_INPUT;
     }
     const auto wanted = static_cast<quint8>(id);
