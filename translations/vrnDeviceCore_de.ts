@@ -2205,16 +2205,20 @@ Siehe &apos;/var/log/handleBootError.log&apos; oder &apos;/var/log/boot_err&apos
         <translation>Die Zeichenkodierung ist unbekannt.</translation>
     </message>
     <message>
-        <source>The document is not in the encoding that it declares.</source>
-        <translation>Das Dokument hat nicht die Zeichenkodierung, die es angibt.</translation>
-    </message>
-    <message>
         <source>The XML declaration is malformed.</source>
         <translation>Die XML-Deklaration ist fehlerhaft.</translation>
     </message>
     <message>
         <source>The XML version &apos;%1&apos; is unknown.</source>
         <translation>Die XML-Version &apos;%1&apos; ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>The document is not in the encoding that it declares.</source>
+        <translation>Das Dokument hat nicht die Zeichenkodierung, die es angibt.</translation>
+    </message>
+    <message>
+        <source>This is not valid UTF-8 text, and the document declares no other encoding.</source>
+        <translation>Dies ist kein gültiger UTF-8-Text, und das Dokument gibt keine andere Zeichenkodierung an.</translation>
     </message>
     <message>
         <source>A document type declaration with an internal subset is not allowed.</source>

@@ -22,9 +22,10 @@ class ICLogfile;
  * The type of a document is the name of its root element; the root's attribute "version" carries
  * the version, its child "Head" the meta data. Reading keeps unknown elements, attributes,
  * comments, CDATA sections and processing instructions, and all text except white space that only
- * indents child elements. Read are UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252. Refused
- * are what is not well-formed, whatever declares or needs entities of its own, and what exceeds
- * limits().
+ * indents child elements. Read is XML 1.0, in UTF-8, UTF-16, US-ASCII, ISO-8859-1, ISO-8859-15 and
+ * windows-1250 to windows-1258, also under names such as "utf8", "latin1" or "cp1252"; what
+ * declares no encoding is UTF-8 or UTF-16. Refused are what is not well-formed, whatever declares
+ * or needs entities of its own, and what exceeds limits().
  *
  * Saving writes UTF-8, the same bytes for the same document in every process: one element a line,
  * indented by one space per level, attributes in the order of their names (by UTF-16 units). A text
@@ -47,9 +48,10 @@ public:
     virtual ~CXmlAbstractVornFile();
 
     /**
-     * Reads the regular file @p path. Its root must be named @p documentType. When its version is
-     * not @p requiredVersion, handleVersionError() decides: if that accepts the document, it is
-     * from then on a document of the required version, and is saved as one.
+     * Reads the regular file @p path, or one of Qt's resources. Its root must be named @p
+     * documentType. When its version is not @p requiredVersion, handleVersionError() decides: if
+     * that accepts the document, it is from then on a document of the required version, and is
+     * saved as one.
      *
      * @param errorText on failure "file:line:column: reason", without line and column where the
      *                  failure has no place in the file

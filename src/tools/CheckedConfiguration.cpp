@@ -12,7 +12,7 @@ const QString ProjectOption = QStringLiteral("project");
 bool open(const QString &path, CDeviceConfigurationFile10 &file, CConfigurationCheck &check,
           bool &isChecked)
 {
-    if (!isStandardStream(path)) {
+    if (!isReadOnce(path)) {
         if (!file.open(path)) {
             return false;
         }

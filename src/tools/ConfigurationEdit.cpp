@@ -13,7 +13,7 @@ int editConfiguration(const CommandLine &line,
             Texts::tr("--json cannot be combined with the document on standard output."));
     }
     CDeviceConfigurationFile10 file(nullptr);
-    if (!openConfiguration(path, file)) {
+    if (!openConfiguration(path, file, EAccess::CHANGE)) {
         return EXIT_UNREADABLE_INPUT;
     }
     CConfigurationItems items(file);

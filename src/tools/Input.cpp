@@ -6,6 +6,38 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
+
+namespace {
+
+bool isDevice(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0
+        && (S_ISFIFO(status.st_mode) || S_ISCHR(status.st_mode));
+}
+
+bool fail(const QFile &input, QString &reason)
+{
+    reason = input.errorString();
+    return false;
+}
+
+/** Reads to the end, or as far as shows that there is too much. */
+bool readAll(QFile &input, qint64 maximumSize, QByteArray &content, QString &reason)
+{
+    content = input.read(maximumSize + 1);
+    const bool isTooLarge = content.size() > maximumSize;
+    if (!isTooLarge && input.error() == QFileDevice::NoError) {
+        return true;
+    }
+    content.clear();
+    reason = isTooLarge ? FileStorage::tooLarge(maximumSize) : input.errorString();
+    return false;
+}
+
+} // namespace
+
 bool isStandardStream(const QString &path)
 {
     return path == QLatin1String("-");
@@ -16,31 +48,39 @@ QString shownName(const QString &path)
     return isStandardStream(path) ? Texts::tr("standard input") : path;
 }
 
-bool readInput(const QString &path, QByteArray &content, QString &reason)
+bool isReadOnce(const QString &path)
+{
+    return isStandardStream(path) || isDevice(path);
+}
+
+bool readFile(const QString &path, EAccess access, qint64 maximumSize, QByteArray &content,
+              QString &reason)
+{
+    if (access == EAccess::READ && isDevice(path)) {
+        QFile input(path);
+        return input.open(QIODevice::ReadOnly) ? readAll(input, maximumSize, content, reason)
+                                               : fail(input, reason);
+    }
+    const FileStorage::SResult result = FileStorage::read(path, content, maximumSize);
+    reason = result.reason;
+    return static_cast<bool>(result);
+}
+
+bool readInput(const QString &path, QByteArray &content, QString &reason, EAccess access)
 {
     const qint64 largest = SXmlLimits().fileSize;
     if (!isStandardStream(path)) {
-        const FileStorage::SResult result = FileStorage::read(path, content, largest);
-        reason = result.reason;
-        return static_cast<bool>(result);
+        return readFile(path, access, largest, content, reason);
     }
     QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly)) {
-        reason = input.errorString();
-        return false;
-    }
-    content = input.read(largest + 1);
-    if (content.size() > largest) {
-        content.clear();
-        reason = FileStorage::tooLarge(largest);
-        return false;
-    }
-    return true;
+    return input.open(stdin, QIODevice::ReadOnly) ? readAll(input, largest, content, reason)
+                                                  : fail(input, reason);
 }
 
-bool openConfiguration(const QString &path, CDeviceConfigurationFile10 &file)
+bool openConfiguration(const QString &path, CDeviceConfigurationFile10 &file, EAccess access)
 {
-    if (!isStandardStream(path)) {
+    const bool isBuffered = isStandardStream(path) || (access == EAccess::READ && isReadOnce(path));
+    if (!isBuffered) {
         return file.open(path);
     }
     QByteArray content;
@@ -67,9 +107,10 @@ int saveConfiguration(const QString &path, CDeviceConfigurationFile10 &file)
     return out.finish();
 }
 
-bool readDevice(const QString &path, CDeviceConfigurationFile10 &file, CDeviceElement &device)
+bool readDevice(const QString &path, CDeviceConfigurationFile10 &file, CDeviceElement &device,
+                EAccess access)
 {
-    if (!openConfiguration(path, file)) {
+    if (!openConfiguration(path, file, access)) {
         return false;
     }
     if (!file.configuration(device)) {

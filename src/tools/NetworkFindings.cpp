@@ -1,17 +1,18 @@
 #include "tools/NetworkFindings.h"
 
-#include <QFile>
+#include "storage/MemoryResource.h"
 
-bool readFindings(const QString &path, CNetworkSettingsFile &settings,
-                  QList<CNetworkSettingsCheck::SFinding> &findings)
+bool readNetworkSettings(const QString &path, EAccess access, CNetworkSettingsFile &settings,
+                         QByteArray &content, QString &reason)
 {
-    // First as settings: that refuses endless or oversized input, and reports why.
-    QFile file(path);
-    if (settings.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS || !file.open(QIODevice::ReadOnly)) {
+    if (!readFile(path, access, CNetworkSettingsFile::MaximumSize, content, reason)) {
         return false;
     }
-    findings = CNetworkSettingsCheck::check(file.readAll());
-    return true;
+    // They are read from a name only; a pipe cannot be read again under its own.
+    const MemoryResource resource(content);
+    const bool isRead = settings.open(resource.name()) == NvrnGlobal::FILE_RESULT_SUCCESS;
+    reason = settings.errorText();
+    return isRead;
 }
 
 QString toText(const QString &path, const CNetworkSettingsCheck::SFinding &finding)

@@ -2,14 +2,14 @@
 
 #include "settings/CNetworkSettingsCheck.h"
 #include "settings/CNetworkSettingsFile.h"
+#include "tools/Input.h"
 
 /**
- * Reads the file @p path into @p settings and checks it.
- * @return false when it cannot be read; nothing has been printed, and the settings contain the
- * reason
+ * Reads the file @p path into @p settings, which do not remember its name, and @p content.
+ * @return false when it cannot be read; nothing has been printed, and @p reason says why
  */
-bool readFindings(const QString &path, CNetworkSettingsFile &settings,
-                  QList<CNetworkSettingsCheck::SFinding> &findings);
+bool readNetworkSettings(const QString &path, EAccess access, CNetworkSettingsFile &settings,
+                         QByteArray &content, QString &reason);
 
 /** "path:line: key: message", without what the finding does not have. */
 QString toText(const QString &path, const CNetworkSettingsCheck::SFinding &finding);

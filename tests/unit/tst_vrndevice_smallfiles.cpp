@@ -12,8 +12,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/stat.h>
-
 using Tool::SResult;
 
 namespace {
@@ -42,8 +40,6 @@ private slots:
     void usage();
     void unreadableInput_data();
     void unreadableInput();
-    void pipeInPlaceOfAFile_data();
-    void pipeInPlaceOfAFile();
 
     void settingsShow();
     void settingsSet();
@@ -169,27 +165,6 @@ void tst_vrndevice_smallfiles::unreadableInput()
     QVERIFY2(result.errors.startsWith(u"vrndevice: error: "_s), qPrintable(result.errors));
     QVERIFY2(result.errors.contains(errors), qPrintable(result.errors));
     QCOMPARE(Files::names(m_directory->path()).size(), Names.size());
-}
-
-void tst_vrndevice_smallfiles::pipeInPlaceOfAFile_data()
-{
-    QTest::addColumn<QString>("arguments");
-
-    for (const QString &arguments :
-         {u"settings show pipe"_s, u"settings set pipe --name N"_s, u"network show pipe"_s,
-          u"network set pipe MODE=DHCP"_s, u"network check pipe"_s, u"os-release show pipe"_s}) {
-        QTest::newRow(qPrintable(arguments)) << arguments;
-    }
-}
-
-void tst_vrndevice_smallfiles::pipeInPlaceOfAFile()
-{
-    // Nobody writes into it: whoever waits for content waits for ever.
-    QFETCH(QString, arguments);
-    QCOMPARE(mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
-    const SResult result = run(arguments);
-    QCOMPARE(result.exitCode, 3);
-    QVERIFY2(result.errors.contains(u"not a regular file"_s), qPrintable(result.errors));
 }
 
 void tst_vrndevice_smallfiles::settingsShow()

@@ -1,6 +1,7 @@
 #include "imported/xml/CExpatXmlReader.h"
 
 #include "imported/xml/StringCache.h"
+#include "imported/xml/XmlEncodings.h"
 #include "imported/xml/XmlText.h"
 #include "storage/XmlCharacters.h"
 
@@ -21,29 +22,6 @@
 namespace {
 
 using Parser = std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)>;
-
-/** What expat does not know itself: the upper half of windows-1252 below the part of ISO-8859-1. */
-const int Windows1252[] = {
-    0x20AC, -1,     0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, -1,     0x017D, -1,     -1,     0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, -1,     0x017E, 0x0178,
-};
-const int Windows1252First = 0x80;
-
-int fillEncoding(void *, const XML_Char *name, XML_Encoding *encoding)
-{
-    if (qstricmp(name, "windows-1252") != 0) {
-        return XML_STATUS_ERROR;
-    }
-    for (int i = 0; i < 256; ++i) {
-        encoding->map[i] = i;
-    }
-    std::copy(std::begin(Windows1252), std::end(Windows1252), encoding->map + Windows1252First);
-    encoding->data = nullptr;
-    encoding->convert = nullptr;
-    encoding->release = nullptr;
-    return XML_STATUS_OK;
-}
 
 enum class Utf16 { No, LittleEndian, BigEndian };
 
@@ -153,16 +131,14 @@ public:
     bool build(const QByteArray &bytes, QDomDocument &document, SXmlError &error)
     {
         document = QDomDocument();
-        const Utf16 order = utf16Of(bytes);
+        m_order = utf16Of(bytes);
+        m_isMarkedUtf8 = bytes.startsWith("\xEF\xBB\xBF");
         bool complete = true;
-        if (order != Utf16::No) {
-            m_markedEncoding = "utf-16";
-            m_bytes = fromUtf16(bytes, order, complete);
-        } else {
-            m_markedEncoding = bytes.startsWith("\xEF\xBB\xBF") ? "utf-8" : "";
-            m_bytes = bytes;
-        }
-        if (!parse(complete)) {
+        m_bytes = m_order == Utf16::No ? bytes : fromUtf16(bytes, m_order, complete);
+        // That it is UTF-8 under another name is known only when its declaration has been read.
+        const bool isParsed = parse(m_order == Utf16::No ? nullptr : "UTF-8", complete)
+            || (m_isOtherName && parse("UTF-8", complete));
+        if (!isParsed) {
             if (!m_isRefused) {
                 refuse(errorText());
             }
@@ -178,13 +154,15 @@ public:
     }
 
 private:
-    bool parse(bool isComplete)
+    /** @param encoding whatever the document declares; null for what it declares */
+    bool parse(const char *encoding, bool isComplete)
     {
-        m_parser.reset(XML_ParserCreate(m_markedEncoding == "utf-16" ? "UTF-8" : nullptr));
+        m_isOtherName = false;
+        m_parser.reset(XML_ParserCreate(encoding));
         Q_CHECK_PTR(m_parser.get());
         XML_Parser parser = m_parser.get();
         XML_SetUserData(parser, this);
-        XML_SetUnknownEncodingHandler(parser, fillEncoding, nullptr);
+        XML_SetUnknownEncodingHandler(parser, &Builder::takeEncoding, this);
         XML_SetXmlDeclHandler(parser, &on<&Builder::takeDeclaration>);
         XML_SetStartDoctypeDeclHandler(parser, &on<&Builder::takeDocumentType>);
         XML_SetElementHandler(parser, &on<&Builder::startElement>, &on<&Builder::endElement>);
@@ -197,6 +175,34 @@ private:
         const XML_Status status = XML_Parse(parser, m_bytes.constData(), m_bytes.size(),
                                             isComplete ? XML_TRUE : XML_FALSE);
         return status == XML_STATUS_OK && !m_isRefused;
+    }
+
+    /** Has expat read an encoding that it does not know, at least not by this name. */
+    static int takeEncoding(void *builder, const XML_Char *name, XML_Encoding *encoding)
+    {
+        auto *self = static_cast<Builder *>(builder);
+        try {
+            return self->fill(*encoding, XmlEncodings::find(name)) ? XML_STATUS_OK
+                                                                   : XML_STATUS_ERROR;
+        } catch (const std::bad_alloc &) {
+            self->refuse(XmlText::outOfMemory());
+            return XML_STATUS_ERROR;
+        }
+    }
+
+    bool fill(XML_Encoding &target, const XmlEncodings::SEncoding *encoding)
+    {
+        m_isOtherName =
+            !m_isRefused && encoding != nullptr && encoding->kind == XmlEncodings::UTF_8;
+        if (encoding == nullptr || encoding->kind != XmlEncodings::SINGLE_BYTE) {
+            return false;
+        }
+        const XmlEncodings::Characters characters = XmlEncodings::characters(*encoding);
+        std::copy(characters.begin(), characters.end(), target.map);
+        target.data = nullptr;
+        target.convert = nullptr;
+        target.release = nullptr;
+        return true;
     }
 
     /** Nothing may be thrown through expat, and nothing is to come after a refusal. */
@@ -245,6 +251,10 @@ private:
                 ? tr("The document contains no element.")
                 : tr("The document ends before the element '%1' is closed.").arg(currentName());
         case XML_ERROR_INVALID_TOKEN:
+            if (!isCharacterHere()) {
+                return wrongEncoding();
+            }
+            Q_FALLTHROUGH();
         case XML_ERROR_SYNTAX:
             return tr("This character is not allowed here.");
         case XML_ERROR_UNCLOSED_TOKEN:
@@ -268,7 +278,7 @@ private:
         case XML_ERROR_UNKNOWN_ENCODING:
             return tr("The encoding is unknown.");
         case XML_ERROR_INCORRECT_ENCODING:
-            return tr("The document is not in the encoding that it declares.");
+            return wrongEncoding();
         case XML_ERROR_XML_DECL:
             return tr("The XML declaration is malformed.");
         case XML_ERROR_NO_MEMORY:
@@ -282,10 +292,56 @@ private:
     {
         if (version != nullptr && qstrcmp(version, "1.0") != 0) {
             refuse(tr("The XML version '%1' is unknown.").arg(QString::fromUtf8(version)));
-        } else if (encoding != nullptr
-                   && !QByteArray(encoding).toLower().startsWith(m_markedEncoding)) {
-            refuse(tr("The document is not in the encoding that it declares."));
+            return;
         }
+        m_isDeclared = encoding != nullptr;
+        m_encoding = m_isDeclared ? XmlEncodings::find(encoding) : nullptr;
+        if (m_isDeclared && !isPossibleEncoding()) {
+            refuse(wrongEncoding());
+        }
+    }
+
+    /** Whether the document may be what it declares, as far as its first bytes tell. */
+    bool isPossibleEncoding() const
+    {
+        using namespace XmlEncodings;
+        const bool isWide = m_order != Utf16::No;
+        if (m_encoding == nullptr) {
+            return !isWide && !m_isMarkedUtf8;
+        }
+        switch (m_encoding->kind) {
+        case UTF_8:
+            return !isWide;
+        case UTF_16:
+            return isWide;
+        case UTF_16_LE:
+            return m_order == Utf16::LittleEndian;
+        case UTF_16_BE:
+            return m_order == Utf16::BigEndian;
+        case SINGLE_BYTE:
+            return !isWide && !m_isMarkedUtf8;
+        }
+        return false;
+    }
+
+    /** Whether the bytes that cannot be read are a character in the encoding of the document. */
+    bool isCharacterHere() const
+    {
+        const auto at = static_cast<int>(XML_GetCurrentByteIndex(m_parser.get()));
+        if (at < 0 || at >= m_bytes.size()) {
+            return true;
+        }
+        if (m_encoding == nullptr || m_encoding->kind != XmlEncodings::SINGLE_BYTE) {
+            return XmlEncodings::beginsWithUtf8(m_bytes.mid(at, 4));
+        }
+        return XmlEncodings::characters(*m_encoding)[static_cast<uchar>(m_bytes.at(at))] >= 0;
+    }
+
+    QString wrongEncoding() const
+    {
+        return m_isDeclared
+            ? tr("The document is not in the encoding that it declares.")
+            : tr("This is not valid UTF-8 text, and the document declares no other encoding.");
     }
 
     void takeDocumentType(const XML_Char *name, const XML_Char *systemId, const XML_Char *publicId,
@@ -525,7 +581,11 @@ private:
     CXmlPositions *const m_positions;
     Parser m_parser;
     QByteArray m_bytes;
-    QByteArray m_markedEncoding; // how its first bytes say that it is encoded; empty if they do not
+    Utf16 m_order = Utf16::No; // of the document as it came; it is parsed as UTF-8
+    bool m_isMarkedUtf8 = false;
+    bool m_isDeclared = false;
+    const XmlEncodings::SEncoding *m_encoding = nullptr; // that is declared, if it is known
+    bool m_isOtherName = false; // of UTF-8, which expat does not know
     bool m_hasExternalSubset = false;
     bool m_isRefused = false;
     SXmlError m_error;

@@ -4,9 +4,9 @@
 
 /**
  * Builds the DOM tree from the events of expat, which checks that the document is well-formed. Read
- * are UTF-8, UTF-16 with or without byte-order mark, ISO-8859-1, US-ASCII and windows-1252. A
- * document type declaration may name an external subset, which is never read; one with an internal
- * subset is refused.
+ * are UTF-8 and UTF-16, with or without byte-order mark, and the other XmlEncodings. A document
+ * type declaration may name an external subset, which is never read; one with an internal subset is
+ * refused.
  */
 class CExpatXmlReader : public IXmlReader
 {

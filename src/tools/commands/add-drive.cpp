@@ -62,7 +62,7 @@ int run(const CommandLine &line)
     const QString path = line.argument(0);
     CDeviceConfigurationFile10 file(nullptr);
     CDeviceElement device;
-    if (!readDevice(path, file, device)) {
+    if (!readDevice(path, file, device, EAccess::CHANGE)) {
         return EXIT_UNREADABLE_INPUT;
     }
     const int number = line.isSet(IdOption) ? static_cast<int>(id) : freeNumber(device);

@@ -73,7 +73,8 @@ int run(const CommandLine &line)
     }
     CConfigurationPatch patch;
     CDeviceConfigurationFile10 file(nullptr);
-    if (!readPatch(line.argument(0), patch) || !openConfiguration(path, file)) {
+    const EAccess access = isCheck || output != path ? EAccess::READ : EAccess::CHANGE;
+    if (!readPatch(line.argument(0), patch) || !openConfiguration(path, file, access)) {
         return EXIT_UNREADABLE_INPUT;
     }
     QStringList mismatches;

@@ -81,7 +81,7 @@ void print(const QString &path, const SConfigurationFinding &finding, bool wants
 QString checkInput(const QString &path, CConfigurationCheck &check)
 {
     const MessageSilence silence;
-    if (!isStandardStream(path)) {
+    if (!isReadOnce(path)) {
         return check.open(path) ? QString() : check.errorText();
     }
     QByteArray content;

@@ -38,13 +38,14 @@ EState format(const QString &path, bool isCheck)
 {
     QByteArray present;
     QString reason;
-    if (!readInput(path, present, reason)) {
+    if (!readInput(path, present, reason, isCheck ? EAccess::READ : EAccess::CHANGE)) {
         reportUnreadable(path, reason);
         return EState::UNREADABLE;
     }
     CDeviceConfigurationFile10 file(nullptr);
-    // Standard input has been read; a file is opened by its name, which then stands in messages.
-    if (!(isStandardStream(path) ? file.load(present) : file.open(path))) {
+    // What cannot be read again has been; a file is opened by its name, which then stands in
+    // messages.
+    if (!(isReadOnce(path) ? file.load(present) : file.open(path))) {
         return EState::UNREADABLE;
     }
     QByteArray canonical;

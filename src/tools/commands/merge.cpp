@@ -92,7 +92,8 @@ int run(const CommandLine &line)
     CDeviceConfigurationFile10 base(nullptr);
     CDeviceConfigurationFile10 ours(nullptr);
     CDeviceConfigurationFile10 theirs(nullptr);
-    if (!openConfiguration(paths.at(0), base) || !openConfiguration(oursPath, ours)
+    const EAccess access = output == oursPath ? EAccess::CHANGE : EAccess::READ;
+    if (!openConfiguration(paths.at(0), base) || !openConfiguration(oursPath, ours, access)
         || !openConfiguration(paths.at(2), theirs)) {
         return EXIT_UNREADABLE_INPUT;
     }

@@ -1,5 +1,4 @@
 #include "tools/Command.h"
-#include "tools/Input.h"
 #include "tools/NetworkFindings.h"
 #include "tools/Output.h"
 
@@ -17,11 +16,13 @@ void describe(CommandLine &line)
 int run(const CommandLine &line)
 {
     const QString path = line.argument(0);
-    QList<CNetworkSettingsCheck::SFinding> findings;
     CNetworkSettingsFile file;
-    if (!readFindings(path, file, findings)) {
-        return reportUnreadable(path, file.errorText());
+    QByteArray content;
+    QString reason;
+    if (!readNetworkSettings(path, EAccess::READ, file, content, reason)) {
+        return reportUnreadable(path, reason);
     }
+    const QList<CNetworkSettingsCheck::SFinding> findings = CNetworkSettingsCheck::check(content);
     Output out;
     if (line.wantsJson()) {
         QJsonArray array;

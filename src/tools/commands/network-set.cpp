@@ -84,11 +84,12 @@ int run(const CommandLine &line)
     const QString path = line.argument(0);
     CNetworkSettingsFile file;
     if (!line.isSet(CreateOption) || QFileInfo::exists(path)) {
-        QList<Check::SFinding> findings;
-        if (!readFindings(path, file, findings)) {
-            return reportUnreadable(path, file.errorText());
+        QByteArray content;
+        QString reason;
+        if (!readNetworkSettings(path, EAccess::CHANGE, file, content, reason)) {
+            return reportUnreadable(path, reason);
         }
-        if (reportLosses(path, findings)) {
+        if (reportLosses(path, Check::check(content))) {
             return EXIT_NOT_DONE;
         }
     }

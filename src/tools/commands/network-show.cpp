@@ -1,5 +1,5 @@
 #include "tools/Command.h"
-#include "tools/Input.h"
+#include "tools/NetworkFindings.h"
 #include "tools/SmallFiles.h"
 
 namespace {
@@ -15,8 +15,10 @@ int run(const CommandLine &line)
 {
     const QString path = line.argument(0);
     CNetworkSettingsFile file;
-    if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return reportUnreadable(path, file.errorText());
+    QByteArray content;
+    QString reason;
+    if (!readNetworkSettings(path, EAccess::READ, file, content, reason)) {
+        return reportUnreadable(path, reason);
     }
     return printContent(file, line.wantsJson());
 }

@@ -36,10 +36,12 @@ void describe(CommandLine &line)
 int run(const CommandLine &line)
 {
     const QString path = line.argument(0);
-    CDeviceOSReleaseFile file;
-    if (file.open(path) != NvrnGlobal::FILE_RESULT_SUCCESS) {
-        return reportUnreadable(path, file.errorText());
+    QByteArray content;
+    QString reason;
+    if (!readFile(path, EAccess::READ, CDeviceOSReleaseFile::MaximumSize, content, reason)) {
+        return reportUnreadable(path, reason);
     }
+    const CDeviceOSReleaseFile file(content, nullptr);
     QJsonObject object = {{QStringLiteral("valid"), file.isValid()}};
     QList<QStringList> rows;
     for (const SItem &item : items()) {

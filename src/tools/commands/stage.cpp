@@ -50,7 +50,7 @@ bool readDocument(const QString &path, CStagingPlan::SDocument &document, CDevic
         reportUnreadable(path, reason);
         return false;
     }
-    document.path = isStandardStream(path) ? QString() : path;
+    document.path = isReadOnce(path) ? QString() : path;
     CDeviceConfigurationFile10 file(nullptr);
     if (!file.load(document.content)) {
         reportUnreadable(path, Texts::tr("This is not a configuration."));
