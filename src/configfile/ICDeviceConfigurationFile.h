@@ -94,9 +94,9 @@ public:
      *
      * Object dictionary and fault texts must have their project path below the device's own
      * directory, which is its name followed by "/"; another path is removed with a warning (but
-     * not when it is empty, or when the device has no name). A sub-device without a usable drive
-     * number (255 is none), or with one that is taken, gets the next free one up to 254, with a
-     * warning; when none is free it is left out, with a warning.
+     * not when it is empty, or when the device has no name). A sub-device without a drive number
+     * from 0 to 254, or with one that is taken, gets the next free one, with a warning; when all
+     * are taken it is left out, with a warning.
      * @return false when the document has no device; @p device is null then
      */
     virtual bool configuration(CDeviceElement &device) const = 0;

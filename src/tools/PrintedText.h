@@ -21,7 +21,7 @@ public:
     template <size_t Size>
     PrintedText &operator<<(const char (&own)[Size])
     {
-        m_stream << QLatin1String(own);
+        m_stream << QString::fromUtf8(own);
         return *this;
     }
     PrintedText &operator<<(char own);

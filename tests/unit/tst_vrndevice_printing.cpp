@@ -14,6 +14,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 using Tool::SResult;
@@ -344,17 +347,16 @@ void tst_vrndevice_printing::nothingCommandsTheTerminal()
 /** A new command needs rows of its own. */
 void tst_vrndevice_printing::everyCommandIsTested()
 {
-    QStringList tested;
-    for (const SRow &row : Rows) {
-        tested.append(QString::fromLatin1(row.line).section(u' ', 0, 0));
-    }
     const QString help = run({u"--help"_s}).output;
-    static const QRegularExpression command(u"^  ([a-z][a-z-]*) "_s,
+    static const QRegularExpression command(u"^  ([a-z][a-z-]*(?: [a-z]+)?)  "_s,
                                             QRegularExpression::MultilineOption);
     int count = 0;
     for (auto found = command.globalMatch(help); found.hasNext(); ++count) {
         const QString name = found.next().captured(1);
-        QVERIFY2(tested.contains(name), qPrintable(name));
+        const bool isTested = std::any_of(std::begin(Rows), std::end(Rows), [&](const SRow &row) {
+            return (QString::fromLatin1(row.line) + u' ').startsWith(name + u' ');
+        });
+        QVERIFY2(isTested, qPrintable(name));
     }
     QVERIFY(count > 20);
 }
