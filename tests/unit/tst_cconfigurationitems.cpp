@@ -486,7 +486,7 @@ void tst_cconfigurationitems::entriesOfOneKeyAreCounted()
 void tst_cconfigurationitems::drivesAreKnownByTheirNumbers()
 {
     QByteArray drives;
-    for (const char *number : {"7", "007", " 8 ", "255", "0256", "-1", "left", ""}) {
+    for (const char *number : {"7", "007", " 8 ", "255", "0256", "0300", "-1", "left", ""}) {
         drives +=
             QByteArray("<SubDevice><Name>n</Name><DriveNo>") + number + "</DriveNo></SubDevice>";
     }
@@ -494,8 +494,8 @@ void tst_cconfigurationitems::drivesAreKnownByTheirNumbers()
         documentOf("<Device>" + drives + "<SubDevice><Name>n</Name></SubDevice></Device>"));
     QCOMPARE(opened.items.entries(),
              QStringList({u"drive[7]"_s, u"drive[7][2]"_s, u"drive[8]"_s, u"drive[255]"_s,
-                          u"drive[0256]"_s, u"drive[-1]"_s, u"drive[left]"_s, u"drive[]"_s,
-                          u"drive[][2]"_s}));
+                          u"drive[0256]"_s, u"drive[0300]"_s, u"drive[-1]"_s, u"drive[left]"_s,
+                          u"drive[]"_s, u"drive[][2]"_s}));
     for (const QString &path : opened.items.entries()) {
         QCOMPARE(opened.value(path + u".name"_s), u"n"_s);
     }

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void merge();
     void restOfOursStays();
     void whatCannotBeStoredIsAConflict();
+    void drivesWithoutValidNumbers();
     void entriesOfOneKey();
     void entriesOfOneKeyAddedByBoth();
     void conflictHasItsParts();
@@ -308,6 +309,23 @@ void tst_cconfigurationmerge::whatCannotBeStoredIsAConflict()
         QStringList(
             {u"files[recipes.csv][2]: the change of theirs cannot be stored"_s,
              u"    files[recipes.csv][2]: a second entry with the same key cannot be added"_s}));
+    QStringList mismatches;
+    QVERIFY(merge.patch().apply(*ours, mismatches));
+}
+
+void tst_cconfigurationmerge::drivesWithoutValidNumbers()
+{
+    const QByteArray start =
+        changed(example(), {"<DriveNo>1<|<DriveNo>left<", "<DriveNo>2<|<DriveNo>0300<"});
+    const File base = load(start);
+    const File ours = load(changed(start, {">Infeed<|>B<"}));
+    const File theirs =
+        load(changed(start, {">Gluer<|>A<", newDrive("C").replace("<DriveNo>3", "<DriveNo>x")}));
+    QVERIFY(base && ours && theirs);
+    const CConfigurationMerge merge(*base, *ours, *theirs);
+    QCOMPARE(merge.patch().describe(), QStringList{u"drive 0300: name Gluer -> A"_s});
+    QCOMPARE(described(merge.conflicts()).value(0),
+             u"drive[x]: the change of theirs cannot be stored"_s);
     QStringList mismatches;
     QVERIFY(merge.patch().apply(*ours, mismatches));
 }

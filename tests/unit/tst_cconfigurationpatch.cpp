@@ -421,6 +421,14 @@ void tst_cconfigurationpatch::apply_data()
     row("drive added", added(u"drive[3]"_s, {{u"busId"_s, u"9"_s}, {u"type"_s, u"KD3_drive"_s}}),
         "</SubDevice>\n </Device>|</SubDevice>\n  <SubDevice type=\"KD3_drive\">\n"
         "   <Comment/>\n   <DriveNo>3</DriveNo>\n   <BusId>9</BusId>\n  </SubDevice>\n </Device>");
+    row("KD2 drive added, its type comes last",
+        added(
+            u"drive[3]"_s,
+            {{u"busId"_s, u"9"_s}, {u"kd2Logic.name"_s, u"l.bit"_s}, {u"type"_s, u"KD2_drive"_s}}),
+        "</SubDevice>\n </Device>|</SubDevice>\n  <SubDevice type=\"KD2_drive\">\n"
+        "   <Comment/>\n   <DriveNo>3</DriveNo>\n   <BusId>9</BusId>\n   <KD2Logic>\n"
+        "    <File>\n     <Name>l.bit</Name>\n     <Comment/>\n     <DeviceDir/>\n"
+        "     <ProjectDir/>\n    </File>\n   </KD2Logic>\n  </SubDevice>\n </Device>");
     row("value in another spelling",
         set(u"files[recipes.csv].deviceDir"_s, u"velkor\\configurations/STD/conf"_s, u"x\\y"_s),
         "<DeviceDir>/velkor/configurations/STD/conf/</DeviceDir>\n     "

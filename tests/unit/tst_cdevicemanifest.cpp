@@ -119,6 +119,16 @@ private slots:
         QCOMPARE(manifest.toJson(), json);
     }
 
+    void namesMayBeginAlike()
+    {
+        const QByteArray json = manifestOf(
+            R"("a","a-b","a.xml.d")", file("a.xml") + ',' + file("a.xml.bak") + ',' + file("a/b"));
+        CDeviceManifest manifest;
+        QString error;
+        QVERIFY2(manifest.readJson(json, error), qPrintable(error));
+        QCOMPARE(manifest.entries().size(), 3);
+    }
+
     void whiteSpaceIsFree_data()
     {
         QTest::addColumn<QByteArray>("json");

@@ -270,6 +270,14 @@ private slots:
         };
         row("nothing", tail({a, b}), {});
         row("manifest at the end", archiveOf({a, regular("manifest.json", manifest)}), {});
+        const QByteArray alike = manifestOf(
+            {{u"a-b"_s, QString(), 1, sumOf("1")}, {u"a/c"_s, QString(), 1, sumOf("2")}});
+        row("directory that its files alone tell, beside a name that begins alike",
+            archiveOf({regular("manifest.json", alike),
+                       regular("a-b", "1"),
+                       {"a/", {}, S_IFDIR, {}, -1},
+                       regular("a/c", "2")}),
+            {});
         row("changed", tail({regular("a", "content A"), b}), {u"changed a"_s});
         row("another size", tail({a, regular("b", "content")}), {u"changed b"_s});
         row("swapped", tail({regular("b", "content a"), regular("a", "content b")}),

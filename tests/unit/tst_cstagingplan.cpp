@@ -358,6 +358,7 @@ private slots:
         QTest::newRow("in another case") << u"/Velkor/"_s << u"device-path-outside"_s;
         QTest::newRow("up") << u"/velkor/../etc/"_s << u"device-path-climbs"_s;
         QTest::newRow("up and down") << u"/velkor/a/../b"_s << u"device-path-climbs"_s;
+        QTest::newRow("dots in a name") << u"/velkor/v1..2/..a/b../..."_s << QString();
         QTest::newRow("dot") << u"/velkor/./a"_s << QString();
         QTest::newRow("too long") << u"/velkor/"_s + QString(256, u'a') << u"device-path-outside"_s;
     }

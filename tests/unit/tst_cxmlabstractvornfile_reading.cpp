@@ -296,6 +296,11 @@ void tst_cxmlabstractvornfile_reading::normalised_data()
         << document(" <A  a = \"1\" ></A >\n") << document(" <A a=\"1\"/>\n");
     QTest::newRow("character references")
         << document(" <A>&#65;&#x42;</A>\n") << document(" <A>AB</A>\n");
+    const QByteArray external = "<!DOCTYPE VornDeviceConfig SYSTEM \"a.dtd\">\n";
+    QTest::newRow("entities of XML in an attribute with an external document type") << external
+            + document(" <A a=\"&lt;&gt;&amp;&quot;&apos;&#65;\"/>\n").mid(Declaration.size())
+                                                                                    << Declaration
+            + external + document(" <A a=\"&lt;&gt;&amp;&#34;'A\"/>\n").mid(Declaration.size());
     QTest::newRow("Windows line ends")
         << document(" <A>a\r\nb</A>\r\n") << document(" <A>a\nb</A>\n");
     QTest::newRow("line breaks in attributes are blanks")

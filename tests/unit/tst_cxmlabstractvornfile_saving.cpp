@@ -33,6 +33,7 @@ private slots:
     void limitsOfSaving_data();
     void limitsOfSaving();
 
+    void sectionsAreCountedAsTheyAreSplit();
     void saveTwice();
     void saveAfterChange_data();
     void saveAfterChange();
@@ -280,6 +281,31 @@ void tst_cxmlabstractvornfile_saving::limitsOfSaving()
         QCOMPARE(catcher.criticals(), QStringList{error});
         QCOMPARE(buffer, QByteArray("as it was"));
     }
+}
+
+void tst_cxmlabstractvornfile_saving::sectionsAreCountedAsTheyAreSplit()
+{
+    TestFile file;
+    QVERIFY(file.openBytes(document(" <Device/>\n")));
+    file.root().firstChildElement().appendChild(
+        file.domDocument().createCDATASection(text("a]]>b]]>c")));
+    // The root and its attribute, an element and three sections.
+    SXmlLimits limits;
+    limits.nodes = 6;
+    file.setLimits(limits);
+    const QByteArray saved = file.bytes();
+    QCOMPARE(saved.count("<![CDATA["), 3);
+    TestFile reopened;
+    reopened.setLimits(limits);
+    QVERIFY(reopened.openBytes(saved));
+
+    limits.nodes = 5;
+    file.setLimits(limits);
+    const MessageCatcher catcher;
+    QByteArray buffer;
+    QString error;
+    QVERIFY(!file.save(buffer, error));
+    QVERIFY2(error.contains(text("more than 5 nodes")), qPrintable(error));
 }
 
 void tst_cxmlabstractvornfile_saving::saveTwice()

@@ -148,6 +148,18 @@ void tst_hostileinput::encodings_data()
     QTest::newRow("ISO-8859-1 in lower case") << declared("iso-8859-1", "\xE9") << u"\u00e9"_s;
     QTest::newRow("windows-1252") << declared("windows-1252", "\xE9\x80\x84\x9F\xFF")
                                   << u"\u00e9\u20ac\u201e\u0178\u00ff"_s;
+    QTest::newRow("windows-1252, its own part")
+        << declared("windows-1252",
+                    "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E"
+                    "\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F")
+        << u"\u20ac\u201a\u0192\u201e\u2026\u2020\u2021\u02c6\u2030\u0160\u2039\u0152\u017d"
+           "\u2018\u2019\u201c\u201d\u2022\u2013\u2014\u02dc\u2122\u0161\u203a\u0153\u017e\u0178"_s;
+    QByteArray upper;
+    for (int byte = 0xA0; byte <= 0xFF; ++byte) {
+        upper += static_cast<char>(byte);
+    }
+    QTest::newRow("windows-1252, the part of ISO-8859-1")
+        << declared("windows-1252", upper) << QString::fromLatin1(upper);
     QTest::newRow("windows-1252 in capitals") << declared("WINDOWS-1252", "\x80") << u"\u20ac"_s;
     QTest::newRow("US-ASCII") << declared("US-ASCII", "abc") << u"abc"_s;
     QTest::newRow("characters beyond the encoding")

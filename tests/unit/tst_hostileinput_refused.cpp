@@ -301,6 +301,15 @@ void addEncodingRows(const RefusedRows &rows)
         row("surrogate as last character", whole + utf16(high, order));
         row("surrogate declared as name", utf16Document(u"<"_s + low + u"/>"_s, order));
     }
+    rows.add("wide lines of several kinds",
+             []() {
+                 return utf16(QChar(QChar::ByteOrderMark)
+                                  + u"<VornDeviceConfig version=\"1.0\">\r\n"
+                                    u"<Name>\u00e9\U0001F600\r\n\r\n\nab"_s
+                                  + QChar(0xD83D),
+                              ByteOrder::Little);
+             },
+             {5, 3}, {5, 3});
     rows.addUnmarked("byte order of the other kind inside", []() {
         return utf16Document(u"a"_s, ByteOrder::Little) + utf16(u"<!-- -->"_s, ByteOrder::Big);
     });

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void usage();
     void helpOfEveryCommand();
     void newCreatesAConfiguration();
+    void lastOfSeveralOptionsCounts();
     void newKeepsAnExistingFile();
     void newReportsWhatCannotBeWritten();
     void showPrintsATree();
@@ -179,6 +180,21 @@ void tst_vrndevice::newCreatesAConfiguration()
     QCOMPARE(device.name(), QStringLiteral("Hügel"));
     QCOMPARE(device.deviceClass(), NDeviceConf::DEVICE_CLASS_KC2);
     QCOMPARE(file.description().name(), QStringLiteral("Hügel"));
+}
+
+void tst_vrndevice::lastOfSeveralOptionsCounts()
+{
+    const SResult result =
+        run({QStringLiteral("new"), path(), QStringLiteral("--name=First"),
+             QStringLiteral("--class=kc2"), QStringLiteral("--name"), QStringLiteral("Last"),
+             QStringLiteral("--class"), QStringLiteral("kd3")});
+    QCOMPARE(result.exitCode, 0);
+    CDeviceConfigurationFile10 file(nullptr);
+    CDeviceElement device;
+    QVERIFY(file.open(path()));
+    QVERIFY(file.configuration(device));
+    QCOMPARE(device.name(), QStringLiteral("Last"));
+    QCOMPARE(device.deviceClass(), NDeviceConf::DEVICE_CLASS_KD3);
 }
 
 void tst_vrndevice::newKeepsAnExistingFile()

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void diffTellsChanges();
     void diffPrintsAPatch();
     void diffReadsStandardInput();
+    void standardInputIsLimited();
     void applyMakesTheChanges();
     void applyReadsStandardInput_data();
     void applyReadsStandardInput();
@@ -231,6 +232,21 @@ void tst_vrndevice_compare::diffReadsStandardInput()
     QCOMPARE(result.output, u"drive 2: name GRIPPER -> Gluer\n"_s);
 }
 
+void tst_vrndevice_compare::standardInputIsLimited()
+{
+    write(u"a"_s, {});
+    // It takes no space on the disk.
+    QFile large(path(u"large"_s));
+    const qint64 limit = SXmlLimits().fileSize;
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(limit + 1));
+    QProcess process;
+    process.setStandardInputFile(large.fileName());
+    const SResult result = Tool::run(process, m_directory->path(), {u"diff"_s, u"a"_s, u"-"_s});
+    QCOMPARE(result.exitCode, 3);
+    QCOMPARE(result.errors,
+             u"vrndevice: error: standard input: The file is larger than %1 bytes.\n"_s.arg(limit));
+}
+
 void tst_vrndevice_compare::applyMakesTheChanges()
 {
     write(u"a"_s, {});
@@ -332,6 +348,11 @@ void tst_vrndevice_compare::applyTriesOnly()
     QCOMPARE(Files::read(path(u"a"_s)), example());
     result = run({u"apply"_s, u"--check"_s, u"-"_s, u"b"_s}, patch);
     QCOMPARE(result.exitCode, 1);
+    // It prints no configuration, so that one from standard input leaves room for the JSON.
+    QVERIFY(Files::write(path(u"p"_s), patch));
+    result = run({u"apply"_s, u"--check"_s, u"--json"_s, u"p"_s, u"-"_s}, example());
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.json().value(u"applicable"_s).toBool(), true);
 }
 
 void tst_vrndevice_compare::applyThatCannotSave()
