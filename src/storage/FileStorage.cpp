@@ -247,13 +247,21 @@ bool setOwnerAndMode(int fd, const struct stat *before, QFileDevice::Permissions
     return fchmod(fd, mode) == 0;
 }
 
+/** Writing takes the bits for another user or group from a file, unless the super-user writes. */
+bool setIdBitsAgain(int fd, const struct stat *before, QFileDevice::Permissions permissions)
+{
+    const bool hasThem = before != nullptr && (before->st_mode & (S_ISUID | S_ISGID)) != 0;
+    return permissions || !hasThem || fchmod(fd, before->st_mode & ALLPERMS) == 0;
+}
+
 /** Makes the file complete, and only then gives it the name @p name. */
 SResult fill(TemporaryFile &file, const QByteArray &name, const QByteArray &content,
              const struct stat *before, QFileDevice::Permissions permissions)
 {
     const bool replaced = setOwnerAndMode(file.get(), before, permissions)
         && writeAll(file.get(), content.constData(), content.size()) == 0
-        && syncAll(file.get()) == 0 && file.close() == 0 && file.rename(name) == 0;
+        && setIdBitsAgain(file.get(), before, permissions) && syncAll(file.get()) == 0
+        && file.close() == 0 && file.rename(name) == 0;
     if (!replaced) {
         return failure(NOT_FINISHED, errno);
     }

@@ -89,6 +89,8 @@ private slots:
     void linksThatLeadNowhere();
     void modeStays_data();
     void modeStays();
+    void modeOfAnOrdinaryUserStays_data() { modeStays_data(); }
+    void modeOfAnOrdinaryUserStays();
     void modeOfNewFile_data();
     void modeOfNewFile();
     void ownerStays_data() { addSavers(); }
@@ -342,7 +344,7 @@ void tst_replacingfiles::modeStays_data()
     QTest::addColumn<int>("mode");
 
     for (const SSaver &saver : Savers) {
-        for (const int mode : {0600, 0640, 0644, 0666, 0755, 0200}) {
+        for (const int mode : {0600, 0640, 0644, 0666, 0755, 0200, 04755, 02750, 06711}) {
             QTest::addRow("%s, 0%o", saver.name, static_cast<unsigned>(mode)) << saver << mode;
         }
     }
@@ -360,6 +362,23 @@ void tst_replacingfiles::modeStays()
     QCOMPARE(modeOf(path()), mode);
     QVERIFY(setMode(path(), 0600));
     QCOMPARE(Files::read(path()), saver.text());
+}
+
+void tst_replacingfiles::modeOfAnOrdinaryUserStays()
+{
+    QFETCH(SSaver, saver);
+    QFETCH(int, mode);
+
+    QVERIFY(Files::write(path(), "old"));
+    int result = -1;
+    {
+        const OrdinaryUser user(m_directory->path(), {u"file"_s});
+        QVERIFY(user.isOk());
+        QVERIFY(setMode(path(), mode));
+        result = saver.save(path());
+    }
+    QCOMPARE(result, 0);
+    QCOMPARE(modeOf(path()), mode);
 }
 
 void tst_replacingfiles::modeOfNewFile_data()

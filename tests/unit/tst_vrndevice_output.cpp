@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
+#include <algorithm>
 
 using Tool::SResult;
 
