@@ -56,6 +56,13 @@ inline SResult runCommand(QProcess &process, const QString &directory, const QSt
     return result;
 }
 
+inline SResult runCommand(const QString &directory, const QStringList &command,
+                          const QProcessEnvironment &environment = englishEnvironment())
+{
+    QProcess process;
+    return runCommand(process, directory, command, environment);
+}
+
 /** The same for the tool. */
 inline SResult run(QProcess &process, const QString &directory, const QStringList &arguments,
                    const QProcessEnvironment &environment = englishEnvironment())

@@ -46,8 +46,7 @@ inline Tool::SResult run(const QString &directory, const QStringList &arguments)
     }
     command << QStringLiteral("sh") << QStringLiteral("-c")
             << QStringLiteral("mount -t tmpfs none /proc && exec \"$0\" \"$@\"") << Tool::program();
-    QProcess process;
-    return Tool::runCommand(process, directory, command + arguments);
+    return Tool::runCommand(directory, command + arguments);
 }
 
 } // namespace WithoutProc
