@@ -77,9 +77,9 @@ QByteArray collectionOf(const QString &fileName, const QByteArray &content)
 QString newName()
 {
     static std::atomic<quint32> count{0};
+    const auto library = reinterpret_cast<quintptr>(&count);
     return QStringLiteral("vrnDeviceCore-%1-%2")
-        .arg(reinterpret_cast<quintptr>(&count), 0, 16)
-        .arg(++count);
+        .arg(QString::number(library, 16), QString::number(++count));
 }
 
 } // namespace

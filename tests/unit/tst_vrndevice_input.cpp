@@ -88,11 +88,16 @@ private:
     {
         return Tool::run(m_directory->path(), words(arguments));
     }
-    SResult runShell(const QString &line) const
+    /** The locale is the tool's alone: a shell warns of one that is not installed. */
+    SResult runShell(QString line) const
     {
-        return Tool::runCommand(
-            m_directory->path(),
-            {u"bash"_s, u"-c"_s, QString(line).replace(u"TOOL"_s, u"\"$0\""_s), Tool::program()});
+        const QString locale = u"LC_ALL"_s;
+        QProcessEnvironment environment = Tool::englishEnvironment();
+        environment.insert(u"TOOL_LOCALE"_s, environment.value(locale));
+        environment.remove(locale);
+        line.replace(u"TOOL "_s, u"env LC_ALL=\"$TOOL_LOCALE\" \"$0\" "_s);
+        return Tool::runCommand(m_directory->path(), {u"bash"_s, u"-c"_s, line, Tool::program()},
+                                environment);
     }
     QString path(const QString &name) const { return m_directory->filePath(name); }
 
