@@ -33,6 +33,7 @@ private slots:
     void singleFiles();
     void paramFiles();
     void paramFilesAreIdentified();
+    void paramFileWithoutNameIsNotFound();
     void paramFilesRefused();
     void fpgaFiles();
     void setActiveFpgaFile_data();
@@ -325,6 +326,20 @@ void tst_configurationfile10_items::paramFilesAreIdentified()
     QVERIFY(file.containsParamFile(present));
     QVERIFY(file.removeParamFile(present));
     QVERIFY(!file.containsParamFile(present));
+}
+
+void tst_configurationfile10_items::paramFileWithoutNameIsNotFound()
+{
+    CDeviceConfigurationFile10 file(nullptr);
+    QVERIFY(file.load("<VornDeviceConfig version=\"1.0\"><Device><Config><ParameterFiles>"
+                      "<File type=\"VornParameters\"><Comment>c</Comment></File>"
+                      "</ParameterFiles></Config></Device></VornDeviceConfig>"));
+    CParamFileElement nameless;
+    nameless.setType(NvrnGlobal::PARAM_FILE_PARAMETERS);
+    QVERIFY(!file.containsParamFile(nameless));
+    QVERIFY(!file.removeParamFile(nameless));
+    QVERIFY(!file.removeParamFile(QString(), NvrnGlobal::PARAM_FILE_PARAMETERS));
+    QCOMPARE(file.domDocument().elementsByTagName(u"File"_s).size(), 1);
 }
 
 void tst_configurationfile10_items::paramFilesRefused()
