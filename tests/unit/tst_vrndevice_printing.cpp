@@ -221,7 +221,7 @@ void tst_vrndevice_printing::initTestCase()
 {
     const QString name = u"\x1b[2J\n\u009b1m\u202e"_s;
     if (QFile::decodeName(QFile::encodeName(name)) != name) {
-        QSKIP("Names of files do not have these characters in this locale.");
+        QSKIP("Names of files do not have these characters in this locale.", 0);
     }
     for (const QString &word : {u"doc"_s, u"settings"_s, u"network"_s, u"release"_s, u"patch"_s,
                                 u"mismatch"_s, u"missing"_s, u"new"_s, u"tree"_s, u"broken"_s}) {
@@ -380,7 +380,7 @@ void tst_vrndevice_printing::valueOnATerminal()
 {
     const PseudoTerminal terminal;
     if (!terminal.isOpen()) {
-        QSKIP("There are no pseudo-terminals here.");
+        QSKIP("There are no pseudo-terminals here.", 0);
     }
     QProcess process;
     process.setWorkingDirectory(m_directory->path());
