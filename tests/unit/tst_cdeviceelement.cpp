@@ -381,12 +381,11 @@ void tst_cdeviceelement::opcUaOption_data()
                            << QStringList{u"-a"_s};
     QTest::newRow("longer") << QStringList{u"-opcua"_s} << QStringList{u"-opcua"_s, opc}
                             << QStringList{u"-opcua"_s};
-    QTest::newRow("several times")
-        << QStringList{opc, u"-a"_s, opc, opc} << QStringList{opc, u"-a"_s, opc, opc}
-        << QStringList{u"-a"_s};
-    QTest::newRow("with an argument") << QStringList{u"-opc 4840"_s}
-                                      << QStringList{u"-opc 4840"_s, opc}
-                                      << QStringList{u"-opc 4840"_s};
+    QTest::newRow("several times") << QStringList{opc, u"-a"_s, opc, opc}
+                                   << QStringList{opc, u"-a"_s, opc, opc} << QStringList{u"-a"_s};
+    QTest::newRow("with an argument")
+        << QStringList{u"-opc 4840"_s} << QStringList{u"-opc 4840"_s, opc}
+        << QStringList{u"-opc 4840"_s};
     QTest::newRow("behind one with an argument")
         << QStringList{u"-opc 4840"_s, opc} << QStringList{u"-opc 4840"_s, opc}
         << QStringList{u"-opc 4840"_s};

@@ -423,8 +423,8 @@ QString tst_vrndevice_fields::shown(const QStringList &command, const QString &n
     CDeviceConfigurationFile10 file(nullptr);
     file.open(m_directory->filePath(name));
     const CConfigurationOverview overview(file);
-    // The page lets the reader's program wrap a path behind each separator. The drawing repeats some
-    // values, so that it would hide that one is missing in the tables.
+    // The page lets the reader's program wrap a path behind each separator. The drawing repeats
+    // some values, so that it would hide that one is missing in the tables.
     static const QRegularExpression drawing(u"<svg.*?</svg>"_s,
                                             QRegularExpression::DotMatchesEverythingOption);
     return QString::fromUtf8(CConfigurationReport(overview).toHtml())
