@@ -3,12 +3,10 @@
 #include "imported/xml/StringCache.h"
 #include "imported/xml/XmlEncodings.h"
 #include "imported/xml/XmlText.h"
-#include "storage/XmlCharacters.h"
 
 #include <QCoreApplication>
 #include <QDomImplementation>
 
-#include <QtEndian>
 #include <QVarLengthArray>
 
 #include <expat.h>
@@ -22,35 +20,7 @@
 namespace {
 
 using Parser = std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)>;
-
-enum class Utf16 { No, LittleEndian, BigEndian };
-
-Utf16 utf16Of(const QByteArray &bytes)
-{
-    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith(QByteArray("<\0", 2))) {
-        return Utf16::LittleEndian;
-    }
-    if (bytes.startsWith("\xFE\xFF") || bytes.startsWith(QByteArray("\0<", 2))) {
-        return Utf16::BigEndian;
-    }
-    return Utf16::No;
-}
-
-/** The text in UTF-8, up to the first invalid unit; @p complete is set to whether that is all. */
-QByteArray fromUtf16(const QByteArray &bytes, Utf16 order, bool &complete)
-{
-    QString text(bytes.size() / 2, Qt::Uninitialized);
-    if (order == Utf16::BigEndian) {
-        qFromBigEndian<quint16>(bytes.constData(), text.size(), text.data());
-    } else {
-        qFromLittleEndian<quint16>(bytes.constData(), text.size(), text.data());
-    }
-    const int lone = XmlCharacters::indexOfLoneSurrogate(text);
-    const int end = lone < 0 ? text.size() : lone;
-    complete = lone < 0 && bytes.size() % 2 == 0;
-    const int start = text.startsWith(QChar::ByteOrderMark) ? 1 : 0;
-    return text.midRef(start, end - start).toUtf8();
-}
+using XmlEncodings::EByteOrder;
 
 /** The place behind the last character of @p utf8. */
 SXmlPosition endOf(const QByteArray &utf8)
@@ -131,12 +101,13 @@ public:
     bool build(const QByteArray &bytes, QDomDocument &document, SXmlError &error)
     {
         document = QDomDocument();
-        m_order = utf16Of(bytes);
+        m_order = XmlEncodings::byteOrderOfUtf16(bytes);
         m_isMarkedUtf8 = bytes.startsWith("\xEF\xBB\xBF");
         bool complete = true;
-        m_bytes = m_order == Utf16::No ? bytes : fromUtf16(bytes, m_order, complete);
+        m_bytes =
+            m_order == EByteOrder::None ? bytes : XmlEncodings::fromUtf16(bytes, m_order, complete);
         // That it is UTF-8 under another name is known only when its declaration has been read.
-        const bool isParsed = parse(m_order == Utf16::No ? nullptr : "UTF-8", complete)
+        const bool isParsed = parse(m_order == EByteOrder::None ? nullptr : "UTF-8", complete)
             || (m_isOtherName && parse("UTF-8", complete));
         if (!isParsed) {
             if (!m_isRefused) {
@@ -305,7 +276,7 @@ private:
     bool isPossibleEncoding() const
     {
         using namespace XmlEncodings;
-        const bool isWide = m_order != Utf16::No;
+        const bool isWide = m_order != EByteOrder::None;
         if (m_encoding == nullptr) {
             return !isWide && !m_isMarkedUtf8;
         }
@@ -315,9 +286,9 @@ private:
         case UTF_16:
             return isWide;
         case UTF_16_LE:
-            return m_order == Utf16::LittleEndian;
+            return m_order == EByteOrder::Little;
         case UTF_16_BE:
-            return m_order == Utf16::BigEndian;
+            return m_order == EByteOrder::Big;
         case SINGLE_BYTE:
             return !isWide && !m_isMarkedUtf8;
         }
@@ -581,7 +552,7 @@ private:
     CXmlPositions *const m_positions;
     Parser m_parser;
     QByteArray m_bytes;
-    Utf16 m_order = Utf16::No; // of the document as it came; it is parsed as UTF-8
+    EByteOrder m_order = EByteOrder::None; // of the document as it came; it is parsed as UTF-8
     bool m_isMarkedUtf8 = false;
     bool m_isDeclared = false;
     const XmlEncodings::SEncoding *m_encoding = nullptr; // that is declared, if it is known

@@ -1,5 +1,8 @@
 #include "imported/xml/XmlEncodings.h"
 
+#include "storage/XmlCharacters.h"
+
+#include <QtEndian>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -94,6 +97,32 @@ Characters characters(const SEncoding &encoding)
         }
     }
     return result;
+}
+
+EByteOrder byteOrderOfUtf16(const QByteArray &bytes)
+{
+    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith(QByteArray("<\0", 2))) {
+        return EByteOrder::Little;
+    }
+    if (bytes.startsWith("\xFE\xFF") || bytes.startsWith(QByteArray("\0<", 2))) {
+        return EByteOrder::Big;
+    }
+    return EByteOrder::None;
+}
+
+QByteArray fromUtf16(const QByteArray &bytes, EByteOrder order, bool &complete)
+{
+    QString text(bytes.size() / 2, Qt::Uninitialized);
+    if (order == EByteOrder::Big) {
+        qFromBigEndian<quint16>(bytes.constData(), text.size(), text.data());
+    } else {
+        qFromLittleEndian<quint16>(bytes.constData(), text.size(), text.data());
+    }
+    const int lone = XmlCharacters::indexOfLoneSurrogate(text);
+    const int end = lone < 0 ? text.size() : lone;
+    complete = lone < 0 && bytes.size() % 2 == 0;
+    const int start = text.startsWith(QChar::ByteOrderMark) ? 1 : 0;
+    return text.midRef(start, end - start).toUtf8();
 }
 
 bool beginsWithUtf8(const QByteArray &bytes)

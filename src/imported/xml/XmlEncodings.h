@@ -26,6 +26,18 @@ using Characters = std::array<int, 256>;
 /** The characters of an encoding of single bytes; all -1 where Qt does not have it. */
 Characters characters(const SEncoding &encoding);
 
+/** Of documents in UTF-16; None for all others. */
+enum class EByteOrder { None, Little, Big };
+
+/** By the byte-order mark, or by the "<" that a document without one begins with. */
+EByteOrder byteOrderOfUtf16(const QByteArray &bytes);
+
+/**
+ * The text in UTF-8, without a byte-order mark and up to the first invalid unit; @p complete is set
+ * to whether that is all.
+ */
+QByteArray fromUtf16(const QByteArray &bytes, EByteOrder order, bool &complete);
+
 /** Whether valid UTF-8 stands at the beginning of @p bytes: one whole character. */
 bool beginsWithUtf8(const QByteArray &bytes);
 
