@@ -21,7 +21,7 @@ bool readUnits(QDataStream &stream, quint32 count, Units &units)
     const int unitSize = static_cast<int>(sizeof(typename Units::value_type));
     const quint32 firstStep = 1024;
     // Qt's containers hold so many bytes at most, with what they keep of themselves.
-    const quint32 most = static_cast<quint32>((std::numeric_limits<int>::max() - 64) / unitSize);
+    const auto most = static_cast<quint32>((std::numeric_limits<int>::max() - 64) / unitSize);
 
     quint32 size = 0;
     do {
