@@ -27,6 +27,17 @@ int next(const Used &used)
 
 } // namespace
 
+int free(const QList<quint8> &numbers)
+{
+    Used used;
+    for (const quint8 number : numbers) {
+        if (number != None) {
+            used.set(number);
+        }
+    }
+    return next(used);
+}
+
 int read(const QString &text)
 {
     bool isNumber = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -21,6 +22,9 @@ QString key(const QString &text);
 
 /** The number behind the highest one in use; 0 with -1 for none, and again behind 255. */
 quint8 behind(int highest);
+
+/** The number that a drive beside those with @p numbers gets; -1 when all are in use. */
+int free(const QList<quint8> &numbers);
 
 /** The number with which a drive of a document is read. */
 struct SAssigned {

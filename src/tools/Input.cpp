@@ -79,7 +79,7 @@ bool readInput(const QString &path, QByteArray &content, QString &reason, EAcces
 
 bool openConfiguration(const QString &path, CDeviceConfigurationFile10 &file, EAccess access)
 {
-    const bool isBuffered = isStandardStream(path) || (access == EAccess::READ && isReadOnce(path));
+    const bool isBuffered = isStandardStream(path) || (access == EAccess::READ && isDevice(path));
     if (!isBuffered) {
         return file.open(path);
     }

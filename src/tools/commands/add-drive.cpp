@@ -26,11 +26,11 @@ CSubDeviceElement newDrive(const QString &type)
 /** The number that a reader would give a drive behind all others; -1 when all are in use. */
 int freeNumber(const CDeviceElement &device)
 {
-    QStringList numbers;
+    QList<quint8> numbers;
     for (const CSubDeviceElement &drive : device.subDevices()) {
-        numbers.append(QString::number(drive.driveId()));
+        numbers.append(drive.driveId());
     }
-    return DriveNumbers::assigned(numbers << QString()).constLast().number;
+    return DriveNumbers::free(numbers);
 }
 
 void describe(CommandLine &line)
