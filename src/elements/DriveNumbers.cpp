@@ -27,7 +27,7 @@ int next(const Used &used)
 
 } // namespace
 
-int free(const QList<quint8> &numbers)
+int nextFree(const QList<quint8> &numbers)
 {
     Used used;
     for (const quint8 number : numbers) {

@@ -24,7 +24,7 @@ QString key(const QString &text);
 quint8 behind(int highest);
 
 /** The number that a drive beside those with @p numbers gets; -1 when all are in use. */
-int free(const QList<quint8> &numbers);
+int nextFree(const QList<quint8> &numbers);
 
 /** The number with which a drive of a document is read. */
 struct SAssigned {

@@ -30,7 +30,7 @@ int freeNumber(const CDeviceElement &device)
     for (const CSubDeviceElement &drive : device.subDevices()) {
         numbers.append(drive.driveId());
     }
-    return DriveNumbers::free(numbers);
+    return DriveNumbers::nextFree(numbers);
 }
 
 void describe(CommandLine &line)
